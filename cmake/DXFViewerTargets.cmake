@@ -1,0 +1,39 @@
+# What every target of the project has in common.
+
+include(CheckCXXCompilerFlag)
+
+set(DXFVIEWER_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+
+# dxfviewer_target_defaults(TARGET): the language, warnings and sanitizers that all code here is
+# built with. All of it is private: a host that links the library inherits nothing of this.
+function(dxfviewer_target_defaults target)
+    target_compile_features(${target} PRIVATE cxx_std_17)
+    set_target_properties(${target} PROPERTIES
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    foreach(flag IN LISTS DXFVIEWER_WARNINGS)
+        string(MAKE_C_IDENTIFIER "DXFVIEWER_HAS${flag}" known)
+        check_cxx_compiler_flag(${flag} ${known})
+        if(${known})
+            target_compile_options(${target} PRIVATE ${flag})
+        endif()
+    endforeach()
+    if(DXFVIEWER_WERROR)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    # A leak detector without frame pointers walks past Qt's libraries only by luck.
+    if(DXFVIEWER_SANITIZE)
+        list(JOIN DXFVIEWER_SANITIZE "," sanitizers)
+        target_compile_options(${target} PRIVATE
+            -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=${sanitizers})
+    endif()
+    # The fuzzers follow what the code does; only their own executables have libFuzzer's main().
+    if(DXFVIEWER_BUILD_FUZZERS)
+        target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+        target_link_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+    endif()
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+endfunction()

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QStringList>
+
+class DXFViewer;
+class QMenu;
+class QTranslator;
+class QUndoStack;
+
+// The code on the page for hosts, and what the tests need of it.
+
+bool isShowable(const QByteArray& text);
+bool save(DXFViewer& viewer, const QString& fileName);
+QUndoStack* editStack(const DXFViewer& viewer);
+void addEditActions(DXFViewer& viewer, QMenu& menu);
+void routeLog();
+QStringList& hostLog();
+bool translate(QTranslator& translator, const QString& folder);

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/edit/DXFEditor.h"
+
+#include "dxfviewer/edit/DeleteItems.h"
+#include "dxfviewer/edit/RubberTool.h"
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/render/DXFGraphicsItem.h"
+
+#include <QDebug>
+#include <QGraphicsScene>
+#include <QPainter>
+#include <QScopedValueRollback>
+
+namespace
+{
+
+constexpr double overlayMarginUnits = 50000.0;
+constexpr int undoLimit = 10;
+
+} // namespace
+
+DXFEditor::DXFEditor(DXFGraphicsItem& item)
+    : QGraphicsObject(nullptr)
+    , m_item(item)
+    , m_itemLife(item.lifeToken())
+    , m_stack(nullptr)
+{
+    // Added later than the item and at the same z value, the overlay lies on top of it.
+    if (m_item.scene())
+        m_item.scene()->addItem(this);
+    setAcceptHoverEvents(true);
+    setFlag(QGraphicsItem::ItemIsFocusable);
+    setFlag(QGraphicsItem::ItemHasNoContents);
+    setAcceptedMouseButtons(Qt::LeftButton);
+    qDebug("DXFEditor created ");
+    setupTool();
+    m_stack.setUndoLimit(undoLimit);
+    connect(m_tool, SIGNAL(requestDelete()), this, SLOT(onDeleteRequested()), Qt::DirectConnection);
+    connect(&m_stack, SIGNAL(indexChanged(int)), this, SLOT(redrawDoc()), Qt::DirectConnection);
+}
+
+DXFEditor::~DXFEditor()
+{
+    m_isEnding = true;
+    if (itemIsAlive()) {
+        m_item.removeSceneEventFilter(this);
+        m_item.setEnabled(false);
+    }
+    cleanupTool();
+    // Clearing the stack moves its index. Whoever listens must not get to run, much less an event
+    // loop, while the overlay is still in its scene and no longer whole.
+    m_stack.blockSignals(true);
+}
+
+QUndoStack* DXFEditor::stack()
+{
+    return &m_stack;
+}
+
+QRectF DXFEditor::boundingRect() const
+{
+    return sceneRect().adjusted(-overlayMarginUnits, -overlayMarginUnits, overlayMarginUnits,
+                                overlayMarginUnits);
+}
+
+/// The rectangle of the item's scene. A scene without a rectangle of its own asks its items for
+/// theirs, this one among them, which then answers with what it overlays.
+QRectF DXFEditor::sceneRect() const
+{
+    const QGraphicsScene* itemScene = itemIsAlive() ? m_item.scene() : scene();
+    if (m_isAskingScene || !itemScene)
+        return itemIsAlive() ? m_item.sceneBoundingRect() : QRectF();
+    const QScopedValueRollback<bool> guard(m_isAskingScene, true);
+    return itemScene->sceneRect();
+}
+
+void DXFEditor::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
+                      QWidget* /*widget*/)
+{
+    // A tint that shows where the overlay lies. ItemHasNoContents switches it off: it is meant to
+    // be there for whoever removes the flag, and not to be seen.
+    const QRectF rect = boundingRect();
+    painter->setBrush(QBrush(QColor(0, 255, 0, 40), Qt::SolidPattern));
+    painter->drawRects(&rect, 1);
+}
+
+bool DXFEditor::sceneEvent(QEvent* event)
+{
+    // Handling the event may end edit mode, and this overlay with it.
+    const QPointer<DXFEditor> self(this);
+    if (m_tool)
+        m_tool->handle(*event);
+    if (self)
+        redrawDoc();
+    return false;
+}
+
+void DXFEditor::onDeleteRequested()
+{
+    const auto document = itemIsAlive() ? m_item.document() : nullptr;
+    if (!document)
+        return;
+
+    const QVector<int> ids = document->selectedIDs();
+    document->setSelected(QVector<int>());
+    if (!ids.isEmpty())
+        m_stack.push(new DeleteItems(document, ids));
+}
+
+void DXFEditor::redrawDoc()
+{
+    if (itemIsAlive())
+        m_item.update();
+}
+
+void DXFEditor::setupTool()
+{
+    if (!itemIsAlive())
+        return;
+    m_tool = new RubberTool(m_item.document());
+    if (QGraphicsItem* marker = m_tool->getMarker()) {
+        marker->setParentItem(this);
+        marker->setPos(m_item.boundingRect().center());
+    }
+}
+
+void DXFEditor::cleanupTool()
+{
+    delete m_tool;
+}
+
+bool DXFEditor::itemIsAlive() const
+{
+    return !m_itemLife.expired();
+}

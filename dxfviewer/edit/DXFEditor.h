@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/dxfviewer_export.h"
+#include "dxfviewer/edit/ISelectionTool.h"
+
+#include <QGraphicsObject>
+#include <QPointer>
+#include <QRectF>
+#include <QUndoStack>
+
+#include <memory>
+
+class DXFGraphicsItem;
+
+/**
+ * Edit mode: an overlay that hands the events of a scene to the eraser and turns its requests into
+ * undoable commands.
+ *
+ * It lies over the item in the item's scene, which it joins at once and which owns it from then on
+ * as any scene owns its items. It reaches far beyond the drawing, so that strokes may begin
+ * outside. Destroying it ends edit mode: the edits stay in the document, the undo history goes, and
+ * the item stays disabled, in which state it still takes the presses of the left button.
+ */
+class DXFVIEWER_EXPORT DXFEditor : public QGraphicsObject
+{
+    Q_OBJECT
+
+public:
+    /// The item must be in a scene. When it is destroyed before the editor, the editor stays
+    /// without anything to do.
+    explicit DXFEditor(DXFGraphicsItem& item);
+    ~DXFEditor() override;
+
+    /// The undo history of this period of edit mode, at most ten commands. Never null, owned by
+    /// the editor.
+    QUndoStack* stack();
+
+    /// Whether the editor is being destroyed, so that nobody who hears of it destroys it again.
+    bool isEnding() const { return m_isEnding; }
+
+    /// The scene's rectangle grown by 50000 drawing units on every side.
+    QRectF boundingRect() const override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+protected:
+    bool sceneEvent(QEvent* event) override;
+
+private Q_SLOTS:
+    void onDeleteRequested();
+    void redrawDoc();
+    void setupTool();
+    void cleanupTool();
+
+private:
+    bool itemIsAlive() const;
+    QRectF sceneRect() const;
+
+    DXFGraphicsItem& m_item;
+    // Before the stack, which tells its group when it goes: what listens there may ask the scene,
+    // and the scene this overlay, for rectangles.
+    std::weak_ptr<const void> m_itemLife;
+    mutable bool m_isAskingScene = false;
+    bool m_isEnding = false;
+    QUndoStack m_stack;
+    QPointer<ISelectionTool> m_tool;
+};

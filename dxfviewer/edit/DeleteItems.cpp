@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/edit/DeleteItems.h"
+
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/IdSet.h"
+
+#include <algorithm>
+#include <typeinfo>
+#include <utility>
+#include <vector>
+
+using dxfviewer::IdSet;
+
+namespace
+{
+
+constexpr int polylineType = 0;
+
+using EntityList = QList<QSharedPointer<DXFEntity>>;
+
+/**
+ * A clone as DXFEntity::clone() makes it.
+ *
+ * A plain polyline's clone lies in one block with its reference counts. A command keeps a clone of
+ * every entity, so that a block less for each counts in time and in memory.
+ */
+QSharedPointer<DXFEntity> cloneOf(DXFEntity& entity)
+{
+    if (typeid(entity) != typeid(DXFPolyline))
+        return QSharedPointer<DXFEntity>(entity.clone());
+    auto copy = QSharedPointer<DXFPolyline>::create(static_cast<const DXFPolyline&>(entity));
+    copy->regenerateID();
+    return copy;
+}
+
+/// Removes every entry of the entities that are erased.
+void remove(std::vector<const DXFEntity*> erased, EntityList& entities)
+{
+    if (erased.empty())
+        return;
+    std::sort(erased.begin(), erased.end());
+    const auto isErased = [&erased](const QSharedPointer<DXFEntity>& entity) {
+        return std::binary_search(erased.cbegin(), erased.cend(), entity.data());
+    };
+    entities.erase(std::remove_if(entities.begin(), entities.end(), isErased), entities.end());
+}
+
+bool losesNothing(const QVector<Segment>& segments, const IdSet& deleted)
+{
+    return std::none_of(segments.cbegin(), segments.cend(), [&deleted](const Segment& segment) {
+        return deleted.contains(segment.id());
+    });
+}
+
+} // namespace
+
+/// Consecutive segments that a deletion leaves.
+struct DeleteItems::Run {
+    const Segment* begin = nullptr;
+    const Segment* end = nullptr;
+};
+
+DeleteItems::DeleteItems(QSharedPointer<DXFDocument> document, QVector<int> const& ids)
+    : m_document(std::move(document))
+    , m_ids(ids)
+{
+}
+
+DeleteItems::~DeleteItems() = default;
+
+void DeleteItems::redo()
+{
+    if (!m_document)
+        return;
+    takeSnapshot();
+
+    std::vector<const DXFEntity*> erased;
+    const EntityList added = cutAll(erased);
+    remove(std::move(erased), m_document->m_entities);
+    m_document->m_entities += added;
+}
+
+void DeleteItems::undo()
+{
+    if (!m_document)
+        return;
+
+    // The list stays what it is, unless somebody else holds it too, and gets other entries.
+    EntityList& entities = m_document->m_entities;
+    while (entities.size() > m_snapshot.size())
+        entities.removeLast();
+    auto clone = m_snapshot.begin();
+    for (auto& entity : entities)
+        (clone++)->swap(entity);
+    for (; clone != m_snapshot.end(); ++clone)
+        entities.append(*clone);
+    m_snapshot.clear();
+}
+
+void DeleteItems::splitPoly(QSharedPointer<DXFPolyline> const& polyline)
+{
+    if (!m_document || !polyline)
+        return;
+
+    // Not a redo: the pieces are new ones.
+    PiecesByOrigin formerPieces;
+    EntityList added;
+    if (!cut(*polyline, IdSet(m_ids), formerPieces, added))
+        m_document->deleteEntity(polyline);
+    for (const auto& piece : qAsConst(added))
+        m_document->addEntity(piece);
+}
+
+void DeleteItems::takeSnapshot()
+{
+    m_snapshot.clear();
+    int nullKey = 0;
+    const EntityList entities = m_document->entities();
+    for (const auto& entity : entities) {
+        auto copy = entity ? cloneOf(*entity) : nullptr;
+        // Null entries have no id; no id is negative, so each finds a key of its own there.
+        const int key = entity ? entity->id() : --nullKey;
+        m_snapshot.insert(m_snapshot.cend(), key, nullptr).value().swap(copy);
+    }
+}
+
+QVector<DeleteItems::Run> DeleteItems::survivingRuns(const QVector<Segment>& segments,
+                                                     const IdSet& deleted)
+{
+    const auto isDeleted = [&deleted](const Segment& segment) {
+        return deleted.contains(segment.id());
+    };
+    const Segment* const end = segments.constData() + segments.size();
+    QVector<Run> runs;
+    Run run{nullptr, segments.constData()};
+    while (run.end != end) {
+        run.begin = std::find_if_not(run.end, end, isDeleted);
+        run.end = std::find_if(run.begin, end, isDeleted);
+        if (run.begin != run.end)
+            runs.append(run);
+    }
+    return runs;
+}
+
+/// Cuts the deleted segments out of all polylines. Returns the pieces that are to be added to the
+/// document; the polylines of which nothing is left go to erased.
+DeleteItems::EntityList DeleteItems::cutAll(std::vector<const DXFEntity*>& erased)
+{
+    const IdSet deleted(m_ids);
+    PiecesByOrigin formerPieces = m_pieces;
+    EntityList added;
+    const EntityList entities = m_document->entities();
+    for (const auto& entity : entities) {
+        if (!entity || entity->type() != polylineType)
+            continue;
+        if (!cut(static_cast<DXFPolyline&>(*entity), deleted, formerPieces, added))
+            erased.push_back(entity.data());
+    }
+    return added;
+}
+
+/// Cuts the deleted segments out of a polyline, which keeps the first piece, and appends the
+/// others to added. False if nothing is left of it: the polyline itself is then unchanged.
+bool DeleteItems::cut(DXFPolyline& polyline, const IdSet& deleted, PiecesByOrigin& formerPieces,
+                      EntityList& added)
+{
+    if (polyline.m_segments.isEmpty())
+        return false;
+    if (losesNothing(polyline.m_segments, deleted)) {
+        // Its own list, so that it stays shared with the snapshot.
+        polyline.setSegments(polyline.m_segments);
+        return true;
+    }
+
+    const auto segments = polyline.segments();
+    const auto runs = survivingRuns(segments, deleted);
+    if (runs.isEmpty())
+        return false;
+    const Run& first = runs.first();
+    polyline.setSegments(segments.mid(static_cast<int>(first.begin - segments.constData()),
+                                      static_cast<int>(first.end - first.begin)));
+    for (auto run = runs.cbegin() + 1; run != runs.cend(); ++run)
+        added.append(makePiece(polyline, *run, formerPieces));
+    return true;
+}
+
+QSharedPointer<DXFPolyline> DeleteItems::makePiece(DXFPolyline& cutPolyline, const Run& run,
+                                                   PiecesByOrigin& formerPieces)
+{
+    QSharedPointer<DXFPolyline> piece(cutPolyline.clone());
+    piece->setVerticesAlong(run.begin, run.end);
+    piece->setup();
+
+    const int origin = run.begin->id();
+    const auto former = formerPieces.find(origin);
+    if (former != formerPieces.end() && !former->isEmpty())
+        piece->takeSegmentIdsFrom(former->takeFirst());
+    else
+        m_pieces[origin].append(piece->segments());
+    return piece;
+}

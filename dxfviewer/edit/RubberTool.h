@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/dxfviewer_export.h"
+#include "dxfviewer/edit/ISelectionTool.h"
+#include "dxfviewer/edit/SegmentGeometry.h"
+
+#include <QSharedPointer>
+#include <QTimer>
+#include <QVector>
+
+class DXFDocument;
+class QGraphicsEllipseItem;
+class QGraphicsSceneMouseEvent;
+
+/**
+ * The eraser: a round tool that selects the segments it is swept over with the left button held,
+ * and asks for their deletion every 50 ms and at the release.
+ *
+ * Its radius is 5 device-independent pixels. At the press nothing is selected yet; moving without
+ * the left button ends a stroke.
+ */
+class DXFVIEWER_EXPORT RubberTool : public ISelectionTool
+{
+    Q_OBJECT
+
+public:
+    explicit RubberTool(QSharedPointer<DXFDocument> document);
+    /// Leaves the marker alone.
+    ~RubberTool() override;
+
+    /// The ids of the segments that lie nearer to pos, in drawing units, than the radius: polyline
+    /// by polyline, in order. Without a view the radius is infinite.
+    QVector<int> itemsUnderMouse(QPointF pos) const;
+    /// The horizontal scale, device-independent pixels per drawing unit, of the first view of the
+    /// marker's scene; 0 if there is none.
+    double getViewScaleFactor() const;
+
+    /// Starts asking for deletions every 50 ms; a tool that does so already goes on undisturbed.
+    void enable();
+    void disable();
+
+    void handleMouseEvent(QGraphicsSceneMouseEvent& event);
+
+    /// Always true.
+    bool handle(QEvent& event) override;
+    /// A red disc that keeps its size at every zoom.
+    QGraphicsItem* getMarker() override;
+
+private Q_SLOTS:
+    void emitDeleteRequest();
+
+private:
+    class Marker;
+
+    void moveMarker(const QPointF& pos);
+
+    QSharedPointer<DXFDocument> m_document;
+    QVector<int> m_collectedIds;
+    QTimer m_deleteTimer;
+    QGraphicsEllipseItem* m_marker = nullptr;
+};

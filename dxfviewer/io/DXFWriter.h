@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/dxfviewer_export.h"
+
+#include <QByteArray>
+#include <QSharedPointer>
+#include <QString>
+
+#include <memory>
+
+class DL_Dxf;
+class DL_WriterA;
+class DXFDocument;
+class DXFPolyline;
+
+/**
+ * Writes a document as release-12 DXF: line types, layers and polylines.
+ *
+ * A writer can save any number of times.
+ */
+class DXFVIEWER_EXPORT DXFWriter
+{
+public:
+    /// The document must outlive the writer.
+    explicit DXFWriter(const DXFDocument& document);
+    ~DXFWriter();
+
+    /// Writes a file. Always false: success shows in the file, and failure in a message on the
+    /// debug channel.
+    bool save(const QString& fileName);
+    /// The text of such a file; empty, after a message, if it could not be written.
+    QByteArray save();
+
+    /// @name Parts of the file
+    /// save() calls those that a drawing needs. Outside of it they write nothing.
+    /// @{
+    void writeHeader();
+    /// Not part of a saved drawing.
+    void writeVPORT_table();
+    /// All line types, after "CONTINUOUS" if the document has none of that name.
+    void writeLineType_table();
+    /// Writes nothing.
+    void writeTextStyle_table();
+    /// Writes nothing.
+    void writeUserCS_table();
+    /// Writes nothing.
+    void writeVIEW_table();
+    /// Writes nothing.
+    void writeDIMSTYLE_table();
+    /// All layers, after a layer "0" if the document has none.
+    void writeLAYER_table();
+    /// Not part of a saved drawing.
+    void writeAPPID_table();
+    /// All polylines. An entity of an unknown kind is logged and left out.
+    void writeEntities_section();
+    /// @}
+
+private:
+    Q_DISABLE_COPY(DXFWriter)
+
+    bool write(const QString& fileName);
+    void writeDrawing();
+    void writePolyline(const QSharedPointer<DXFPolyline>& polyline);
+
+    const DXFDocument& m_document;
+    std::unique_ptr<DL_Dxf> m_parser;
+    std::unique_ptr<DL_WriterA> m_writer;
+};

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <dl_writer_ascii.h>
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace dxfviewer
+{
+
+/**
+ * Writes groups to a file in dxflib's own form, without its weak spots.
+ *
+ * dxflib's writer overruns its buffer at large numbers, lets the locale decide on digits, writes
+ * nan as it is, lets a name smuggle groups into the file, flushes after each number, and hides
+ * errors. The text here is the same for every number that dxflib can write, and exact beyond.
+ */
+class GroupWriter final : public DL_WriterA
+{
+public:
+    /// Creates the file, or empties it.
+    GroupWriter(const char* fileName, DL_Codes::version version);
+    ~GroupWriter() override;
+
+    void dxfReal(int code, double value) const override;
+    void dxfInt(int code, int value) const override;
+    void dxfHex(int code, int value) const override;
+    void dxfString(int code, const char* value) const override;
+    void dxfString(int code, const std::string& value) const override;
+
+    /// Writes what is left and closes the file. False if any of the text is not in the file.
+    bool finish();
+
+private:
+    struct FileCloser {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    void appendCode(int code) const;
+    void appendLine(std::string_view line) const;
+    void flushIfLong() const;
+    void flush() const;
+
+    mutable std::unique_ptr<std::FILE, FileCloser> m_file;
+    mutable std::string m_text;
+    mutable bool m_failed = false;
+};
+
+} // namespace dxfviewer

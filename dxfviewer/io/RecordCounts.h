@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QtGlobal>
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace dxfviewer
+{
+
+/**
+ * A group that announces how many items a record holds, and the items themselves.
+ *
+ * dxflib allocates what is announced, delivers some items whether they came or not, and keeps both
+ * count and items for the next record of the kind that announces nothing.
+ */
+class AnnouncedCount
+{
+public:
+    constexpr AnnouncedCount(int countCode, int itemCode)
+        : m_countCode(countCode)
+        , m_itemCode(itemCode)
+    {
+    }
+
+    /// Code of the group that announces.
+    int countCode() const { return m_countCode; }
+    /// Code of the group that each item begins with.
+    int itemCode() const { return m_itemCode; }
+
+    void beginRecord();
+    /// Only the last announcement of a record counts, for the items after it.
+    void announce(int count);
+    void addItem() { ++m_items; }
+
+    bool isAnnounced() const { return m_announced; }
+    int count() const { return m_count; }
+    /// What the record may announce at most, or must if it announces nothing.
+    int soundCount() const;
+    bool isSound() const;
+    /// The same for a record that is not ended, which dxflib never delivers.
+    bool isSoundWithoutEnd() const { return !m_announced || isSound(); }
+
+    /// dxflib has read the record with this count.
+    void endRecord(int count) { m_carried = count; }
+
+private:
+    int m_countCode;
+    int m_itemCode;
+    bool m_announced = false;
+    int m_count = 0;
+    std::size_t m_items = 0;
+    int m_carried = 0;
+};
+
+/**
+ * The boundary loops of a hatch.
+ *
+ * dxflib drops those of the hatch before only when the first loop of the next one begins.
+ */
+class HatchLoops
+{
+public:
+    void beginRecord() { m_begun = false; }
+    void addGroup(int code, std::string_view value);
+    bool isSound() const { return m_begun || !m_carried; }
+
+private:
+    bool m_begun = false;
+    bool m_carried = false;
+};
+
+/// The counts of the current record, and what dxflib carries over from those before.
+class RecordCounts
+{
+public:
+    RecordCounts();
+
+    void beginRecord(std::string_view kind);
+
+    AnnouncedCount* begin() { return m_begin; }
+    AnnouncedCount* end() { return m_end; }
+    /// Null in other records.
+    HatchLoops* hatchLoops() { return m_currentLoops; }
+
+private:
+    Q_DISABLE_COPY(RecordCounts)
+
+    void select(std::size_t first, std::size_t last);
+
+    std::array<AnnouncedCount, 5> m_counts;
+    AnnouncedCount* m_begin;
+    AnnouncedCount* m_end;
+    HatchLoops m_loops;
+    HatchLoops* m_currentLoops = nullptr;
+};
+
+} // namespace dxfviewer

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/io/TextRepair.h"
+
+#include "dxfviewer/io/GroupScan.h"
+#include "dxfviewer/io/RecordCounts.h"
+#include "dxfviewer/io/Utf8.h"
+
+#include <array>
+#include <utility>
+
+namespace
+{
+
+using dxfviewer::AnnouncedCount;
+using dxfviewer::RecordCounts;
+
+/// A group that makes dxflib drop the loops of the hatch before, and begins none.
+constexpr std::string_view noLoops = "92\n0\n";
+constexpr int loopCode = 92;
+// A spline's.
+constexpr std::size_t mostCounts = 3;
+// Room for what the repair usually adds.
+constexpr std::size_t spareShare = 8;
+
+/// What there is of a line for dxflib.
+std::string_view readablePart(std::string_view line)
+{
+    const std::string_view text = line.substr(0, line.find('\0'));
+    return text.substr(0, dxfviewer::utf8Prefix(text, dxfviewer::longestStreamLine));
+}
+
+class Repair
+{
+public:
+    explicit Repair(std::string_view text);
+
+    std::string takeText() { return std::move(m_text); }
+
+private:
+    /// Where a count stands in the repaired text.
+    struct Place {
+        std::size_t at = 0;
+        std::size_t length = 0;
+    };
+
+    void addGroup(std::string_view codeLine, std::string_view valueLine);
+    void addCount(int code, std::string_view value);
+    void addLine(std::string_view line);
+    void endRecord(bool delivered);
+    void mendCount(AnnouncedCount& count, Place& place, bool delivered);
+    void replace(const Place& place, const std::string& text);
+
+    std::string m_text;
+    RecordCounts m_counts;
+    /// Those of the current record, in the order of its counts.
+    std::array<Place, mostCounts> m_places;
+    /// Where the groups of the current record begin, after its name.
+    std::size_t m_recordStart = 0;
+};
+
+Repair::Repair(std::string_view text)
+{
+    m_text.reserve(text.size() + text.size() / spareShare);
+    const std::size_t scanned =
+        dxfviewer::scanGroups(text, [this](std::string_view codeLine, std::string_view valueLine) {
+            addGroup(codeLine, valueLine);
+            return true;
+        });
+
+    // A last value may lack its line feed or be missing. A code without line feed is never read.
+    const std::string_view rest = text.substr(scanned);
+    if (const std::size_t codeLength = rest.find('\n'); codeLength != std::string_view::npos)
+        addGroup(rest.substr(0, codeLength), rest.substr(codeLength + 1));
+    endRecord(false);
+}
+
+void Repair::addGroup(std::string_view codeLine, std::string_view valueLine)
+{
+    const std::string_view codeText = readablePart(codeLine);
+    const std::string_view value = readablePart(valueLine);
+    const int code = dxfviewer::toInt(codeText);
+    if (dxfviewer::isBareVersionComment(code, dxfviewer::strippedValue(value)))
+        return;
+
+    const bool begins = dxfviewer::beginsRecord(code);
+    if (begins)
+        endRecord(true);
+    addLine(codeText);
+    if (!begins)
+        addCount(code, value);
+    addLine(dxfviewer::isReal(code) && dxfviewer::isBlank(value) ? "0" : value);
+    if (begins) {
+        m_counts.beginRecord(dxfviewer::strippedValue(value));
+        m_recordStart = m_text.size();
+    }
+}
+
+/// Takes note of the group whose value is about to be added.
+void Repair::addCount(int code, std::string_view value)
+{
+    auto place = m_places.begin();
+    for (AnnouncedCount& count : m_counts) {
+        if (code == count.itemCode()) {
+            count.addItem();
+        } else if (code == count.countCode()) {
+            // Only the last one counts: dxflib must not allocate for the others.
+            if (count.isAnnounced() && count.count() != 0)
+                replace(*place, "0");
+            count.announce(dxfviewer::toInt(value));
+            *place = {m_text.size(), value.size()};
+        }
+        ++place;
+    }
+    if (auto* loops = m_counts.hatchLoops())
+        loops->addGroup(code, value);
+}
+
+void Repair::addLine(std::string_view line)
+{
+    m_text.append(line);
+    m_text.push_back('\n');
+}
+
+void Repair::endRecord(bool delivered)
+{
+    auto place = m_places.begin();
+    for (AnnouncedCount& count : m_counts)
+        mendCount(count, *place++, delivered);
+
+    auto* loops = m_counts.hatchLoops();
+    if (delivered && loops && !loops->isSound()) {
+        m_text.insert(m_recordStart, noLoops);
+        loops->addGroup(loopCode, "0");
+    }
+}
+
+void Repair::mendCount(AnnouncedCount& count, Place& place, bool delivered)
+{
+    const int sound = count.soundCount();
+    const std::string digits = std::to_string(sound);
+    if (count.isSound()) {
+        // Nothing to mend.
+    } else if (count.isAnnounced()) {
+        replace(place, digits);
+    } else if (delivered) {
+        replace({m_recordStart, 0}, std::to_string(count.countCode()) + '\n' + digits + '\n');
+    }
+    count.endRecord(sound);
+}
+
+/// The places of other counts move along with the text that they stand in.
+void Repair::replace(const Place& place, const std::string& text)
+{
+    const Place replaced = place;
+    m_text.replace(replaced.at, replaced.length, text);
+    for (Place& other : m_places) {
+        if (other.at > replaced.at)
+            other.at += text.size() - replaced.length;
+    }
+}
+
+} // namespace
+
+namespace dxfviewer
+{
+
+std::string repaired(std::string_view text)
+{
+    return Repair(text).takeText();
+}
+
+} // namespace dxfviewer

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace dxfviewer
+{
+
+/**
+ * The text of a drawing, changed so that dxflib survives it and reads what it says.
+ *
+ * - A line ends at its first zero byte, and is cut where dxflib cannot take more of it, but not
+ *   inside a UTF-8 sequence.
+ * - A blank number becomes 0.
+ * - A count is lowered to what its record holds, and supplied where dxflib would use the one of a
+ *   record before.
+ * - A comment goes that dxflib cannot read.
+ *
+ * Everything else stays, in its order. The result is sound (see TextCheck), at most three times as
+ * long, and equal to a text that was sound but for the ends of its last line.
+ */
+std::string repaired(std::string_view text);
+
+} // namespace dxfviewer

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace dxfviewer
+{
+
+/**
+ * How much of a text to keep so that it is at most as long as said.
+ *
+ * The cut is not made inside a UTF-8 sequence. Where the text is not UTF-8 it is made anywhere.
+ */
+std::size_t utf8Prefix(std::string_view text, std::size_t longest);
+
+} // namespace dxfviewer

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/model/DXFDocument.h"
+
+#include "dxfviewer/model/DXFEntity.h"
+#include "dxfviewer/model/DXFLayer.h"
+#include "dxfviewer/model/DXFLineType.h"
+#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/IdSet.h"
+#include "dxfviewer/render/DXFPaintHelper.h"
+
+using dxfviewer::IdSet;
+
+namespace
+{
+
+constexpr int polylineType = 0;
+
+/// The entity as a polyline, or null if it is another kind.
+DXFPolyline* asPolyline(const QSharedPointer<DXFEntity>& entity)
+{
+    return entity->type() == polylineType ? static_cast<DXFPolyline*>(entity.data()) : nullptr;
+}
+
+/// Adds a named object to its list unless it is null or its name is taken: the first one wins.
+template <typename Named>
+bool addNamed(QList<QSharedPointer<Named>>& list, QHash<QString, QSharedPointer<Named>>& byName,
+              const QSharedPointer<Named>& added)
+{
+    if (!added || byName.contains(added->name()))
+        return false;
+    byName.insert(added->name(), added);
+    list.append(added);
+    return true;
+}
+
+} // namespace
+
+DXFDocument::DXFDocument() = default;
+DXFDocument::~DXFDocument() = default;
+
+QSharedPointer<DXFLayer> DXFDocument::getLayer(const QString& name) const
+{
+    return m_layersByName.value(name);
+}
+
+QSharedPointer<DXFLineType> DXFDocument::getLineType(const QString& name) const
+{
+    return m_lineTypesByName.value(name);
+}
+
+bool DXFDocument::addLayer(QSharedPointer<DXFLayer> layer)
+{
+    return addNamed(m_layers, m_layersByName, layer);
+}
+
+bool DXFDocument::addLineType(QSharedPointer<DXFLineType> lineType)
+{
+    return addNamed(m_lineTypes, m_lineTypesByName, lineType);
+}
+
+bool DXFDocument::addEntity(QSharedPointer<DXFEntity> entity)
+{
+    m_entities.append(entity);
+    return true;
+}
+
+bool DXFDocument::deleteEntity(QSharedPointer<DXFEntity> entity)
+{
+    m_entities.removeAll(entity);
+    return true;
+}
+
+void DXFDocument::setSelected(QVector<int> ids)
+{
+    const IdSet set(ids);
+    for (const auto& entity : qAsConst(m_entities)) {
+        if (!entity)
+            continue;
+        entity->setSelected(set.contains(entity->id()));
+        if (auto* polyline = asPolyline(entity))
+            polyline->selectSegments(set);
+    }
+}
+
+void DXFDocument::setHovered(QVector<int> ids)
+{
+    const IdSet set(ids);
+    for (const auto& entity : qAsConst(m_entities)) {
+        if (!entity)
+            continue;
+        entity->setHovered(set.contains(entity->id()));
+        if (auto* polyline = asPolyline(entity))
+            polyline->hoverSegments(set);
+    }
+}
+
+QVector<int> DXFDocument::selectedIDs() const
+{
+    QVector<int> ids;
+    for (const auto& entity : m_entities) {
+        const DXFPolyline* polyline = entity ? asPolyline(entity) : nullptr;
+        if (!polyline)
+            continue;
+        if (polyline->isSelected())
+            ids.append(polyline->id());
+        for (const Segment& segment : qAsConst(polyline->m_segments)) {
+            if (segment.isSelected())
+                ids.append(segment.id());
+        }
+    }
+    return ids;
+}
+
+void DXFDocument::setup()
+{
+    if (!m_needsSetup)
+        return;
+
+    DXFPaintHelper paintHelper(*this);
+    for (const auto& entity : qAsConst(m_entities)) {
+        if (!entity)
+            continue;
+        entity->setLineWidth(paintHelper.lineWidth(entity));
+        entity->setColor(paintHelper.lineColor(entity));
+        entity->setup();
+    }
+    m_needsSetup = false;
+}

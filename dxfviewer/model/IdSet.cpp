@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/model/IdSet.h"
+
+#include <algorithm>
+
+namespace dxfviewer
+{
+
+namespace
+{
+
+// A set of bits up to this span, a megabyte, is small enough to be made for every mouse move.
+constexpr size_t freeSpan = size_t(1) << 23;
+
+// Beyond that the bits may take this many times the number of ids, which keeps memory linear.
+constexpr size_t spanPerId = 64;
+
+} // namespace
+
+IdSet::IdSet(const QVector<int>& ids)
+{
+    if (ids.isEmpty())
+        return;
+
+    const auto [least, greatest] = std::minmax_element(ids.cbegin(), ids.cend());
+    m_first = static_cast<unsigned>(*least);
+    // Ids come from outside too: a list from the least to the greatest int must not wrap to 0.
+    const size_t span = size_t(static_cast<unsigned>(*greatest) - m_first) + 1;
+    m_span = static_cast<unsigned>(std::min(span, size_t(~0U)));
+
+    if (span <= std::max(freeSpan, spanPerId * static_cast<size_t>(ids.size()))) {
+        m_bits.resize(span);
+        for (int id : ids)
+            m_bits[static_cast<unsigned>(id) - m_first] = true;
+        return;
+    }
+    m_sorted.reserve(static_cast<size_t>(ids.size()));
+    for (int id : ids)
+        m_sorted.push_back(static_cast<unsigned>(id) - m_first);
+    std::sort(m_sorted.begin(), m_sorted.end());
+}
+
+bool IdSet::isListed(unsigned offset) const
+{
+    return std::binary_search(m_sorted.begin(), m_sorted.end(), offset);
+}
+
+} // namespace dxfviewer

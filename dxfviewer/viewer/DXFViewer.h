@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/dxfviewer_export.h"
+
+#include <QByteArray>
+#include <QMainWindow>
+#include <QPointer>
+#include <QSharedPointer>
+
+#include <memory>
+
+class DXFDocument;
+class DXFGraphicsItem;
+class QAction;
+class QToolBar;
+class QUndoView;
+class Ui_Viewer;
+class View;
+
+/**
+ * A ready window that shows a DXF drawing and lets the user erase parts of it.
+ *
+ * The host hands a drawing in with loadData() and takes it back with getData(). The user switches
+ * the action "Edit .dxf" on and sweeps the eraser; Undo and Redo then stand in the tool bar. There
+ * is one edit mode in the whole process: switching it on in one window ends it in any other, and
+ * so does destroying any window.
+ */
+class DXFVIEWER_EXPORT DXFViewer : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit DXFViewer(QWidget* parent = nullptr);
+    ~DXFViewer() override;
+
+    /**
+     * Reads a drawing from a file; it is shown 5 ms later, from the event loop.
+     *
+     * The view is fitted to the drawing at that moment, once: show the window first. On failure
+     * the reason goes to the debug channel and the picture stays, while getData() returns what
+     * was read.
+     */
+    void loadData(const QString& fileName);
+    /// The same from the text of a DXF file, up to its first zero byte.
+    void loadData(const QByteArray& text);
+
+    /// The drawing with all edits as release-12 DXF: layers, line types and polylines. Empty if
+    /// nothing was ever loaded or if it could not be written.
+    QByteArray getData();
+
+private Q_SLOTS:
+    void on_actionOpen_dxf_triggered();
+    void on_actionSave_dxf_triggered();
+    void on_actionEdit_dxf_toggled(bool arg1);
+    void postLoad();
+
+private:
+    template <typename Source>
+    void load(const Source& source);
+    bool hasItem() const;
+    void endEditingOfItem();
+    void deleteItem();
+
+    Ui_Viewer* m_ui;
+    DXFGraphicsItem* m_graphicsItem = nullptr;
+    QSharedPointer<DXFDocument> m_document;
+    // The parts of the window are within the host's reach, and a host may destroy them: the view
+    // goes when another central widget is set, and whoever clears the scene destroys the item.
+    QPointer<QUndoView> m_undoView;
+    QPointer<View> m_view;
+    QPointer<QToolBar> m_toolBar;
+    QPointer<QAction> m_editAction;
+    std::weak_ptr<const void> m_itemLife;
+};

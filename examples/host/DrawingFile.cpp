@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "DrawingFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(DrawingFile)
+};
+
+// The drawing and what is read from it must fit into memory.
+constexpr qint64 largestDrawingBytes = 512LL * 1024 * 1024;
+
+constexpr const char* firstRecord = "SECTION";
+
+bool isBlank(char character)
+{
+    return character == ' ' || character == '\t' || character == '\r';
+}
+
+/// Whether there is nothing but blanks between this place and the end of its line, in the direction
+/// of the step.
+template <typename Index>
+bool isRestBlank(const QByteArray& text, Index at, Index step)
+{
+    while (at >= 0 && at < text.size() && isBlank(text.at(at)))
+        at += step;
+    return at < 0 || at >= text.size() || text.at(at) == '\n';
+}
+
+/// Whether there is a line with this text, which may have blanks about it.
+bool hasLine(const QByteArray& text, const QByteArray& line)
+{
+    using Index = decltype(text.size());
+    for (Index at = text.indexOf(line); at >= 0; at = text.indexOf(line, at + 1)) {
+        if (isRestBlank<Index>(text, at - 1, -1) && isRestBlank<Index>(text, at + line.size(), 1))
+            return true;
+    }
+    return false;
+}
+
+QString whyNoDrawing(const QByteArray& content)
+{
+    if (content.isEmpty())
+        return Texts::tr("The file is empty.");
+    if (content.contains('\0'))
+        return Texts::tr("It is a binary file. Only the text form of DXF can be read.");
+    if (!hasLine(content, firstRecord))
+        return Texts::tr("It is not a DXF drawing.");
+    return QString();
+}
+
+QString whyNotReadable(const QFileInfo& info)
+{
+    // A link that leads nowhere does not exist either.
+    if (!info.exists())
+        return Texts::tr("There is no such file.");
+    if (!info.isFile())
+        return Texts::tr("It is not a regular file.");
+    if (info.size() > largestDrawingBytes)
+        return Texts::tr("The file is too large.");
+    return QString();
+}
+
+} // namespace
+
+std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason)
+{
+    // Opening a pipe or a device could wait for ever.
+    reason = whyNotReadable(QFileInfo(fileName));
+    if (!reason.isEmpty())
+        return std::nullopt;
+
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        reason = file.errorString();
+        return std::nullopt;
+    }
+    const QByteArray content = file.readAll();
+    reason = file.error() == QFileDevice::NoError ? whyNoDrawing(content) : file.errorString();
+    if (!reason.isEmpty())
+        return std::nullopt;
+    return content;
+}
+
+bool writeFile(const QString& fileName, const QByteArray& content, QString& reason)
+{
+    // A file takes the place of what has its name, and that must not be a device.
+    const QFileInfo info(fileName);
+    if (info.exists() && !info.isFile()) {
+        reason = Texts::tr("It is not a regular file.");
+        return false;
+    }
+    QSaveFile file(fileName);
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+        return true;
+    reason = file.errorString();
+    return false;
+}

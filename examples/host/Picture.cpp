@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "Picture.h"
+
+#include "DrawingFile.h"
+
+#include <dxfviewer/model/DXFDocument.h>
+#include <dxfviewer/model/DXFPolyline.h>
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Picture)
+};
+
+constexpr int polylineType = 0;
+
+constexpr double longEdgePx = 2000.0;
+constexpr double shortestEdgePx = 40.0;
+constexpr double marginPerSize = 0.02;
+constexpr int pixelsPerInch = 144;
+constexpr double pointsPerInch = 72.0;
+
+/// Runs of segments that continue each other.
+QVector<QPolygonF> runsOf(const DXFPolyline& polyline)
+{
+    QVector<QPolygonF> runs;
+    const auto segments = polyline.segments();
+    for (const Segment& segment : segments) {
+        const QLineF line = segment.line();
+        if (runs.isEmpty() || runs.constLast().constLast() != line.p1())
+            runs.append(QPolygonF() << line.p1());
+        runs.last().append(line.p2());
+    }
+    return runs;
+}
+
+bool isFinite(const QRectF& rect)
+{
+    return std::isfinite(rect.x()) && std::isfinite(rect.y()) && std::isfinite(rect.width())
+           && std::isfinite(rect.height());
+}
+
+std::optional<QRectF> withMargin(const QRectF& rect)
+{
+    const double size = std::max(rect.width(), rect.height());
+    const double margin = size > 0.0 ? size * marginPerSize : 1.0;
+    const QRectF grown = rect.adjusted(-margin, -margin, margin, margin);
+    // A margin that is lost in rounding leaves nothing to divide by.
+    if (!isFinite(grown) || grown.isEmpty())
+        return std::nullopt;
+    return grown;
+}
+
+/// The drawing unit's place in a picture of this size.
+QTransform fitted(const QRectF& bounds, const QSize& size)
+{
+    const double scale = std::min(size.width() / bounds.width(), size.height() / bounds.height());
+    QTransform transform;
+    transform.translate(size.width() / 2.0, size.height() / 2.0);
+    transform.scale(scale, scale);
+    transform.translate(-bounds.center().x(), -bounds.center().y());
+    return transform;
+}
+
+} // namespace
+
+Picture::Picture(const QSharedPointer<DXFDocument>& document, const QBrush& background)
+    : m_background(background)
+{
+    document->setup();
+    take(*document);
+}
+
+QStringList Picture::suffixes()
+{
+    return {QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("pdf")};
+}
+
+void Picture::take(const DXFDocument& document)
+{
+    QPolygonF corners;
+    const auto entities = document.entities();
+    for (const auto& entity : entities) {
+        if (!entity || entity->type() != polylineType)
+            continue;
+        const auto runs = runsOf(static_cast<const DXFPolyline&>(*entity));
+        for (const QPolygonF& run : runs) {
+            m_strokes.append({run, entity->color(), entity->lineWidth()});
+            corners += run;
+        }
+    }
+    m_bounds = withMargin(corners.boundingRect());
+}
+
+QSize Picture::size() const
+{
+    const double scale = longEdgePx / std::max(m_bounds->width(), m_bounds->height());
+    const QSizeF edges = m_bounds->size() * scale;
+    return QSizeF(std::max(edges.width(), shortestEdgePx), std::max(edges.height(), shortestEdgePx))
+        .toSize();
+}
+
+void Picture::paint(QPainter& painter) const
+{
+    const QTransform toPixels = fitted(*m_bounds, size());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(QRect(QPoint(0, 0), size()), m_background);
+    // The points are mapped here and not by the painter: the generators write few digits, which
+    // is enough for pixels but not for the coordinates of a survey.
+    for (const Stroke& stroke : m_strokes) {
+        painter.setPen(QPen(stroke.color, std::max(1, stroke.width)));
+        painter.drawPolyline(toPixels.map(stroke.points));
+    }
+}
+
+bool Picture::write(const QString& fileName, QString& reason) const
+{
+    const QString suffix = QFileInfo(fileName).suffix().toLower();
+    if (!suffixes().contains(suffix)) {
+        reason = Texts::tr("The name of a picture must end in .png, .svg or .pdf.");
+        return false;
+    }
+    if (!m_bounds) {
+        reason = Texts::tr("The drawing's coordinates are too large for a picture.");
+        return false;
+    }
+    const QByteArray content = suffix == QLatin1String("png")   ? png()
+                               : suffix == QLatin1String("svg") ? svg()
+                                                                : pdf();
+    if (content.isEmpty()) {
+        reason = Texts::tr("There is not enough memory for the picture.");
+        return false;
+    }
+    return writeFile(fileName, content, reason);
+}
+
+QByteArray Picture::png() const
+{
+    QImage image(size(), QImage::Format_RGB32);
+    if (image.isNull())
+        return QByteArray();
+    QPainter painter(&image);
+    paint(painter);
+    painter.end();
+
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+QByteArray Picture::svg() const
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setSize(size());
+    generator.setViewBox(QRect(QPoint(0, 0), size()));
+    QPainter painter(&generator);
+    paint(painter);
+    painter.end();
+    return buffer.data();
+}
+
+QByteArray Picture::pdf() const
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setCreator(QCoreApplication::applicationName());
+    writer.setResolution(pixelsPerInch);
+    writer.setPageSize(QPageSize(QSizeF(size()) * pointsPerInch / pixelsPerInch, QPageSize::Point,
+                                 QString(), QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF());
+    QPainter painter(&writer);
+    paint(painter);
+    painter.end();
+    return buffer.data();
+}

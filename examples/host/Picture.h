@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QBrush>
+#include <QColor>
+#include <QPolygonF>
+#include <QRectF>
+#include <QSharedPointer>
+#include <QSize>
+#include <QStringList>
+#include <QVector>
+
+#include <optional>
+
+class DXFDocument;
+class QByteArray;
+class QPainter;
+
+/**
+ * A picture of a whole drawing, as the window shows it, whatever part of it the window shows.
+ *
+ * It is taken when it is constructed: later edits do not change it.
+ */
+class Picture
+{
+public:
+    Picture(const QSharedPointer<DXFDocument>& document, const QBrush& background);
+
+    /// The endings of the file names that write() takes: png, svg, pdf.
+    static QStringList suffixes();
+
+    /// Writes a file in the format that its name ends in. On failure false is returned, and the
+    /// reason, a sentence for the user, is set.
+    bool write(const QString& fileName, QString& reason) const;
+
+private:
+    struct Stroke {
+        QPolygonF points;
+        QColor color;
+        int width;
+    };
+
+    void take(const DXFDocument& document);
+    QSize size() const;
+    void paint(QPainter& painter) const;
+    QByteArray png() const;
+    QByteArray svg() const;
+    QByteArray pdf() const;
+
+    QVector<Stroke> m_strokes;
+    /// In drawing units, with a margin; nothing if that cannot be computed.
+    std::optional<QRectF> m_bounds;
+    QBrush m_background;
+};

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "Translations.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+namespace
+{
+
+QString qtFolder()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
+}
+
+/// Where the drawing window's .qm files and the program's own are: the build's folder or the
+/// installed one.
+QStringList folders()
+{
+    const QString program = QCoreApplication::applicationDirPath() + QLatin1Char('/');
+    QStringList found;
+    for (const char* fromProgram : {DXFVIEWER_HOST_TRANSLATIONS})
+        found += program + QLatin1String(fromProgram);
+    return found;
+}
+
+void install(QCoreApplication& application, const QString& name, const QStringList& folders)
+{
+    auto* translator = new QTranslator(&application);
+    for (const QString& folder : folders) {
+        if (translator->load(QLocale(), name, QStringLiteral("_"), folder)) {
+            QCoreApplication::installTranslator(translator);
+            return;
+        }
+    }
+    delete translator;
+}
+
+} // namespace
+
+void installTranslations(QCoreApplication& application)
+{
+    install(application, QStringLiteral("qtbase"), {qtFolder()});
+    install(application, QStringLiteral("dxfviewer"), folders());
+    install(application, QStringLiteral("dxfviewer-host"), folders());
+}

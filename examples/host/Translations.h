@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+class QCoreApplication;
+
+/// Makes the program speak the language of the system: Qt's texts, the drawing window's and its
+/// own. Those that there is no translation of stay English.
+void installTranslations(QCoreApplication& application);

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QSharedPointer>
+
+class DXFDocument;
+class DXFEditor;
+class DXFViewer;
+class QAction;
+class QGraphicsView;
+
+// What a host can reach inside the window, by the object names that its form promises and by the
+// public classes of what lies in its scene.
+
+/// The checkable action "Edit .dxf".
+QAction& editAction(const DXFViewer& viewer);
+
+QGraphicsView& drawingView(const DXFViewer& viewer);
+
+/// The overlay that edit mode puts into the window's scene; null if the window is not in edit mode.
+/// It goes when edit mode ends, which any other window can bring about.
+DXFEditor* currentEditor(const DXFViewer& viewer);
+
+/// The drawing on screen; null before the first. A drawing that was loaded gets there some
+/// milliseconds later, and not at all if it could not be read.
+QSharedPointer<DXFDocument> shownDocument(const DXFViewer& viewer);

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/model/DXFDocument.h"
+
+#include <QByteArray>
+#include <QLineF>
+#include <QSharedPointer>
+#include <QVector>
+
+#include <cstddef>
+#include <cstdint>
+
+class DXFPolyline;
+
+/// What several fuzz targets need of drawings.
+namespace dxffuzz
+{
+
+/// Discards Qt's log from now on: hostile drawings log a line for each record.
+void silenceLog();
+
+/// Ends the process with a message unless the condition holds: a find.
+void require(bool condition, const char* what);
+
+/// The input as the bytes of a drawing.
+QByteArray textOf(const uint8_t* data, std::size_t size);
+
+/// The polylines of a document, each once however often it is listed.
+QVector<DXFPolyline*> polylinesOf(const DXFDocument& document);
+
+/// What a polyline is made of, as far as files keep it.
+struct Shape {
+    bool isClosed;
+    QVector<double> numbers;
+};
+
+QVector<Shape> shapesOf(const DXFDocument& document);
+
+/// Whether two drawings have the same polylines, number for number and NaN for NaN.
+bool areIdentical(const QVector<Shape>& a, const QVector<Shape>& b);
+
+/// Whether the second is what reading returns after the first was written: polylines without
+/// vertices are lost, what is no number becomes 0, and 16 decimals are kept.
+bool survivedWriting(const QVector<Shape>& written, const QVector<Shape>& read);
+
+/// The lines of all segments, each polyline once.
+QVector<QLineF> linesOf(const DXFDocument& document);
+
+/// Requires that what dxflib delivered is bounded by what the text can hold.
+void requireBounded(const DXFDocument& document, const QByteArray& text);
+
+} // namespace dxffuzz

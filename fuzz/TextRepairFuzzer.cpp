@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+// The repair of a drawing's text by itself, against what it promises.
+
+#include "fuzz/Drawing.h"
+
+#include "dxfviewer/io/TextCheck.h"
+#include "dxfviewer/io/TextRepair.h"
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <string_view>
+
+namespace
+{
+
+// An empty last line gets a line feed of its own.
+constexpr std::size_t growthLimit = 3;
+constexpr std::size_t growthSlack = 2;
+
+/// The text as dxflib sees its end: a last value needs no line feed, and may be missing, while a
+/// last code without one is never read.
+std::string withWholeLastGroup(std::string_view text)
+{
+    const auto lineFeeds = std::count(text.begin(), text.end(), '\n');
+    if (lineFeeds % 2 != 0)
+        return std::string(text) + '\n';
+    return std::string(text.substr(0, text.rfind('\n') + 1));
+}
+
+/// The same check, fed as a file that is read in blocks feeds it.
+bool isSoundInPieces(std::string_view text, std::mt19937& random)
+{
+    constexpr std::size_t longestPiece = 97;
+    dxfviewer::TextCheck check;
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    while (end < text.size()) {
+        end = std::min(text.size(), end + 1 + random() % longestPiece);
+        begin += check.add(text.substr(begin, end - begin));
+    }
+    check.addEnd(text.substr(begin));
+    return check.isSound();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    const bool isSound = dxfviewer::isSound(text);
+    std::mt19937 random(static_cast<unsigned>(size));
+    dxffuzz::require(isSound == isSoundInPieces(text, random),
+                     "the check depends on how the text is cut into pieces");
+
+    const std::string repaired = dxfviewer::repaired(text);
+
+    dxffuzz::require(repaired.size() <= growthLimit * size + growthSlack,
+                     "the repair makes too much of the text");
+    dxffuzz::require(dxfviewer::isSound(repaired), "a repaired text is not sound");
+    dxffuzz::require(dxfviewer::repaired(repaired) == repaired,
+                     "a repaired text is repaired again");
+    if (isSound)
+        dxffuzz::require(repaired == withWholeLastGroup(text), "a sound text was changed");
+    return 0;
+}

@@ -1,0 +1,76 @@
+# Packages for Debian: configure with the preset "package" or "package-qt6", build, and run cpack in
+# the build folder.
+
+set(library_package libdxfviewer${PROJECT_VERSION_MAJOR})
+set(development_package libdxfviewer-dev)
+set(qt_development_package qtbase5-dev)
+if(DXFVIEWER_QT_SUFFIX)
+    set(library_package libdxfviewer${DXFVIEWER_QT_SUFFIX}-${PROJECT_VERSION_MAJOR})
+    set(development_package libdxfviewer${DXFVIEWER_QT_SUFFIX}-dev)
+    set(qt_development_package qt${DXFVIEWER_QT_MAJOR}-base-dev)
+endif()
+set(host_package dxfviewer-host${DXFVIEWER_QT_SUFFIX})
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME dxfviewer)
+set(CPACK_PACKAGE_CONTACT "DXFViewer maintainers <maintainers@dxfviewer.example>")
+set(CPACK_PACKAGING_INSTALL_PREFIX "${CMAKE_INSTALL_PREFIX}")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_COMPONENTS_ALL runtime development)
+if(DXFVIEWER_BUILD_EXAMPLES)
+    list(APPEND CPACK_COMPONENTS_ALL host)
+endif()
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(this_version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+
+# What a program needs is read from the program; this build's own library is not installed yet.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/dxfviewer")
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+
+# CPack runs ldconfig from a script; Debian wants the trigger.
+file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/triggers" "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${CMAKE_CURRENT_BINARY_DIR}/triggers")
+
+set(about "It comes as a window for other programs to embed, with undo, and as the
+parts that the window is made of.")
+
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library_package})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_RUNTIME_DESCRIPTION
+"Qt ${DXFVIEWER_QT_MAJOR} widgets that show and erase DXF drawings
+This library shows drawings in the DXF format and lets the user erase parts
+of them.
+${about}")
+
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development_package})
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
+    "${library_package} ${this_version}, ${qt_development_package}, libdxflib-dev")
+set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION
+"Qt ${DXFVIEWER_QT_MAJOR} widgets that show and erase DXF drawings - development files
+This package holds what is needed to build programs with the library: the
+headers and the files by which CMake and pkg-config find it.
+${about}")
+
+set(CPACK_DEBIAN_HOST_PACKAGE_NAME ${host_package})
+set(CPACK_DEBIAN_HOST_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_HOST_PACKAGE_DEPENDS "${library_package} ${this_version}")
+# Either Qt's build of the program has the same name.
+if(DXFVIEWER_QT_SUFFIX)
+    set(CPACK_DEBIAN_HOST_PACKAGE_CONFLICTS dxfviewer-host)
+else()
+    set(CPACK_DEBIAN_HOST_PACKAGE_CONFLICTS dxfviewer-host-qt6)
+endif()
+set(CPACK_DEBIAN_HOST_DESCRIPTION
+"small viewer and eraser for DXF drawings
+This program opens drawings in the DXF format, shows them, and lets the user
+erase parts of them. It is the example of how a program embeds the library.")
+
+find_program(GZIP gzip)
+mark_as_advanced(GZIP)
+configure_file("${CMAKE_CURRENT_SOURCE_DIR}/DebianDocs.cmake.in" DebianDocs.cmake @ONLY)
+set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_BINARY_DIR}/DebianDocs.cmake")

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "FileNames.h"
+
+#include "tests/support/LoggedTest.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+namespace
+{
+
+class FileNamesTest : public dxftest::LoggedTest
+{
+protected:
+    QString touched(const QString& name)
+    {
+        QFile file(m_folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return file.fileName();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(FileNamesTest, OrdinaryNamesAreShownAsTheyAre)
+{
+    const QString name = QString::fromUtf8("/home/ren\xC3\xA9/\xE5\x9B\xB3 1.dxf");
+
+    EXPECT_EQ(readableName(name), name);
+}
+
+TEST_F(FileNamesTest, WhatCannotBeShownIsReplaced)
+{
+    const QString name = QStringLiteral("a\nb\tc\u202Ed.dxf");
+
+    EXPECT_EQ(readableName(name), QStringLiteral("a\uFFFDb\uFFFDc\uFFFDd.dxf"));
+}
+
+TEST_F(FileNamesTest, LongNamesKeepTheirEnds)
+{
+    const QString name =
+        QStringLiteral("/begin") + QString(1000, QLatin1Char('x')) + QStringLiteral("end.dxf");
+
+    const QString readable = readableName(name);
+
+    EXPECT_LT(readable.size(), 200);
+    EXPECT_TRUE(readable.startsWith(QLatin1String("/begin")));
+    EXPECT_TRUE(readable.endsWith(QLatin1String("end.dxf")));
+}
+
+TEST_F(FileNamesTest, AnEditedCopyLiesBesideTheDrawing)
+{
+    const QString drawing = touched(QStringLiteral("plan.v1.DXF"));
+
+    const QString copy = nameForEditedCopy(drawing);
+
+    EXPECT_EQ(QFileInfo(copy).path(), QFileInfo(drawing).path());
+    EXPECT_EQ(QFileInfo(copy).fileName(), QStringLiteral("plan.v1-edited.dxf"));
+}
+
+TEST_F(FileNamesTest, AnEditedCopyNeverTakesTheNameOfAnotherFile)
+{
+    const QString drawing = touched(QStringLiteral("plan.dxf"));
+    touched(QStringLiteral("plan-edited.dxf"));
+    touched(QStringLiteral("plan-edited-2.dxf"));
+
+    const QString copy = nameForEditedCopy(drawing);
+
+    EXPECT_EQ(QFileInfo(copy).fileName(), QStringLiteral("plan-edited-3.dxf"));
+}
+
+TEST_F(FileNamesTest, ALinkLeadsToTheSameFile)
+{
+    const QString drawing = touched(QStringLiteral("plan.dxf"));
+    const QString link = drawing + QStringLiteral(".link");
+    ASSERT_TRUE(QFile::link(drawing, link));
+
+    EXPECT_TRUE(isSameFile(drawing, link));
+    EXPECT_FALSE(isSameFile(drawing, touched(QStringLiteral("other.dxf"))));
+}
+
+TEST_F(FileNamesTest, FilesThatAreNotThereAreNotTheSame)
+{
+    EXPECT_FALSE(isSameFile(QStringLiteral("/no/a.dxf"), QStringLiteral("/no/a.dxf")));
+    EXPECT_FALSE(isSameFile(QString(), QString()));
+}
+
+} // namespace

@@ -1,0 +1,601 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "HostWindow.h"
+#include "ViewerParts.h"
+
+#include "dxfviewer/edit/DXFEditor.h"
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/support/Builders.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/SceneMouse.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGraphicsView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSet>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+#include <csignal>
+#include <deque>
+#include <functional>
+#include <memory>
+
+#include <sys/resource.h>
+
+using dxftest::SceneMouse;
+using testing::HasSubstr;
+
+namespace
+{
+
+/// A cross of two lines of one segment each.
+const QByteArray crossDrawing =
+    "0\nSECTION\n2\nENTITIES\n"
+    "0\nLWPOLYLINE\n8\n0\n90\n2\n70\n0\n10\n-100\n20\n0\n10\n100\n20\n0\n"
+    "0\nLWPOLYLINE\n8\n0\n90\n2\n70\n0\n10\n50\n20\n-100\n10\n50\n20\n100\n"
+    "0\nENDSEC\n0\nEOF\n";
+const QByteArray drawingWithoutPolylines =
+    "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDSEC\n0\nEOF\n";
+
+/// Answers the dialogs that come up, one after the other.
+class DialogRobot
+{
+public:
+    DialogRobot()
+    {
+        m_timer.setInterval(5);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
+        m_timer.start();
+    }
+    ~DialogRobot() { EXPECT_TRUE(m_answers.empty()) << "a dialog did not come up"; }
+
+    template <typename Dialog>
+    void expect(std::function<void(Dialog&)> answer)
+    {
+        m_answers.push_back([answer](QWidget& widget) {
+            auto* dialog = qobject_cast<Dialog*>(&widget);
+            if (dialog)
+                answer(*dialog);
+            else
+                ADD_FAILURE() << "unexpected " << widget.metaObject()->className();
+            return dialog != nullptr;
+        });
+    }
+
+    static void click(QMessageBox& box, QMessageBox::StandardButton button)
+    {
+        if (box.button(button))
+            return box.button(button)->click();
+        ADD_FAILURE() << "no such button below: " << box.text().toStdString();
+        box.close();
+    }
+
+    void expectButton(QMessageBox::StandardButton button)
+    {
+        expect<QMessageBox>([button](QMessageBox& box) { click(box, button); });
+    }
+
+    /// Notes the text of the box, and agrees.
+    void expectError(std::string& text)
+    {
+        expect<QMessageBox>([&text](QMessageBox& box) {
+            text = (box.text() + QLatin1Char('\n') + box.informativeText()).toStdString();
+            click(box, QMessageBox::Ok);
+        });
+    }
+
+    void expectFileName(const QString& fileName)
+    {
+        expect<QFileDialog>([fileName](QFileDialog& dialog) {
+            // As a user types it: selecting leaves a field that has the keyboard alone.
+            dialog.findChild<QLineEdit*>()->setText(fileName);
+            static_cast<QDialog&>(dialog).accept();
+        });
+    }
+
+private:
+    void look()
+    {
+        QWidget* widget = QApplication::activeModalWidget();
+        // An answered dialog is on top again when one that it has brought up is gone.
+        if (!widget || m_answered.contains(widget))
+            return;
+        if (m_answers.empty()) {
+            ADD_FAILURE() << "unexpected dialog: " << widget->metaObject()->className();
+            widget->close();
+            return;
+        }
+        const auto answer = m_answers.front();
+        m_answers.pop_front();
+        m_answered.insert(widget);
+        QObject::connect(widget, &QObject::destroyed, &m_timer,
+                         [this, widget] { m_answered.remove(widget); });
+        // The answer may bring up the next dialog, and a timer does not fire while it is handled.
+        QTimer::singleShot(0, widget, [answer, widget] {
+            if (!answer(*widget))
+                widget->close();
+        });
+    }
+
+    QTimer m_timer;
+    QSet<QWidget*> m_answered;
+    std::deque<std::function<bool(QWidget&)>> m_answers;
+};
+
+class HostWindowTest : public dxftest::LoggedTest
+{
+protected:
+    HostWindowTest()
+        : m_window(std::make_unique<HostWindow>())
+    {
+        m_window->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    ~HostWindowTest() override
+    {
+        // A window that asks at the end is no part of what was tested.
+        m_window.reset();
+    }
+
+    DXFViewer& viewer() const { return *m_window->findChild<DXFViewer*>(); }
+    QAction& edit() const { return editAction(viewer()); }
+    QGraphicsView& view() const { return drawingView(viewer()); }
+
+    QAction& action(const char* text) const
+    {
+        const auto actions = m_window->findChildren<QAction*>();
+        for (QAction* candidate : actions) {
+            if (candidate->text() == QString::fromUtf8(text))
+                return *candidate;
+        }
+        throw std::invalid_argument(text);
+    }
+
+    QString fileWith(const QByteArray& content, const QString& name)
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+    QString crossFile() { return fileWith(crossDrawing, QStringLiteral("cross.dxf")); }
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+
+    static QByteArray contentOf(const QString& fileName)
+    {
+        QFile file(fileName);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    /// Opens a drawing and waits until it is on screen and the wait is over.
+    void open(const QString& fileName)
+    {
+        const auto before = shownDocument(viewer());
+        m_window->openDrawing(fileName);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shownDocument(viewer()) != before; }));
+        waitForNoCursor();
+    }
+
+    void waitForNoCursor()
+    {
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QApplication::overrideCursor(); }));
+    }
+
+    void openInEditMode()
+    {
+        open(crossFile());
+        edit().setChecked(true);
+    }
+
+    /// Erases the cross's upright line.
+    void erase() { SceneMouse(view()).drag({{50, 60}, {50, 61}, {50, 62}}); }
+
+    int polylineCount() const
+    {
+        return static_cast<int>(shownDocument(viewer())->entities().size());
+    }
+
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
+    {
+        // Without a window manager nobody gives the keyboard back after a dialog.
+        m_window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        QTest::keyClick(m_window.get(), key, modifiers);
+    }
+
+    // Outlives the window, which may ask at its end.
+    DialogRobot m_robot;
+    std::unique_ptr<HostWindow> m_window;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(HostWindowTest, HasNothingToSaveAtFirst)
+{
+    EXPECT_FALSE(action("&Save As…").isEnabled());
+    EXPECT_FALSE(action("Export &Picture…").isEnabled());
+    EXPECT_FALSE(action("Undo").isEnabled());
+    EXPECT_FALSE(m_window->isWindowModified());
+}
+
+TEST_F(HostWindowTest, ShowsADrawingUnderItsName)
+{
+    open(crossFile());
+
+    EXPECT_EQ(polylineCount(), 2);
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+    EXPECT_TRUE(action("&Save As…").isEnabled());
+    EXPECT_TRUE(action("Export &Picture…").isEnabled());
+}
+
+TEST_F(HostWindowTest, ShowsNamesThatNeedCare)
+{
+    open(fileWith(crossDrawing, QStringLiteral("a[*]\nb.dxf")));
+
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("a[*][*]\uFFFDb.dxf[*]"));
+}
+
+TEST_F(HostWindowTest, ShowsTheWaitCursorWhileLoading)
+{
+    m_window->openDrawing(crossFile());
+
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    waitForNoCursor();
+}
+
+TEST_F(HostWindowTest, KeepsTheDrawingOnScreenWhenAnotherCannotBeRead)
+{
+    open(crossFile());
+    const auto document = shownDocument(viewer());
+    std::string error;
+    m_robot.expectError(error);
+
+    m_window->openDrawing(fileWith("no drawing", QStringLiteral("bad.dxf")));
+
+    EXPECT_THAT(error, HasSubstr("bad.dxf"));
+    EXPECT_THAT(error, HasSubstr("It is not a DXF drawing."));
+    EXPECT_EQ(shownDocument(viewer()), document);
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+    EXPECT_FALSE(viewer().getData().isEmpty());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(HostWindowTest, SaysThatThereIsNothingToShow)
+{
+    open(fileWith(drawingWithoutPolylines, QStringLiteral("lines.dxf")));
+
+    EXPECT_THAT(m_window->statusBar()->currentMessage().toStdString(), HasSubstr("no polylines"));
+}
+
+TEST_F(HostWindowTest, StartsInEditModeWhenAsked)
+{
+    m_window->editNextDrawing();
+
+    open(crossFile());
+
+    EXPECT_TRUE(edit().isChecked());
+    EXPECT_NE(currentEditor(viewer()), nullptr);
+}
+
+TEST_F(HostWindowTest, KeysUndoAndRedoWhileEditModeIsOn)
+{
+    openInEditMode();
+    erase();
+    ASSERT_EQ(polylineCount(), 1);
+    EXPECT_TRUE(m_window->isWindowModified());
+
+    press(Qt::Key_Z);
+    EXPECT_EQ(polylineCount(), 2);
+    EXPECT_FALSE(m_window->isWindowModified());
+
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(polylineCount(), 1);
+    EXPECT_TRUE(m_window->isWindowModified());
+
+    edit().setChecked(false);
+    press(Qt::Key_Z);
+    EXPECT_EQ(polylineCount(), 1);
+    EXPECT_FALSE(action("Undo").isEnabled());
+}
+
+TEST_F(HostWindowTest, EditsOutliveEditMode)
+{
+    openInEditMode();
+    erase();
+    edit().setChecked(false);
+    edit().setChecked(true);
+
+    EXPECT_TRUE(m_window->isWindowModified());
+
+    SceneMouse(view()).drag({{-50, 0}, {-50, 1}});
+    press(Qt::Key_Z);
+
+    EXPECT_EQ(polylineCount(), 1);
+    EXPECT_TRUE(m_window->isWindowModified());
+}
+
+TEST_F(HostWindowTest, EditModeOfAnotherWindowEndsThisOne)
+{
+    openInEditMode();
+    erase();
+    HostWindow other;
+    other.show();
+    other.editNextDrawing();
+
+    other.openDrawing(crossFile());
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return currentEditor(*other.findChild<DXFViewer*>()) != nullptr; }));
+
+    EXPECT_EQ(currentEditor(viewer()), nullptr);
+    EXPECT_FALSE(action("Undo").isEnabled());
+    EXPECT_TRUE(m_window->isWindowModified());
+    EXPECT_FALSE(other.isWindowModified());
+}
+
+TEST_F(HostWindowTest, ClosesWithoutAQuestionWhenNothingWasErased)
+{
+    openInEditMode();
+
+    EXPECT_TRUE(m_window->close());
+}
+
+TEST_F(HostWindowTest, AsksBeforeItClosesOverEdits)
+{
+    openInEditMode();
+    erase();
+
+    m_robot.expectButton(QMessageBox::Cancel);
+    EXPECT_FALSE(m_window->close());
+    EXPECT_TRUE(m_window->isVisible());
+
+    m_robot.expectButton(QMessageBox::Discard);
+    EXPECT_TRUE(m_window->close());
+}
+
+TEST_F(HostWindowTest, SavesBeforeItCloses)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectButton(QMessageBox::Save);
+    m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
+
+    EXPECT_TRUE(m_window->close());
+
+    const auto kept = DXFDocument::load(contentOf(path(QStringLiteral("kept.dxf"))));
+    ASSERT_NE(kept, nullptr);
+    EXPECT_EQ(kept->entities().size(), 1);
+}
+
+TEST_F(HostWindowTest, AsksBeforeAnotherDrawingTakesThePlaceOfEdits)
+{
+    openInEditMode();
+    erase();
+    const QString other = fileWith(crossDrawing, QStringLiteral("other.dxf"));
+
+    m_robot.expectButton(QMessageBox::Cancel);
+    m_window->openDrawing(other);
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+    EXPECT_TRUE(edit().isChecked());
+
+    m_robot.expectButton(QMessageBox::Discard);
+    open(other);
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("other.dxf[*]"));
+    EXPECT_FALSE(m_window->isWindowModified());
+    EXPECT_FALSE(edit().isChecked());
+    EXPECT_EQ(polylineCount(), 2);
+}
+
+TEST_F(HostWindowTest, ProposesANewNameAndTakesIt)
+{
+    openInEditMode();
+    erase();
+    QString proposed;
+    m_robot.expect<QFileDialog>([&proposed](QFileDialog& dialog) {
+        proposed = dialog.selectedFiles().value(0);
+        static_cast<QDialog&>(dialog).accept();
+    });
+
+    press(Qt::Key_S);
+
+    EXPECT_EQ(proposed, path(QStringLiteral("cross-edited.dxf")));
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross-edited.dxf[*]"));
+    EXPECT_FALSE(m_window->isWindowModified());
+    EXPECT_EQ(contentOf(path(QStringLiteral("cross.dxf"))), crossDrawing);
+    EXPECT_EQ(contentOf(proposed), viewer().getData());
+}
+
+TEST_F(HostWindowTest, UndoAfterASaveIsAnEdit)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
+    press(Qt::Key_S);
+    ASSERT_FALSE(m_window->isWindowModified());
+
+    press(Qt::Key_Z);
+
+    EXPECT_TRUE(m_window->isWindowModified());
+}
+
+TEST_F(HostWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
+{
+    openInEditMode();
+    erase();
+    const QString fileName = crossFile();
+    std::string warning;
+    m_robot.expectFileName(fileName);
+    m_robot.expectButton(QMessageBox::Yes);
+    m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
+        warning = box.informativeText().toStdString();
+        DialogRobot::click(box, QMessageBox::Cancel);
+    });
+
+    press(Qt::Key_S);
+
+    EXPECT_THAT(warning, HasSubstr("Only layers, line types and polylines are saved"));
+    EXPECT_EQ(contentOf(fileName), crossDrawing);
+    EXPECT_TRUE(m_window->isWindowModified());
+}
+
+TEST_F(HostWindowTest, ReplacesTheDrawingThatWasOpenedIfTold)
+{
+    openInEditMode();
+    erase();
+    const QString fileName = crossFile();
+    m_robot.expectFileName(fileName);
+    m_robot.expectButton(QMessageBox::Yes);
+    m_robot.expect<QMessageBox>([](QMessageBox& box) {
+        const auto buttons = box.buttons();
+        for (QAbstractButton* button : buttons) {
+            if (box.buttonRole(button) == QMessageBox::DestructiveRole)
+                button->click();
+        }
+    });
+
+    press(Qt::Key_S);
+
+    EXPECT_EQ(contentOf(fileName), viewer().getData());
+    EXPECT_FALSE(m_window->isWindowModified());
+}
+
+TEST_F(HostWindowTest, AFullDiskGivesABoxAndLeavesTheOldFile)
+{
+    openInEditMode();
+    erase();
+    const QString fileName = fileWith("old", QStringLiteral("old.dxf"));
+    std::string error;
+    m_robot.expectFileName(fileName);
+    m_robot.expectButton(QMessageBox::Yes);
+    m_robot.expectError(error);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    const rlimit nothing{1, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &nothing), 0);
+
+    press(Qt::Key_S);
+
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_THAT(error, HasSubstr("The drawing cannot be saved."));
+    EXPECT_THAT(error, HasSubstr("old.dxf"));
+    EXPECT_EQ(contentOf(fileName), "old");
+    EXPECT_TRUE(m_window->isWindowModified());
+}
+
+TEST_F(HostWindowTest, SavesInTheMiddleOfAStroke)
+{
+    openInEditMode();
+    SceneMouse mouse(view());
+    mouse.press({50, 60});
+    mouse.move({50, 61});
+    m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
+
+    press(Qt::Key_S);
+    mouse.release({50, 62});
+
+    const auto kept = DXFDocument::load(contentOf(path(QStringLiteral("kept.dxf"))));
+    ASSERT_NE(kept, nullptr);
+    EXPECT_LE(kept->entities().size(), 2);
+    EXPECT_EQ(polylineCount(), 1);
+}
+
+TEST_F(HostWindowTest, OpensInTheMiddleOfAStroke)
+{
+    openInEditMode();
+    SceneMouse mouse(view());
+    mouse.press({50, 60});
+
+    open(fileWith(crossDrawing, QStringLiteral("other.dxf")));
+    mouse.release({50, 60});
+
+    EXPECT_EQ(currentEditor(viewer()), nullptr);
+    EXPECT_FALSE(edit().isChecked());
+    EXPECT_EQ(polylineCount(), 2);
+}
+
+TEST_F(HostWindowTest, GoesInEditModeInTheMiddleOfAStroke)
+{
+    openInEditMode();
+    erase();
+    SceneMouse mouse(view());
+    mouse.press({-50, 0});
+    const QPointer<DXFEditor> editor = currentEditor(viewer());
+
+    m_window.reset();
+
+    EXPECT_EQ(editor, nullptr);
+    m_window = std::make_unique<HostWindow>();
+}
+
+TEST_F(HostWindowTest, OpensADrawingThatIsDropped)
+{
+    QMimeData data;
+    data.setUrls(
+        {QUrl::fromLocalFile(path(QStringLiteral("notes.txt"))), QUrl::fromLocalFile(crossFile())});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+
+    QApplication::sendEvent(m_window.get(), &enter);
+    QApplication::sendEvent(m_window.get(), &drop);
+
+    EXPECT_TRUE(enter.isAccepted());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shownDocument(viewer()) != nullptr; }));
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+}
+
+TEST_F(HostWindowTest, LeavesDragsOfOtherThingsAlone)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path(QStringLiteral("notes.txt")))});
+    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+
+    QApplication::sendEvent(m_window.get(), &enter);
+
+    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_FALSE(view().viewport()->acceptDrops());
+}
+
+TEST_F(HostWindowTest, ExportsWhatIsOnScreen)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectFileName(path(QStringLiteral("cross.svg")));
+
+    action("Export &Picture…").trigger();
+
+    EXPECT_EQ(contentOf(path(QStringLiteral("cross.svg"))).count("<polyline"), 1);
+}
+
+TEST_F(HostWindowTest, SaysWhyAPictureCannotBeExported)
+{
+    open(crossFile());
+    std::string error;
+    m_robot.expectFileName(path(QStringLiteral("cross.jpeg")));
+    m_robot.expectError(error);
+
+    action("Export &Picture…").trigger();
+
+    EXPECT_THAT(error, HasSubstr("cross.jpeg"));
+    EXPECT_THAT(error, HasSubstr(".png, .svg or .pdf"));
+}
+
+} // namespace

@@ -1,0 +1,315 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/io/DrawingParser.h"
+
+#include "dxfviewer/io/DXFReader.h"
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/model/DXFPolyline.h"
+#include "tests/io/CallRecorder.h"
+#include "tests/io/DrawingText.h"
+#include "tests/io/TestLocales.h"
+#include "tests/support/Builders.h"
+#include "tests/support/LoggedTest.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <new>
+#include <stdexcept>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <dl_dxf.h>
+
+using namespace dxftest;
+
+namespace
+{
+
+int openDescriptors()
+{
+    return static_cast<int>(QDir(QStringLiteral("/proc/self/fd"))
+                                .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
+                                .size());
+}
+
+/// Throws at its third vertex.
+class ThrowingReader : public DXFReader
+{
+public:
+    ThrowingReader(DXFDocument& document, std::function<void()> raise)
+        : DXFReader(document)
+        , m_raise(std::move(raise))
+    {
+    }
+
+    void addVertex(const DL_VertexData& data) override
+    {
+        DXFReader::addVertex(data);
+        if (++m_vertices == 3)
+            m_raise();
+    }
+
+private:
+    std::function<void()> m_raise;
+    int m_vertices = 0;
+};
+
+std::vector<Group> polylineOf(const std::string& x)
+{
+    return {{0, "LWPOLYLINE"}, {90, "2"}, {10, x}, {20, "0.25"}, {10, "-1e3"}, {20, "7"}};
+}
+
+std::vector<Group> twoPolylines()
+{
+    auto groups = polylineOf("1234.5");
+    const auto second = polylineOf("4096");
+    groups.insert(groups.end(), second.begin(), second.end());
+    return groups;
+}
+
+class DrawingParserTest : public LoggedTest
+{
+protected:
+    QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
+
+    QString fileWith(const std::string& text) const
+    {
+        QFile file(path("drawing.dxf"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::fromStdString(text));
+        return file.fileName();
+    }
+
+    void expectRefused(const QString& name)
+    {
+        const int descriptors = openDescriptors();
+        DXFDocument document;
+
+        EXPECT_FALSE(DXFReader(document).load(name));
+
+        EXPECT_EQ(takeDebugMessages(), QStringList(QLatin1Char('"') + name
+                                                   + QLatin1String("\"  could not be opened.\n")));
+        EXPECT_EQ(openDescriptors(), descriptors);
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(DrawingParserTest, OnlyRegularFilesAreOpened)
+{
+    ASSERT_EQ(mkfifo(path("fifo").toLocal8Bit().constData(), 0600), 0);
+    const int listener = socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const QByteArray socketName = path("socket").toLocal8Bit();
+    ASSERT_LT(socketName.size(), int(sizeof address.sun_path));
+    qstrcpy(address.sun_path, socketName.constData());
+    ASSERT_EQ(bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+
+    expectRefused(folder.path());
+    expectRefused(path("fifo"));
+    expectRefused(path("socket"));
+    expectRefused(QStringLiteral("/dev/zero"));
+    expectRefused(QStringLiteral("/dev/null"));
+    expectRefused(path("missing"));
+    expectRefused(QString());
+    close(listener);
+}
+
+TEST_F(DrawingParserTest, ReadErrorIsReported)
+{
+    // A regular file whose first byte cannot be read.
+    expectRefused(QStringLiteral("/proc/self/mem"));
+}
+
+TEST_F(DrawingParserTest, DamagedFileIsMended)
+{
+    auto groups = twoPolylines();
+    groups.insert(groups.begin(), {999, std::string(5000, 'c')});
+    groups[2].value = "1000000000";
+    DXFDocument document;
+
+    ASSERT_TRUE(DXFReader(document).load(fileWith(drawingOf(groups))));
+
+    ASSERT_EQ(document.entities().size(), 2);
+    EXPECT_EQ(pointsOf(*document.entities()[0].staticCast<DXFPolyline>()),
+              (QVector<QPointF>{{1234.5, 0.25}, {-1000, 7}}));
+}
+
+TEST_F(DrawingParserTest, FileIsReadBeyondItsZeroBytes)
+{
+    std::string text = drawingOf(twoPolylines());
+    text.insert(text.find("LWPOLYLINE") + 10, std::string("\0tail", 5));
+    DXFDocument document;
+
+    ASSERT_TRUE(DXFReader(document).load(fileWith(text)));
+
+    EXPECT_EQ(document.entities().size(), 2);
+}
+
+TEST_F(DrawingParserTest, LongLinesAtAllPlacesOfABufferAreFound)
+{
+    for (const std::size_t before : {131000U, 131072U, 260000U}) {
+        std::string text = drawingOf({});
+        while (text.size() < before)
+            text.insert(0, "999\nfiller\n");
+        text.insert(0, "999\n" + std::string(1100, 'x') + '\n');
+        text.insert(text.find("ENTITIES\n") + 9, textOf(twoPolylines()));
+        DXFDocument document;
+
+        ASSERT_TRUE(DXFReader(document).load(fileWith(text)));
+
+        EXPECT_EQ(document.entities().size(), 2);
+    }
+    DXFDocument document;
+    EXPECT_TRUE(DXFReader(document).load(fileWith(std::string(300000, 'x'))));
+}
+
+TEST_F(DrawingParserTest, LastPolylineWithoutEndIsLost)
+{
+    for (const char* end : {"", "0", "  0", "0\n", "\n", "90\n", "90"}) {
+        const std::string text = textOf(twoPolylines()) + end;
+        DXFDocument fromFile;
+        DXFDocument fromBytes;
+
+        ASSERT_TRUE(DXFReader(fromFile).load(fileWith(text)));
+        ASSERT_TRUE(DXFReader(fromBytes).load(QByteArray::fromStdString(text)));
+
+        EXPECT_EQ(fromFile.entities().size(), fromBytes.entities().size()) << end;
+        const bool ended = std::string(end) == "0\n" || std::string(end) == "\n";
+        EXPECT_EQ(fromBytes.entities().size(), ended ? 2 : 1) << end;
+    }
+}
+
+TEST_F(DrawingParserTest, SoundFileMakesTheCallsOfDxflib)
+{
+    for (unsigned seed = 0; seed < 10; ++seed) {
+        DrawingGenerator generator(seed);
+        const std::string name = fileWith(textOf(generator.makeDrawing(200))).toStdString();
+        CallRecorder expected;
+        CallRecorder actual;
+        CallRecorder fromText;
+
+        ASSERT_TRUE(DL_Dxf().in(name, &expected));
+        ASSERT_TRUE(dxfviewer::parseFile(name, actual));
+        ASSERT_TRUE(
+            dxfviewer::parseText(textOf(DrawingGenerator(seed).makeDrawing(200)), fromText));
+
+        EXPECT_EQ(actual.calls(), expected.calls());
+        EXPECT_EQ(fromText.calls(), expected.calls());
+    }
+}
+
+TEST_F(DrawingParserTest, ExceptionsEndALoad)
+{
+    const std::vector<std::function<void()>> raises{[] { throw std::bad_alloc(); },
+                                                    [] { throw std::runtime_error("no"); },
+                                                    [] {
+                                                        throw 42;
+                                                    }};
+    const QString name = fileWith(drawingOf(twoPolylines()));
+    const int descriptors = openDescriptors();
+    const std::string cLocale = std::setlocale(LC_ALL, nullptr);
+    const std::locale locale;
+    for (const auto& raise : raises) {
+        DXFDocument fromFile;
+        DXFDocument fromBytes;
+
+        EXPECT_FALSE(ThrowingReader(fromFile, raise).load(name));
+        EXPECT_EQ(takeDebugMessages(), QStringList(QLatin1Char('"') + name
+                                                   + QLatin1String("\"  could not be opened.\n")));
+        EXPECT_FALSE(ThrowingReader(fromBytes, raise).load(bytesOf(twoPolylines())));
+        EXPECT_EQ(takeDebugMessages(),
+                  QStringList(QStringLiteral("DXFReader::Could not parse dxf data")));
+
+        EXPECT_EQ(fromFile.entities().size(), 1);
+        EXPECT_EQ(fromBytes.entities().size(), 1);
+        EXPECT_EQ(openDescriptors(), descriptors);
+        EXPECT_EQ(std::setlocale(LC_ALL, nullptr), cLocale);
+        EXPECT_TRUE(std::locale() == locale);
+    }
+}
+
+class DrawingParserLocaleTest : public DrawingParserTest
+{
+protected:
+    void SetUp() override
+    {
+        if (!locales.areAvailable())
+            GTEST_SKIP() << "there is no localedef here";
+    }
+
+    /// Loads in both forms, sound and damaged, and looks at the numbers and the locales.
+    void expectNumbersRead()
+    {
+        const std::string cLocale = std::setlocale(LC_ALL, nullptr);
+        const std::locale locale;
+        auto damaged = twoPolylines();
+        damaged[1].value = "99";
+        for (const auto& groups : {twoPolylines(), damaged}) {
+            DXFDocument document;
+            ASSERT_TRUE(DXFReader(document).load(fileWith(drawingOf(groups))));
+            ASSERT_TRUE(DXFReader(document).load(bytesOf(groups)));
+            DXFReader(document).load(path("missing"));
+            ThrowingReader(document, [] { throw 1; }).load(path("drawing.dxf"));
+            takeDebugMessages();
+
+            ASSERT_GE(document.entities().size(), 4);
+            for (int i = 0; i < 4; ++i) {
+                const qreal x = i % 2 == 0 ? 1234.5 : 4096;
+                EXPECT_EQ(pointsOf(*document.entities()[i].staticCast<DXFPolyline>()),
+                          (QVector<QPointF>{{x, 0.25}, {-1000, 7}}));
+            }
+        }
+        EXPECT_EQ(std::setlocale(LC_ALL, nullptr), cLocale);
+        EXPECT_TRUE(std::locale() == locale);
+    }
+
+    TestLocales locales;
+};
+
+TEST_F(DrawingParserLocaleTest, LocaleOfCHasNoSay)
+{
+    for (const char* name : {"de_DE.UTF-8", "ps_AF.UTF-8", "en_IN.UTF-8"}) {
+        ASSERT_NE(std::setlocale(LC_ALL, name), nullptr);
+
+        expectNumbersRead();
+    }
+}
+
+TEST_F(DrawingParserLocaleTest, LocaleOfCppHasNoSay)
+{
+    for (const char* name : {"de_DE.UTF-8", "ps_AF.UTF-8", "en_IN.UTF-8"}) {
+        std::locale::global(std::locale(name));
+
+        expectNumbersRead();
+    }
+}
+
+TEST_F(DrawingParserLocaleTest, DifferentLocalesStayDifferent)
+{
+    std::locale::global(std::locale("de_DE.UTF-8"));
+    ASSERT_NE(std::setlocale(LC_ALL, "ps_AF.UTF-8"), nullptr);
+    ASSERT_NE(std::setlocale(LC_NUMERIC, "en_IN.UTF-8"), nullptr);
+
+    expectNumbersRead();
+}
+
+TEST_F(DrawingParserLocaleTest, LocaleWithoutANameStays)
+{
+    struct Comma : std::numpunct<char> {
+        char do_decimal_point() const override { return ','; }
+        std::string do_grouping() const override { return "\3"; }
+    };
+    std::locale::global(std::locale(std::locale(), new Comma));
+
+    expectNumbersRead();
+}
+
+} // namespace

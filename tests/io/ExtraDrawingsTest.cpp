@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/io/DXFReader.h"
+#include "dxfviewer/io/DXFWriter.h"
+#include "dxfviewer/io/TextCheck.h"
+#include "dxfviewer/io/TextRepair.h"
+#include "dxfviewer/model/DXFAttributes.h"
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/model/DXFLayer.h"
+#include "dxfviewer/model/DXFLineType.h"
+#include "dxfviewer/model/DXFPolyline.h"
+#include "tests/io/CallRecorder.h"
+#include "tests/support/LoggedTest.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+using namespace dxftest;
+
+namespace
+{
+
+/// Layer, flags and vertices of each polyline in a form that is easy to compare.
+QStringList geometryOf(const DXFDocument& document)
+{
+    QStringList lines;
+    const auto entities = document.entities();
+    for (const auto& entity : entities) {
+        const auto polyline = entity.staticCast<DXFPolyline>();
+        QString line =
+            polyline->attributes()->layerName() + QLatin1Char(' ') + polyline->toString();
+        for (const DXFVertex& vertex : polyline->vertices()) {
+            for (const double value : {vertex.x(), vertex.y(), vertex.z()})
+                line += QLatin1Char(' ') + QString::number(value, 'f', 16);
+        }
+        lines.append(line);
+    }
+    return lines;
+}
+
+QStringList tablesOf(const DXFDocument& document)
+{
+    QStringList lines;
+    const auto layers = document.layers();
+    for (const auto& layer : layers)
+        lines.append(layer->toString() + layer->attributes()->toString());
+    const auto lineTypes = document.lineTypes();
+    for (const auto& lineType : lineTypes)
+        lines.append(lineType->toString());
+    return lines;
+}
+
+QByteArray contentOf(const QString& name)
+{
+    QFile file(name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return file.readAll();
+}
+
+// The sanitizers make reading slow, and all drawings at once would take longer than a test may.
+constexpr int shards = 20;
+
+/// Looks at every twentieth drawing of a folder, from the one whose number is the parameter.
+class ExtraDrawingsTest : public LoggedTest, public ::testing::WithParamInterface<int>
+{
+protected:
+    void SetUp() override
+    {
+        folder.setPath(qEnvironmentVariable("DXFVIEWER_EXTRA_DRAWINGS"));
+        if (!qEnvironmentVariableIsSet("DXFVIEWER_EXTRA_DRAWINGS"))
+            GTEST_SKIP() << "DXFVIEWER_EXTRA_DRAWINGS names no folder of drawings";
+        const QStringList all = folder.entryList({QStringLiteral("*.dxf")}, QDir::Files);
+        ASSERT_FALSE(all.isEmpty());
+        for (int i = GetParam(); i < all.size(); i += shards)
+            names.append(all[i]);
+        if (names.isEmpty())
+            GTEST_SKIP() << "fewer drawings than tests";
+    }
+
+    QByteArray bytesOf(const QString& name) const { return contentOf(folder.filePath(name)); }
+
+    QDir folder;
+    QStringList names;
+};
+
+TEST_P(ExtraDrawingsTest, FileAndBytesGiveTheSame)
+{
+    for (const QString& name : qAsConst(names)) {
+        SCOPED_TRACE(name.toStdString());
+        // What follows a zero byte is in the file only.
+        const QByteArray bytes = bytesOf(name);
+        if (bytes.contains('\0'))
+            continue;
+        DXFDocument fromFile;
+        DXFDocument fromBytes;
+
+        ASSERT_TRUE(DXFReader(fromFile).load(folder.filePath(name)));
+        const QStringList messages = takeDebugMessages();
+        ASSERT_TRUE(DXFReader(fromBytes).load(bytes));
+
+        EXPECT_EQ(takeDebugMessages(), messages);
+        EXPECT_EQ(geometryOf(fromFile), geometryOf(fromBytes));
+        EXPECT_EQ(tablesOf(fromFile), tablesOf(fromBytes));
+    }
+}
+
+TEST_P(ExtraDrawingsTest, SavedDrawingKeepsGeometryLayersAndFlags)
+{
+    for (const QString& name : qAsConst(names)) {
+        SCOPED_TRACE(name.toStdString());
+        DXFDocument document;
+        ASSERT_TRUE(DXFReader(document).load(folder.filePath(name)));
+
+        const auto again = DXFDocument::load(DXFWriter(document).save());
+
+        // dxflib never ends a polyline without vertices, and the format has no place for the
+        // counts of a mesh in what it writes.
+        DXFDocument expected;
+        const auto entities = document.entities();
+        for (const auto& entity : entities) {
+            const auto read = entity.staticCast<DXFPolyline>();
+            if (read->vertices().isEmpty())
+                continue;
+            const auto polyline = QSharedPointer<DXFPolyline>::create(0U, 0U, read->flags());
+            for (const DXFVertex& vertex : read->vertices())
+                polyline->appendPoint(vertex);
+            polyline->setAttributes(read->attributes());
+            expected.addEntity(polyline);
+        }
+        EXPECT_EQ(geometryOf(*again), geometryOf(expected));
+        EXPECT_EQ(again->layers().size(),
+                  document.layers().size() + (document.getLayer(QStringLiteral("0")) ? 0 : 1));
+        const auto layers = document.layers();
+        for (const auto& layer : layers) {
+            const auto read = again->getLayer(layer->name());
+            ASSERT_TRUE(read) << layer->name().toStdString();
+            EXPECT_EQ(read->flags(), layer->flags());
+        }
+        takeDebugMessages();
+    }
+}
+
+TEST_P(ExtraDrawingsTest, RepairChangesNothingThatIsSound)
+{
+    for (const QString& name : qAsConst(names)) {
+        SCOPED_TRACE(name.toStdString());
+        const std::string text = bytesOf(name).toStdString();
+
+        const std::string result = dxfviewer::repaired(text);
+
+        EXPECT_TRUE(dxfviewer::isSound(result));
+        if (dxfviewer::isSound(text)) {
+            EXPECT_EQ(QByteArray::fromStdString(result).trimmed(),
+                      QByteArray::fromStdString(text).trimmed());
+            EXPECT_TRUE(parsed(result) == parsed(text));
+        }
+    }
+}
+
+// What is said of sound drawings would be empty otherwise.
+TEST(ExtraDrawingsSoundnessTest, MostAreSound)
+{
+    if (!qEnvironmentVariableIsSet("DXFVIEWER_EXTRA_DRAWINGS"))
+        GTEST_SKIP() << "DXFVIEWER_EXTRA_DRAWINGS names no folder of drawings";
+    const QDir folder(qEnvironmentVariable("DXFVIEWER_EXTRA_DRAWINGS"));
+    const QStringList names = folder.entryList({QStringLiteral("*.dxf")}, QDir::Files);
+
+    const auto sound = std::count_if(names.begin(), names.end(), [&folder](const QString& name) {
+        return dxfviewer::isSound(contentOf(folder.filePath(name)).toStdString());
+    });
+
+    EXPECT_GT(2 * sound, names.size());
+}
+
+INSTANTIATE_TEST_SUITE_P(Shards, ExtraDrawingsTest, ::testing::Range(0, shards));
+
+} // namespace

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QByteArray>
+#include <QPointF>
+#include <QVector>
+
+namespace dxftest
+{
+
+/// One of a handful of drawings, good ones of ordinary and of extreme sizes.
+QByteArray goodDrawing(int which);
+/// A text that is no drawing, or half of one.
+QByteArray badDrawing(int which);
+
+/// The vertices of a polyline as only a host can make it.
+QVector<QPointF> oddPoints(int which);
+
+} // namespace dxftest

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+namespace dxftest
+{
+
+/// What a host or a user can do.
+enum class Op {
+    NewWindow,
+    DeleteWindow,
+    DeleteWindowLater,
+    CloseWindow,
+    LoadBytes,
+    LoadBadBytes,
+    LoadFile,
+    LoadBadFile,
+    ShowLoaded,
+    BeginEdit,
+    ToggleEdit,
+    CallEditSlot,
+    CallSlot,
+    Press,
+    Move,
+    Release,
+    DoubleClick,
+    Stroke,
+    Leave,
+    Key,
+    ControlKey,
+    Shortcut,
+    Wheel,
+    ZoomSteps,
+    FitView,
+    Resize,
+    Scroll,
+    Undo,
+    Redo,
+    GetData,
+    Paint,
+    TurnEventLoop,
+    WaitForEraser,
+    AddNullEntity,
+    AddForeignEntity,
+    AddPolyline,
+    DeleteEntity,
+    Select,
+    Hover,
+    OverridePen,
+    RefreshItem,
+    ActOnDeleteRequest,
+    ActOnStackMove,
+    DeleteItem,
+    DeleteOverlay,
+    DeleteTool,
+    ClearScene,
+    DeleteScene,
+    DeleteView,
+};
+
+/**
+ * One thing done. Any step may follow any other: numbers are taken modulo what there is, and what
+ * cannot be done is not.
+ */
+struct Step {
+    Op op;
+    int window;
+    int a;
+    int b;
+};
+
+using Sequence = QVector<Step>;
+
+Sequence randomSequence(unsigned seed, int length);
+
+/// A test that runs the sequence, ready to be compiled.
+QString codeOf(const Sequence& sequence);
+
+/// A sequence for the hand-over to another process.
+QByteArray serialized(const Sequence& sequence);
+Sequence deserialized(const QByteArray& text);
+
+} // namespace dxftest

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "tests/monkey/ToolAccess.h"
+
+namespace dxftest
+{
+
+namespace
+{
+
+using ToolMember = QPointer<ISelectionTool> DXFEditor::*;
+
+ToolMember toolMember();
+
+// The names in an explicit instantiation are not checked for access.
+template <ToolMember member>
+struct Access {
+    friend ToolMember toolMember() { return member; }
+};
+
+template struct Access<&DXFEditor::m_tool>;
+
+} // namespace
+
+ISelectionTool* toolOf(const DXFEditor& overlay)
+{
+    return overlay.*toolMember();
+}
+
+} // namespace dxftest

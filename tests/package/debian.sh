@@ -1,0 +1,86 @@
+#!/bin/sh
+# Builds the Debian packages, has lintian look at them, installs them into an empty root and runs
+# the host from there.
+#
+# usage: debian.sh CMAKE SOURCE_FOLDER BUILD_FOLDER QT_MAJOR COMPILER
+set -eu
+
+cmake=$1
+source=$2
+build=$3
+qt_major=$4
+compiler=$5
+
+suffix=
+[ "$qt_major" = 5 ] || suffix=-qt$qt_major
+preset=package$suffix
+root=$build/root
+
+fail() {
+    echo "$1" >&2
+    exit 1
+}
+
+# field PACKAGE NAME: a field of a package's description.
+field() {
+    dpkg-deb --field "$build/packages/$1"_*.deb "$2"
+}
+
+# Packages that others may install have folders that others may read.
+umask 022
+cd "$source"
+"$cmake" --preset "$preset" -B "$build" "-DCMAKE_CXX_COMPILER=$compiler"
+"$cmake" --build "$build"
+rm -rf "$build/packages" "$root"
+(cd "$build" && "$(dirname "$cmake")/cpack" -B "$build/packages")
+
+library=libdxfviewer${suffix:+$suffix-}0
+for package in "$library" "libdxfviewer$suffix-dev" "dxfviewer-host$suffix"; do
+    echo "$package: $(field "$package" Depends)"
+done
+field "$library" Depends | grep -q "libdxflib" || fail "$library does not depend on dxflib"
+field "$library" Depends | grep -Eq "libqt${qt_major}widgets" || fail "$library does not depend on Qt"
+field "libdxfviewer$suffix-dev" Depends | grep -q "$library (= " ||
+    fail "the development package does not depend on this very library"
+field "dxfviewer-host$suffix" Depends | grep -q "$library (= " ||
+    fail "the host does not depend on this very library"
+
+if command -v lintian >/dev/null; then
+    lintian --allow-root --fail-on error "$build"/packages/*.deb
+else
+    echo "lintian is missing: the packages go unchecked" >&2
+fi
+
+# The root holds nothing that the packages depend on: the running system lends that.
+mkdir -p "$root/var/lib/dpkg/updates" "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/triggers"
+: >"$root/var/lib/dpkg/status"
+# A script of the packages would renew the running system's table of libraries.
+mkdir -p "$build/idle"
+printf '#!/bin/sh\n' >"$build/idle/ldconfig"
+chmod +x "$build/idle/ldconfig"
+as_root=
+[ "$(id -u)" = 0 ] || as_root=fakeroot
+# dpkg asks for programs that are not in the path of every user.
+PATH=$build/idle:$PATH:/usr/sbin:/sbin $as_root dpkg --root="$root" --log=/dev/null \
+    --force-depends --force-not-root --force-script-chrootless \
+    --install "$build"/packages/*.deb
+
+if command -v desktop-file-validate >/dev/null; then
+    desktop-file-validate "$root"/usr/share/applications/*.desktop
+else
+    echo "desktop-file-validate is missing: the desktop file goes unchecked" >&2
+fi
+if command -v appstreamcli >/dev/null; then
+    appstreamcli validate --no-net "$root"/usr/share/metainfo/*.xml
+else
+    echo "appstreamcli is missing: the metadata goes unchecked" >&2
+fi
+
+libraries=$(dirname "$(find "$root/usr/lib" -name "libdxfviewer$suffix.so.0")")
+LD_LIBRARY_PATH=$libraries "$root/usr/bin/dxfviewer-host" \
+    --picture "$build/picture.svg" "$source/samples/floor-plan.dxf"
+LD_LIBRARY_PATH=$libraries LC_ALL=C.UTF-8 LANGUAGE=de "$root/usr/bin/dxfviewer-host" --help |
+    grep -q DXF-Zeichnungen || {
+    echo "the installed host does not find its translations" >&2
+    exit 1
+}

@@ -1,0 +1,641 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/render/DXFGraphicsItem.h"
+
+#include "tests/render/PaintRecorder.h"
+#include "tests/support/Builders.h"
+#include "tests/support/Images.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/OtherEntity.h"
+
+#include <gmock/gmock.h>
+
+#include <QCoreApplication>
+#include <QGraphicsScene>
+#include <QPainter>
+#include <QSignalSpy>
+
+#include <memory>
+#include <random>
+
+using namespace dxftest;
+using ::testing::Contains;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+namespace
+{
+
+constexpr auto blankWarning = "DXFGraphicsItem:: cannot render blank document";
+
+QPen cosmeticPen(const QColor& color, int width)
+{
+    QPen pen;
+    pen.setWidth(width);
+    pen.setColor(color);
+    pen.setCosmetic(true);
+    return pen;
+}
+
+QSharedPointer<DXFPolyline> makeColored(const QVector<QPointF>& points, int color, int width = 0)
+{
+    auto polyline = makePolyline(points);
+    polyline->setAttributes(makeAttributes(QStringLiteral("0"), color, -1, width));
+    return polyline;
+}
+
+QVector<DrawnLines> recordPainting(DXFGraphicsItem& item)
+{
+    PaintRecorder recorder;
+    QPainter painter(&recorder);
+    item.paint(&painter, nullptr, nullptr);
+    painter.end();
+    EXPECT_EQ(recorder.otherCalls(), 0);
+    return recorder.calls();
+}
+
+QVector<QPen> pensOf(const QVector<DrawnLines>& calls)
+{
+    QVector<QPen> pens;
+    for (const DrawnLines& call : calls)
+        pens.append(call.pen);
+    return pens;
+}
+
+QVector<QColor> colorsOf(const QVector<DrawnLines>& calls)
+{
+    QVector<QColor> colors;
+    for (const DrawnLines& call : calls)
+        colors.append(call.pen.color());
+    return colors;
+}
+
+/// Rectangles are compared exactly here, not fuzzily.
+void expectRect(const QRectF& rect, double x, double y, double width, double height)
+{
+    EXPECT_EQ(rect.x(), x);
+    EXPECT_EQ(rect.y(), y);
+    EXPECT_EQ(rect.width(), width);
+    EXPECT_EQ(rect.height(), height);
+}
+
+QRectF boundsOf(const QList<QSharedPointer<DXFEntity>>& entities)
+{
+    DXFGraphicsItem item;
+    item.setDocument(makeDocument(entities));
+    return item.boundingRect();
+}
+
+class DXFGraphicsItemTest : public LoggedTest
+{
+protected:
+    DXFGraphicsItem item;
+};
+
+TEST_F(DXFGraphicsItemTest, StartsWithoutDocumentAndWithAZeroRectangle)
+{
+    EXPECT_TRUE(item.document().isNull());
+    EXPECT_EQ(item.parentItem(), nullptr);
+    expectRect(item.boundingRect(), 0, 0, 0, 0);
+}
+
+TEST_F(DXFGraphicsItemTest, ParentOwnsIt)
+{
+    DXFGraphicsItem parent;
+
+    auto* child = new DXFGraphicsItem(&parent);
+
+    EXPECT_EQ(child->parentItem(), &parent);
+}
+
+TEST_F(DXFGraphicsItemTest, HasNoFlags)
+{
+    EXPECT_EQ(item.flags(), QGraphicsItem::GraphicsItemFlags());
+}
+
+TEST_F(DXFGraphicsItemTest, RefreshWithoutADocumentWarns)
+{
+    expectWarning(blankWarning);
+
+    item.refresh();
+
+    expectRect(item.boundingRect(), 0, 0, 0, 0);
+}
+
+TEST_F(DXFGraphicsItemTest, NullDocumentWarnsAndClearsTheRectangle)
+{
+    item.setDocument(makeDocument({makePolyline({{1, 1}, {2, 2}})}));
+    expectWarning(blankWarning);
+
+    item.setDocument({});
+
+    EXPECT_TRUE(item.document().isNull());
+    expectRect(item.boundingRect(), 0, 0, 0, 0);
+}
+
+TEST_F(DXFGraphicsItemTest, DocumentIsSharedAndReleased)
+{
+    auto document = makeDocument({});
+    const QWeakPointer<DXFDocument> held = document;
+
+    item.setDocument(document);
+
+    EXPECT_EQ(item.document(), document);
+    document.reset();
+    EXPECT_FALSE(held.isNull());
+
+    item.setDocument(makeDocument({}));
+
+    EXPECT_TRUE(held.isNull());
+}
+
+TEST_F(DXFGraphicsItemTest, DestructionReleasesTheDocument)
+{
+    auto document = makeDocument({});
+    const QWeakPointer<DXFDocument> held = document;
+    auto dying = std::make_unique<DXFGraphicsItem>();
+    dying->setDocument(document);
+    document.reset();
+
+    dying.reset();
+
+    EXPECT_TRUE(held.isNull());
+}
+
+TEST_F(DXFGraphicsItemTest, LifeTokenExpiresWithTheItem)
+{
+    auto dying = std::make_unique<DXFGraphicsItem>();
+    const auto token = dying->lifeToken();
+    EXPECT_FALSE(token.expired());
+
+    dying.reset();
+
+    EXPECT_TRUE(token.expired());
+}
+
+TEST_F(DXFGraphicsItemTest, SettingTheDocumentSetsItUp)
+{
+    const auto polyline = makeColored({{0, 0}, {1, 1}}, 1, 25);
+
+    item.setDocument(makeDocument({polyline}));
+
+    EXPECT_EQ(polyline->segments().size(), 1);
+    EXPECT_EQ(polyline->color(), QColor(Qt::darkRed));
+    EXPECT_EQ(polyline->lineWidth(), 1);
+}
+
+TEST_F(DXFGraphicsItemTest, RefreshDoesNotSetUpAgain)
+{
+    const auto polyline = makePolyline({{0, 0}, {1, 1}});
+    item.setDocument(makeDocument({polyline}));
+    const auto ids = segmentIdsOf(*polyline);
+
+    item.refresh();
+
+    EXPECT_EQ(segmentIdsOf(*polyline), ids);
+}
+
+TEST_F(DXFGraphicsItemTest, OneSegmentIsTheRectangle)
+{
+    expectRect(boundsOf({makePolyline({{0, 0}, {10, 5}})}), 0, 0, 10, 5);
+    expectRect(boundsOf({makePolyline({{-3, -4}, {-1, 7}})}), -3, -4, 2, 11);
+}
+
+TEST_F(DXFGraphicsItemTest, SingleLeftwardSegmentLeavesNegativeExtents)
+{
+    expectRect(boundsOf({makePolyline({{10, 5}, {0, 0}})}), 10, 5, -10, -5);
+    expectRect(boundsOf({makePolyline({{10, 0}, {0, 5}})}), 10, 0, -10, 5);
+    expectRect(boundsOf({makePolyline({{0, 5}, {10, 0}})}), 0, 5, 10, -5);
+}
+
+TEST_F(DXFGraphicsItemTest, SecondSegmentNormalisesTheRectangle)
+{
+    expectRect(boundsOf({makePolyline({{10, 5}, {0, 0}}), makePolyline({{20, 0}, {20, 1}})}), 0, 0,
+               20, 5);
+}
+
+TEST_F(DXFGraphicsItemTest, HorizontalAndVerticalSegmentsCount)
+{
+    expectRect(boundsOf({makePolyline({{1, 3}, {4, 3}}), makePolyline({{6, 3}, {9, 3}})}), 1, 3, 8,
+               0);
+    expectRect(boundsOf({makePolyline({{3, 1}, {3, 4}}), makePolyline({{5, 6}, {5, 9}})}), 3, 1, 2,
+               8);
+}
+
+TEST_F(DXFGraphicsItemTest, OriginIsNotDraggedIn)
+{
+    expectRect(
+        boundsOf({makePolyline({{100, 100}, {110, 105}}), makePolyline({{90, 120}, {95, 121}})}),
+        90, 100, 20, 21);
+}
+
+TEST_F(DXFGraphicsItemTest, SegmentsWithoutLengthContributeNothing)
+{
+    expectRect(boundsOf({makePolyline({{0, 0}, {0, 0}})}), 0, 0, 0, 0);
+    expectRect(boundsOf({makePolyline({{50, 50}, {50, 50}}), makePolyline({{10, 5}, {0, 0}}),
+                         makePolyline({{-50, 50}, {-50, 50}})}),
+               10, 5, -10, -5);
+}
+
+TEST_F(DXFGraphicsItemTest, EmptyDocumentKeepsTheZeroRectangle)
+{
+    expectRect(boundsOf({}), 0, 0, 0, 0);
+    expectRect(boundsOf({makePolyline({}), makePolyline({{5, 5}})}), 0, 0, 0, 0);
+}
+
+TEST_F(DXFGraphicsItemTest, NullAndOtherEntitiesAreSkipped)
+{
+    const auto other = QSharedPointer<OtherEntity>::create(5);
+    const auto unknown = QSharedPointer<OtherEntity>::create(-1);
+
+    item.setDocument(makeDocument(
+        {QSharedPointer<DXFEntity>(), other, makePolyline({{0, 0}, {10, 5}}), unknown}));
+
+    expectRect(item.boundingRect(), 0, 0, 10, 5);
+    EXPECT_EQ(recordPainting(item).size(), 1);
+    EXPECT_EQ(other->setupCount(), 1);
+}
+
+TEST_F(DXFGraphicsItemTest, ClosingSegmentCounts)
+{
+    item.setDocument(makeDocument({makePolyline({{0, 0}, {4, 0}, {4, 3}}, true)}));
+
+    EXPECT_EQ(recordPainting(item).size(), 3);
+    expectRect(item.boundingRect(), 0, 0, 4, 3);
+}
+
+TEST_F(DXFGraphicsItemTest, RandomSegmentsUniteInOrder)
+{
+    std::mt19937 random(99);
+    const auto coordinate = [&random] {
+        return double(std::uniform_int_distribution<int>(-3, 3)(random));
+    };
+    for (int round = 0; round < 1000; ++round) {
+        SCOPED_TRACE(round);
+        QList<QSharedPointer<DXFEntity>> entities;
+        QRectF expected(0, 0, 0, 0);
+        for (int count = std::uniform_int_distribution<int>(0, 4)(random); count > 0; --count) {
+            const double x1 = coordinate();
+            const double y1 = coordinate();
+            const double x2 = coordinate();
+            const double y2 = coordinate();
+            entities.append(makePolyline({{x1, y1}, {x2, y2}}));
+            expected = expected | QRectF(x1, y1, x2 - x1, y2 - y1);
+        }
+
+        expectRect(boundsOf(entities), expected.x(), expected.y(), expected.width(),
+                   expected.height());
+
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(DXFGraphicsItemTest, EditsLeaveTheRectangleUntilTheNextRefresh)
+{
+    const auto kept = makePolyline({{0, 0}, {1, 1}});
+    const auto erased = makePolyline({{5, 5}, {9, 9}});
+    const auto document = makeDocument({kept, erased});
+    item.setDocument(document);
+
+    document->deleteEntity(erased);
+
+    expectRect(item.boundingRect(), 0, 0, 9, 9);
+    EXPECT_EQ(recordPainting(item).size(), 1);
+
+    item.refresh();
+
+    expectRect(item.boundingRect(), 0, 0, 1, 1);
+}
+
+TEST_F(DXFGraphicsItemTest, PaintWithoutADocumentLeavesThePainterAlone)
+{
+    PaintRecorder recorder;
+    QPainter painter(&recorder);
+    const QPen pen(Qt::green, 5);
+    painter.setPen(pen);
+
+    item.paint(&painter, nullptr, nullptr);
+
+    EXPECT_EQ(painter.pen(), pen);
+    EXPECT_THAT(recorder.calls(), IsEmpty());
+}
+
+TEST_F(DXFGraphicsItemTest, EachSegmentIsDrawnByItsOwnCallInOrder)
+{
+    const auto document = makeDocument(
+        {makePolyline({{0, 0}, {1, 2}, {1, 2}, {3, 0}}), makePolyline({{9, 9}, {8, 8}})});
+    item.setDocument(document);
+    const auto lines = linesOf(document);
+
+    const auto calls = recordPainting(item);
+
+    ASSERT_EQ(calls.size(), 4);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(calls.at(i).lines, QVector<QLineF>{lines.at(i)});
+}
+
+TEST_F(DXFGraphicsItemTest, PensAreCosmeticInTheEntitysColourAndWidth)
+{
+    item.setDocument(
+        makeDocument({makeColored({{0, 0}, {1, 1}, {2, 2}}, 1, 0),
+                      makeColored({{3, 3}, {4, 4}}, 1, 25), makeColored({{5, 5}, {6, 6}}, 5, 25)}));
+
+    const auto pens = pensOf(recordPainting(item));
+
+    EXPECT_EQ(pens, QVector<QPen>({cosmeticPen(Qt::darkRed, 0), cosmeticPen(Qt::darkRed, 0),
+                                   cosmeticPen(Qt::darkRed, 1), cosmeticPen(Qt::darkBlue, 1)}));
+}
+
+TEST_F(DXFGraphicsItemTest, ColourAndWidthAreReadWhenPainting)
+{
+    const auto polyline = makePolyline({{0, 0}, {1, 1}});
+    item.setDocument(makeDocument({polyline}));
+    polyline->setColor(QColor(1, 2, 3, 4));
+    polyline->setLineWidth(7);
+
+    const auto pens = pensOf(recordPainting(item));
+
+    EXPECT_EQ(pens, QVector<QPen>{cosmeticPen(QColor(1, 2, 3, 4), 7)});
+}
+
+TEST_F(DXFGraphicsItemTest, EntityAddedLaterIsPaintedInItsDefaults)
+{
+    const auto document = makeDocument({});
+    item.setDocument(document);
+    const auto late = makePolyline({{0, 0}, {1, 1}});
+    late->setup();
+    document->addEntity(late);
+
+    const auto pens = pensOf(recordPainting(item));
+
+    EXPECT_EQ(pens, QVector<QPen>{cosmeticPen(QColor(), 0)});
+}
+
+TEST_F(DXFGraphicsItemTest, SelectedIsRedHoveredDarkYellowAndSelectedWins)
+{
+    const auto polyline = makeColored({{0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, 4}}, 1);
+    const auto document = makeDocument({polyline});
+    item.setDocument(document);
+    const auto ids = segmentIdsOf(*polyline);
+    document->setSelected({ids.at(1), ids.at(2)});
+    document->setHovered({ids.at(0), ids.at(1)});
+
+    const auto pens = pensOf(recordPainting(item));
+
+    EXPECT_EQ(pens, QVector<QPen>({cosmeticPen(Qt::darkYellow, 0), cosmeticPen(Qt::red, 0),
+                                   cosmeticPen(Qt::red, 0), cosmeticPen(Qt::darkRed, 0)}));
+}
+
+TEST_F(DXFGraphicsItemTest, FlagsOfTheEntityDoNotColourItsSegments)
+{
+    const auto polyline = makeColored({{0, 0}, {1, 1}}, 1);
+    const auto document = makeDocument({polyline});
+    item.setDocument(document);
+    document->setSelected({polyline->id()});
+    document->setHovered({polyline->id()});
+
+    EXPECT_EQ(colorsOf(recordPainting(item)), QVector<QColor>{Qt::darkRed});
+}
+
+TEST_F(DXFGraphicsItemTest, OverridePenDrawsEverySegmentWhateverItsState)
+{
+    const auto polyline = makeColored({{0, 0}, {1, 1}, {2, 2}, {3, 3}}, 1);
+    const auto document = makeDocument({polyline, makeColored({{5, 5}, {6, 6}}, 5, 25)});
+    item.setDocument(document);
+    const auto ids = segmentIdsOf(*polyline);
+    document->setSelected({ids.at(0)});
+    document->setHovered({ids.at(1)});
+    const QPen pen(Qt::blue, 3, Qt::DashLine);
+
+    item.setOverridePen(pen);
+
+    EXPECT_EQ(pensOf(recordPainting(item)), QVector<QPen>({pen, pen, pen, pen}));
+}
+
+TEST_F(DXFGraphicsItemTest, LaterOverridePenReplacesTheFormer)
+{
+    item.setDocument(makeDocument({makeColored({{0, 0}, {1, 1}}, 1)}));
+    item.setOverridePen(QPen(Qt::blue, 3));
+
+    item.setOverridePen(QPen(Qt::green, 2));
+
+    EXPECT_EQ(pensOf(recordPainting(item)), QVector<QPen>{QPen(Qt::green, 2)});
+}
+
+TEST_F(DXFGraphicsItemTest, ResettingReturnsToTheEntitysPens)
+{
+    item.setDocument(makeDocument({makeColored({{0, 0}, {1, 1}}, 1)}));
+    item.setOverridePen(QPen(Qt::blue, 3));
+
+    item.resetOverridePen();
+    item.resetOverridePen();
+
+    EXPECT_EQ(pensOf(recordPainting(item)), QVector<QPen>{cosmeticPen(Qt::darkRed, 0)});
+}
+
+TEST_F(DXFGraphicsItemTest, OverridePenMayBeSetWithoutADocument)
+{
+    item.setOverridePen(QPen(Qt::blue, 3));
+    item.setDocument(makeDocument({makeColored({{0, 0}, {1, 1}}, 1)}));
+
+    EXPECT_EQ(pensOf(recordPainting(item)), QVector<QPen>{QPen(Qt::blue, 3)});
+}
+
+TEST_F(DXFGraphicsItemTest, PainterIsRestored)
+{
+    item.setDocument(makeDocument({makeColored({{0, 0}, {1, 1}}, 1)}));
+    const QPen pen(Qt::green, 5);
+    for (bool overridden : {false, true}) {
+        if (overridden)
+            item.setOverridePen(QPen(Qt::blue, 3));
+        PaintRecorder recorder;
+        QPainter painter(&recorder);
+        painter.setPen(pen);
+
+        item.paint(&painter, nullptr, nullptr);
+
+        EXPECT_EQ(painter.pen(), pen);
+        EXPECT_EQ(recorder.calls().size(), 1);
+    }
+}
+
+TEST_F(DXFGraphicsItemTest, PaintTakesNeitherPenNorBrushOfThePainter)
+{
+    item.setDocument(makeDocument({makeColored({{0, 0}, {1, 1}}, 1)}));
+    item.setPen(QPen(Qt::green, 9));
+    PaintRecorder recorder;
+    QPainter painter(&recorder);
+    painter.setPen(QPen(Qt::green, 5, Qt::DotLine));
+
+    item.paint(&painter, nullptr, nullptr);
+
+    EXPECT_EQ(pensOf(recorder.calls()), QVector<QPen>{cosmeticPen(Qt::darkRed, 0)});
+}
+
+class InASceneTest : public DXFGraphicsItemTest
+{
+protected:
+    InASceneTest()
+    {
+        scene.addItem(&item);
+        settle();
+    }
+    ~InASceneTest() override { scene.removeItem(&item); }
+
+    static void settle()
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+
+    QGraphicsScene scene;
+};
+
+TEST_F(InASceneTest, OverridePenRepaints)
+{
+    item.setDocument(makeDocument({makePolyline({{0, 0}, {10, 10}})}));
+    settle();
+    QSignalSpy changes(&scene, &QGraphicsScene::changed);
+
+    item.setOverridePen(QPen(Qt::blue));
+
+    EXPECT_TRUE(changes.wait());
+    settle();
+    changes.clear();
+
+    item.resetOverridePen();
+
+    EXPECT_TRUE(changes.wait());
+}
+
+TEST_F(InASceneTest, RefreshDoesNotRepaint)
+{
+    item.setDocument(makeDocument({makePolyline({{0, 0}, {10, 10}})}));
+    settle();
+    QSignalSpy changes(&scene, &QGraphicsScene::changed);
+
+    item.refresh();
+    settle();
+
+    EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_F(InASceneTest, SceneFindsTheItemWhereTheNewDocumentLies)
+{
+    // An index of one leaf would find the item anywhere.
+    scene.setSceneRect(-8000, -8000, 16000, 16000);
+    scene.setBspTreeDepth(6);
+    item.setDocument(makeDocument({makePolyline({{0, 0}, {10, 10}})}));
+    ASSERT_THAT(scene.items(QPointF(5, 5)), Contains(&item));
+
+    item.setDocument(makeDocument({makePolyline({{5000, 5000}, {5010, 5010}})}));
+
+    EXPECT_THAT(scene.items(QPointF(5005, 5005)), Contains(&item));
+    EXPECT_THAT(scene.items(QPointF(5, 5)), Not(Contains(&item)));
+}
+
+/// A picture of the item, and of the same document drawn segment by segment as plainly as it can
+/// be.
+class PictureTest : public DXFGraphicsItemTest
+{
+protected:
+    static QImage blankPicture()
+    {
+        QImage picture(160, 120, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::white);
+        return picture;
+    }
+
+    static void prepare(QPainter& painter)
+    {
+        painter.translate(80, 60);
+        painter.scale(3, -3);
+    }
+
+    QImage paintedPicture()
+    {
+        QImage picture = blankPicture();
+        QPainter painter(&picture);
+        prepare(painter);
+        item.paint(&painter, nullptr, nullptr);
+        return picture;
+    }
+
+    static QImage plainPicture(const DXFDocument& document, const QPen* override)
+    {
+        QImage picture = blankPicture();
+        QPainter painter(&picture);
+        prepare(painter);
+        for (const auto& entity : document.entities()) {
+            if (!entity || entity->type() != 0)
+                continue;
+            for (const Segment& segment : static_cast<const DXFPolyline&>(*entity).segments()) {
+                QPen pen = cosmeticPen(entity->color(), entity->lineWidth());
+                if (segment.isHovered())
+                    pen.setColor(Qt::darkYellow);
+                if (segment.isSelected())
+                    pen.setColor(Qt::red);
+                painter.setPen(override ? *override : pen);
+                painter.drawLine(segment.line());
+            }
+        }
+        return picture;
+    }
+};
+
+TEST_F(PictureTest, RandomDocumentsLookAsDrawnPlainly)
+{
+    std::mt19937 random(5);
+    const auto upTo = [&random](int most) {
+        return std::uniform_int_distribution<int>(0, most)(random);
+    };
+    const QPen override(QColor(0, 0, 255, 100), 1.5, Qt::DashLine);
+    for (int round = 0; round < 60; ++round) {
+        SCOPED_TRACE(round);
+        QList<QSharedPointer<DXFEntity>> entities;
+        for (int count = 1 + upTo(5); count > 0; --count) {
+            auto polyline = makePolyline({}, upTo(1) == 1);
+            for (int vertices = upTo(6); vertices > 0; --vertices)
+                polyline->appendPoint(DXFVertex(upTo(60) - 30, upTo(40) - 20, 0, true, 0));
+            polyline->setAttributes(makeAttributes(QStringLiteral("0"), 1 + upTo(7), -1, upTo(1)));
+            entities << polyline << QSharedPointer<OtherEntity>::create();
+        }
+        const auto document = makeDocument(entities);
+        item.setDocument(document);
+        const auto ids = segmentIdsOf(document);
+        QVector<int> selected;
+        QVector<int> hovered;
+        for (int id : ids) {
+            if (upTo(3) == 0)
+                selected.append(id);
+            if (upTo(3) == 0)
+                hovered.append(id);
+        }
+        document->setSelected(selected);
+        document->setHovered(hovered);
+
+        item.resetOverridePen();
+        EXPECT_TRUE(picturesMatch(paintedPicture(), plainPicture(*document, nullptr)));
+
+        item.setOverridePen(override);
+        EXPECT_TRUE(picturesMatch(paintedPicture(), plainPicture(*document, &override)));
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(PictureTest, LinesStayOnePixelWideWhateverTheZoom)
+{
+    const auto polyline = makeColored({{-10, 0}, {10, 0}}, 23, 25);
+    item.setDocument(makeDocument({polyline}));
+
+    const QImage picture = paintedPicture();
+
+    int painted = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        painted += picture.pixelColor(80, y) == QColor(Qt::red) ? 1 : 0;
+    EXPECT_EQ(painted, 1);
+}
+
+} // namespace

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QLineF>
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPen>
+#include <QVector>
+
+namespace dxftest
+{
+
+/// One call that drew lines, and the pen that it drew them with.
+struct DrawnLines {
+    QVector<QLineF> lines;
+    QPen pen;
+};
+
+/// A device that draws nothing but writes down every call that draws lines.
+class PaintRecorder : public QPaintDevice
+{
+public:
+    PaintRecorder();
+
+    QVector<DrawnLines> calls() const { return m_engine.calls; }
+    /// How often something else than lines was drawn.
+    int otherCalls() const { return m_engine.otherCalls; }
+
+    QPaintEngine* paintEngine() const override { return &m_engine; }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override;
+
+private:
+    class Engine : public QPaintEngine
+    {
+    public:
+        Engine();
+
+        bool begin(QPaintDevice* device) override;
+        bool end() override;
+        Type type() const override { return User; }
+        void updateState(const QPaintEngineState& state) override;
+        void drawLines(const QLineF* lines, int count) override;
+        void drawLines(const QLine* lines, int count) override;
+        void drawPath(const QPainterPath& path) override;
+        void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override;
+        void drawPixmap(const QRectF& target, const QPixmap& pixmap, const QRectF& source) override;
+
+        QVector<DrawnLines> calls;
+        int otherCalls = 0;
+    };
+
+    mutable Engine m_engine;
+};
+
+} // namespace dxftest

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "tests/support/LogCapture.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace dxftest
+{
+
+namespace
+{
+
+/// Warnings of the platform that the tests happen to run on.
+constexpr std::array platformWarnings{
+    // The offscreen platform says so whenever a window is shown.
+    "This plugin does not support propagateSizeHints()",
+    "This plugin does not support raise()",
+};
+
+bool isPlatformWarning(const QString& text)
+{
+    return std::any_of(platformWarnings.begin(), platformWarnings.end(),
+                       [&text](const char* known) { return text == QLatin1String(known); });
+}
+
+} // namespace
+
+LogCapture* LogCapture::s_innermost = nullptr;
+
+LogCapture::LogCapture()
+    : m_outer(std::exchange(s_innermost, this))
+    , m_previous(qInstallMessageHandler(&LogCapture::handle))
+{
+}
+
+LogCapture::~LogCapture()
+{
+    qInstallMessageHandler(m_previous);
+    s_innermost = m_outer;
+}
+
+QStringList LogCapture::takeDebugMessages()
+{
+    return std::exchange(m_debugMessages, QStringList());
+}
+
+QStringList LogCapture::takeWarnings()
+{
+    return std::exchange(m_warnings, QStringList());
+}
+
+void LogCapture::handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    s_innermost->record(type, context, text);
+}
+
+void LogCapture::record(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    switch (type) {
+    case QtDebugMsg:
+        m_debugMessages.append(text);
+        return;
+    case QtWarningMsg:
+    case QtCriticalMsg:
+        if (!isPlatformWarning(text))
+            m_warnings.append(text);
+        return;
+    case QtInfoMsg:
+    case QtFatalMsg:
+        if (m_outer)
+            m_outer->record(type, context, text);
+        else if (m_previous)
+            m_previous(type, context, text);
+        return;
+    }
+}
+
+} // namespace dxftest

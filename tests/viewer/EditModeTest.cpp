@@ -1,0 +1,669 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/edit/DXFEditor.h"
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/render/DXFGraphicsItem.h"
+#include "dxfviewer/viewer/DXFViewer.h"
+#include "dxfviewer/viewer/View.h"
+
+#include "tests/support/Builders.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/SceneMouse.h"
+#include "tests/support/WindowParts.h"
+
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QGraphicsEllipseItem>
+#include <QGraphicsScene>
+#include <QPointer>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QToolBar>
+#include <QUndoGroup>
+#include <QUndoStack>
+#include <QUndoView>
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+using namespace dxftest;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+namespace
+{
+
+const QByteArray drawing = drawingText({
+    {{{0, 0}, {400, 0}}, false},
+    {{{0, 100}, {400, 100}}, false},
+    {{{0, 200}, {400, 200}}, false},
+});
+const QByteArray otherDrawing = drawingText({{{{0, 0}, {10, 10}}, false}});
+
+/// Two windows with a drawing each.
+class EditModeTest : public LoggedTest
+{
+protected:
+    EditModeTest()
+        : window(std::make_unique<DXFViewer>())
+        , second(std::make_unique<DXFViewer>())
+    {
+    }
+
+    void SetUp() override
+    {
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        ASSERT_TRUE(loadAndShow(*window, drawing));
+        ASSERT_TRUE(loadAndShow(*second, drawing));
+        takeDebugMessages();
+    }
+
+    void toggle(DXFViewer& which, bool on)
+    {
+        ASSERT_TRUE(QMetaObject::invokeMethod(&which, "on_actionEdit_dxf_toggled",
+                                              Qt::DirectConnection, Q_ARG(bool, on)));
+    }
+
+    QPointer<DXFEditor> startEditing()
+    {
+        editActionOf(*window).setChecked(true);
+        return editorsOf(*window).value(0);
+    }
+
+    /// What stands in the tool bar behind the window's own actions.
+    QStringList addedActions(const DXFViewer& which) const
+    {
+        QStringList texts;
+        const auto actions = toolBarOf(which).actions().mid(4);
+        for (const QAction* action : actions)
+            texts.append(action->text());
+        return texts;
+    }
+
+    void eraseFirstLine() { SceneMouse(viewOf(*window)).drag({{200, 30}, {200, 0}}); }
+
+    qsizetype entityCount() const { return shownDocument(*window)->entities().size(); }
+
+    std::unique_ptr<DXFViewer> window;
+    std::unique_ptr<DXFViewer> second;
+    const QStringList undoAndRedo{QStringLiteral("Undo"), QStringLiteral("Redo")};
+};
+
+// On and off
+
+TEST_F(EditModeTest, OnPutsAnEditorOverTheItem)
+{
+    editActionOf(*window).trigger();
+
+    ASSERT_THAT(editorsOf(*window), SizeIs(1));
+    EXPECT_THAT(takeDebugMessages(), ElementsAre(QStringLiteral("DXFEditor created ")));
+    EXPECT_EQ(entityCount(), 3);
+}
+
+TEST_F(EditModeTest, OnAddsUndoAndRedoToTheToolBar)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    EXPECT_EQ(addedActions(*window), undoAndRedo);
+    const auto actions = toolBarOf(*window).actions();
+    EXPECT_EQ(actions[4]->parent(), editor);
+    EXPECT_EQ(actions[5]->parent(), editor);
+    EXPECT_FALSE(actions[4]->isEnabled());
+    EXPECT_FALSE(actions[5]->isEnabled());
+}
+
+TEST_F(EditModeTest, OnPointsTheUndoViewAtTheStack)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    int bound = 0;
+    const auto widgets = QApplication::allWidgets();
+    for (const QWidget* widget : widgets) {
+        const auto* view = qobject_cast<const QUndoView*>(widget);
+        bound += view && view->stack() == editor->stack();
+    }
+    EXPECT_EQ(bound, 1);
+}
+
+TEST_F(EditModeTest, ActionsUndoAndRedoTheStrokes)
+{
+    startEditing();
+    eraseFirstLine();
+    EXPECT_EQ(entityCount(), 2);
+    const auto actions = toolBarOf(*window).actions();
+    ASSERT_THAT(actions, SizeIs(6));
+
+    EXPECT_TRUE(actions[4]->isEnabled());
+    actions[4]->trigger();
+    EXPECT_EQ(entityCount(), 3);
+    actions[5]->trigger();
+    EXPECT_EQ(entityCount(), 2);
+    EXPECT_EQ(addedActions(*window), undoAndRedo) << "the commands have no text";
+}
+
+TEST_F(EditModeTest, OffEndsEverythingButTheEdits)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    eraseFirstLine();
+
+    editActionOf(*window).setChecked(false);
+
+    EXPECT_EQ(editor, nullptr);
+    EXPECT_THAT(addedActions(*window), IsEmpty());
+    EXPECT_THAT(sceneOf(*window).items(), SizeIs(1)) << "overlay and marker are gone";
+    EXPECT_FALSE(itemsOf(*window).first()->isEnabled());
+    EXPECT_EQ(entityCount(), 2);
+}
+
+TEST_F(EditModeTest, EditedDrawingCanBeTakenAfterwards)
+{
+    startEditing();
+    eraseFirstLine();
+    const QByteArray during = window->getData();
+    editActionOf(*window).setChecked(false);
+
+    EXPECT_EQ(window->getData(), during);
+    EXPECT_EQ(during.count("VERTEX"), 4);
+}
+
+TEST_F(EditModeTest, HistoryStartsAnew)
+{
+    startEditing();
+    eraseFirstLine();
+    editActionOf(*window).setChecked(false);
+
+    const QPointer<DXFEditor> editor = startEditing();
+
+    EXPECT_EQ(editor->stack()->count(), 0);
+    EXPECT_FALSE(toolBarOf(*window).actions().value(4)->isEnabled());
+}
+
+TEST_F(EditModeTest, OnTwiceLeavesOneEditorAndOnePairOfActions)
+{
+    toggle(*window, true);
+    const QPointer<DXFEditor> first = editorsOf(*window).value(0);
+
+    toggle(*window, true);
+
+    EXPECT_EQ(first, nullptr);
+    EXPECT_THAT(editorsOf(*window), SizeIs(1));
+    EXPECT_EQ(addedActions(*window), undoAndRedo);
+}
+
+TEST_F(EditModeTest, OffTwiceIsHarmless)
+{
+    startEditing();
+    toggle(*window, false);
+    toggle(*window, false);
+
+    EXPECT_THAT(editorsOf(*window), IsEmpty());
+}
+
+TEST_F(EditModeTest, SlotDoesNotChangeTheAction)
+{
+    startEditing();
+
+    toggle(*window, false);
+
+    EXPECT_TRUE(editActionOf(*window).isChecked());
+}
+
+TEST_F(EditModeTest, BeforeAnythingIsLoadedNothingStarts)
+{
+    DXFViewer empty;
+
+    editActionOf(empty).setChecked(true);
+
+    EXPECT_TRUE(editActionOf(empty).isChecked());
+    EXPECT_THAT(editorsOf(empty), IsEmpty());
+    EXPECT_THAT(addedActions(empty), IsEmpty());
+    EXPECT_THAT(takeDebugMessages(), IsEmpty());
+}
+
+TEST_F(EditModeTest, BeforeAnythingIsLoadedItEndsAnyOther)
+{
+    DXFViewer empty;
+    const QPointer<DXFEditor> editor = startEditing();
+
+    editActionOf(empty).setChecked(true);
+
+    EXPECT_EQ(editor, nullptr);
+}
+
+// One for the whole process
+
+TEST_F(EditModeTest, SecondWindowEndsTheFirstOnesEditor)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    editActionOf(*second).setChecked(true);
+
+    EXPECT_EQ(editor, nullptr);
+    EXPECT_THAT(addedActions(*window), IsEmpty());
+    EXPECT_EQ(addedActions(*second), undoAndRedo);
+    EXPECT_TRUE(editActionOf(*window).isChecked()) << "its action is not changed back";
+}
+
+TEST_F(EditModeTest, SwitchingOffInAnotherWindowEndsTheEditor)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    toggle(*second, false);
+
+    EXPECT_EQ(editor, nullptr);
+}
+
+TEST_F(EditModeTest, DestroyingAnyWindowEndsTheEditor)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    second.reset();
+
+    EXPECT_EQ(editor, nullptr);
+    EXPECT_THAT(sceneOf(*window).items(), SizeIs(1));
+}
+
+TEST_F(EditModeTest, ClosingAWindowAloneEndsNothing)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    second->close();
+
+    EXPECT_NE(editor, nullptr);
+}
+
+TEST_F(EditModeTest, DestroyedWindowTakesItsEditorAlong)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    eraseFirstLine();
+
+    window.reset();
+
+    EXPECT_EQ(editor, nullptr);
+    editActionOf(*second).setChecked(true);
+    EXPECT_THAT(editorsOf(*second), SizeIs(1));
+}
+
+// Loading while editing
+
+TEST_F(EditModeTest, LoadEndsEditModeAndUnchecksTheAction)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+
+    EXPECT_EQ(editor, nullptr);
+    EXPECT_FALSE(editActionOf(*window).isChecked());
+    EXPECT_THAT(addedActions(*window), IsEmpty());
+    EXPECT_TRUE(itemsOf(*window).first()->isEnabled());
+}
+
+TEST_F(EditModeTest, EditorWorksOnTheOldDrawingUntilTheNewOneIsShown)
+{
+    startEditing();
+    const auto old = shownDocument(*window);
+
+    window->loadData(otherDrawing);
+    eraseFirstLine();
+
+    EXPECT_THAT(old->entities(), SizeIs(2));
+    EXPECT_EQ(window->getData().count("VERTEX"), 2);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shownDocument(*window) != old; }));
+}
+
+TEST_F(EditModeTest, LoadInTheMiddleOfAStroke)
+{
+    startEditing();
+    SceneMouse mouse(viewOf(*window));
+    mouse.press({200, 30});
+    mouse.move({200, 0});
+
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+    mouse.move({5, 5});
+    mouse.release({5, 5});
+
+    EXPECT_EQ(entityCount(), 1);
+}
+
+TEST_F(EditModeTest, LoadInAnotherWindowLeavesTheEditor)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    ASSERT_TRUE(loadAndShow(*second, otherDrawing));
+
+    EXPECT_NE(editor, nullptr);
+    EXPECT_TRUE(editActionOf(*window).isChecked());
+}
+
+TEST_F(EditModeTest, LoadInAWindowWhoseEditModeWasTakenOverLeavesItsAction)
+{
+    startEditing();
+    editActionOf(*second).setChecked(true);
+
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+
+    EXPECT_THAT(editorsOf(*second), SizeIs(1));
+    EXPECT_TRUE(editActionOf(*window).isChecked());
+}
+
+TEST_F(EditModeTest, EditModeMayStartAgainAfterALoad)
+{
+    startEditing();
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+
+    EXPECT_NE(startEditing(), nullptr);
+    EXPECT_EQ(addedActions(*window), undoAndRedo);
+}
+
+// The window goes in the middle of things
+
+TEST_F(EditModeTest, WindowMayBeDestroyedAtATick)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    const QPointer<DXFViewer> watched = window.get();
+    QObject::connect(editor->stack(), &QUndoStack::indexChanged, window.get(), [this] {
+        if (window)
+            window.release()->deleteLater();
+    });
+    SceneMouse mouse(viewOf(*window));
+    mouse.press({200, 30});
+    mouse.move({200, 0});
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watched.isNull(); }));
+
+    EXPECT_EQ(editor, nullptr);
+}
+
+/// Lets something happen inside the handling of the tool's next tick.
+class AtNextTick : public QObject
+{
+public:
+    explicit AtNextTick(std::function<void()> action)
+        : m_action(std::move(action))
+    {
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* timer = qobject_cast<QTimer*>(watched);
+        if (event->type() == QEvent::Timer && timer && timer->interval() == 50 && m_action) {
+            // Behind the tool's own slot, within the same signal.
+            QObject::connect(timer, &QTimer::timeout, std::exchange(m_action, nullptr));
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> m_action;
+};
+
+TEST_F(EditModeTest, WindowMayBeDestroyedInsideATick)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    const QPointer<DXFViewer> watched = window.get();
+    AtNextTick atNextTick([this] { window.reset(); });
+    qApp->installEventFilter(&atNextTick);
+    SceneMouse mouse(viewOf(*window));
+    mouse.press({200, 30});
+    mouse.move({200, 0});
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watched.isNull(); }));
+
+    EXPECT_EQ(editor, nullptr);
+}
+
+TEST_F(EditModeTest, EditModeMayEndInsideAStroke)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    SceneMouse mouse(viewOf(*window));
+    mouse.press({200, 30});
+    mouse.move({200, 0});
+
+    editActionOf(*window).setChecked(false);
+    mouse.move({200, 100});
+    mouse.release({200, 100});
+
+    EXPECT_EQ(entityCount(), 3);
+    EXPECT_EQ(editor, nullptr);
+}
+
+TEST_F(EditModeTest, DialogMayRunInsideAStroke)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    int commands = 0;
+    QObject::connect(editor->stack(), &QUndoStack::indexChanged, window.get(), [&] {
+        if (++commands > 1)
+            return;
+        QEventLoop dialog;
+        QTimer::singleShot(120, &dialog, &QEventLoop::quit);
+        dialog.exec();
+    });
+    SceneMouse mouse(viewOf(*window));
+    mouse.press({200, 30});
+    mouse.move({200, 0});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return commands == 1; }));
+
+    mouse.move({200, 100});
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return commands == 2; }));
+    mouse.release({200, 100});
+    EXPECT_EQ(entityCount(), 1);
+}
+
+// A host that meddles with what is inside
+
+class MeddlingTest : public EditModeTest
+{
+protected:
+    /// What a user does afterwards, and the end.
+    void goOn()
+    {
+        if (auto* view = window->findChild<View*>())
+            SceneMouse(*view).drag({{200, 30}, {200, 0}});
+        editActionOf(*window).setChecked(false);
+        editActionOf(*window).setChecked(true);
+        editActionOf(*second).setChecked(true);
+        editActionOf(*second).setChecked(false);
+        window->loadData(otherDrawing);
+        QMetaObject::invokeMethod(window.get(), "postLoad", Qt::DirectConnection);
+        EXPECT_EQ(window->getData().count("VERTEX"), 2);
+        window.reset();
+        QCoreApplication::processEvents();
+    }
+};
+
+TEST_F(MeddlingTest, ViewIsDeletedInEditMode)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    delete &viewOf(*window);
+
+    EXPECT_EQ(editor, nullptr);
+    EXPECT_THAT(addedActions(*window), IsEmpty());
+    goOn();
+}
+
+TEST_F(MeddlingTest, ItemIsDeletedInEditMode)
+{
+    startEditing();
+    eraseFirstLine();
+
+    delete itemsOf(*window).first();
+
+    QCoreApplication::processEvents();
+    goOn();
+}
+
+TEST_F(MeddlingTest, EditorIsDeletedByTheHost)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    eraseFirstLine();
+
+    delete editor;
+
+    EXPECT_THAT(addedActions(*window), IsEmpty());
+    goOn();
+}
+
+TEST_F(MeddlingTest, SceneIsClearedInEditMode)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    eraseFirstLine();
+
+    sceneOf(*window).clear();
+
+    EXPECT_EQ(editor, nullptr);
+    goOn();
+}
+
+/// Switches a window's edit mode off when the undo stack that is watched has gone.
+class SwitchesOff : public QUndoGroup
+{
+public:
+    SwitchesOff(QUndoStack* stack, QAction& action)
+    {
+        addStack(stack);
+        setActiveStack(stack);
+        connect(this, &QUndoGroup::activeStackChanged, this, [&action, this] {
+            action.setChecked(false);
+            m_wasCalled = true;
+        });
+    }
+
+    bool wasCalled() const { return m_wasCalled; }
+
+private:
+    bool m_wasCalled = false;
+};
+
+TEST_F(MeddlingTest, EndOfTheEditorIsAnsweredByEndingEditMode)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    eraseFirstLine();
+    const SwitchesOff group(editor->stack(), editActionOf(*window));
+
+    sceneOf(*window).clear();
+
+    EXPECT_TRUE(group.wasCalled());
+    EXPECT_EQ(editor, nullptr);
+    goOn();
+}
+
+TEST_F(MeddlingTest, EndOfTheFormerEditorEndsTheNewOne)
+{
+    const QPointer<DXFEditor> former = startEditing();
+    const SwitchesOff group(former->stack(), editActionOf(*window));
+
+    toggle(*second, true);
+
+    EXPECT_TRUE(group.wasCalled());
+    EXPECT_EQ(former, nullptr);
+    EXPECT_THAT(editorsOf(*second), IsEmpty());
+    EXPECT_THAT(addedActions(*second), IsEmpty());
+    goOn();
+}
+
+TEST_F(MeddlingTest, UndoViewIsDeletedByTheHost)
+{
+    startEditing();
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget* widget : widgets) {
+        if (qobject_cast<QUndoView*>(widget))
+            delete widget;
+    }
+
+    toggle(*window, true);
+
+    EXPECT_EQ(addedActions(*window), undoAndRedo);
+    goOn();
+}
+
+TEST_F(MeddlingTest, SceneIsClearedInTheMiddleOfAStroke)
+{
+    startEditing();
+    SceneMouse mouse(viewOf(*window));
+    mouse.press({200, 30});
+    mouse.move({200, 0});
+
+    sceneOf(*window).clear();
+    mouse.move({200, 100});
+    mouse.release({200, 100});
+
+    goOn();
+}
+
+TEST_F(MeddlingTest, SceneIsDeletedInEditMode)
+{
+    startEditing();
+
+    delete &sceneOf(*window);
+
+    goOn();
+}
+
+TEST_F(MeddlingTest, ItemIsTakenOutOfTheSceneInEditMode)
+{
+    startEditing();
+    DXFGraphicsItem* item = itemsOf(*window).first();
+
+    sceneOf(*window).removeItem(item);
+
+    QCoreApplication::processEvents();
+    goOn();
+}
+
+TEST_F(MeddlingTest, ToolBarIsDeletedInEditMode)
+{
+    startEditing();
+
+    delete &toolBarOf(*window);
+
+    goOn();
+}
+
+TEST_F(MeddlingTest, EditActionIsDeletedInEditMode)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+
+    delete &editActionOf(*window);
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+
+    EXPECT_EQ(editor, nullptr);
+}
+
+// Exit with a window left behind
+
+class ExitTest : public LoggedTest, public ::testing::WithParamInterface<const char*>
+{
+};
+
+TEST_P(ExitTest, WindowLeakedInTheMiddleOfAStrokeEndsCleanly)
+{
+    const QTemporaryDir runtimeFolder;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeFolder.path());
+    QProcess host;
+    host.setProcessEnvironment(environment);
+
+    host.start(QStringLiteral(LEAKED_WINDOW_HOST), {QString::fromLatin1(GetParam())});
+
+    ASSERT_TRUE(host.waitForFinished(60000));
+    EXPECT_EQ(host.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(host.exitCode(), 0);
+    EXPECT_EQ(host.readAllStandardError(), QByteArray());
+    EXPECT_EQ(host.readAllStandardOutput(), QByteArray());
+}
+
+INSTANTIATE_TEST_SUITE_P(Manners, ExitTest,
+                         ::testing::Values("destroyed", "quit", "exit", "leaked"),
+                         [](const auto& manner) { return std::string(manner.param); });
+
+} // namespace
