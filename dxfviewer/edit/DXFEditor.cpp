@@ -7,10 +7,12 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/render/DXFGraphicsItem.h"
 
+#include <QAction>
 #include <QDebug>
 #include <QGraphicsScene>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QThread>
 
 namespace
 {
@@ -38,19 +40,73 @@ DXFEditor::DXFEditor(DXFGraphicsItem& item)
     m_stack.setUndoLimit(undoLimit);
     connect(m_tool, SIGNAL(requestDelete()), this, SLOT(onDeleteRequested()), Qt::DirectConnection);
     connect(&m_stack, SIGNAL(indexChanged(int)), this, SLOT(redrawDoc()), Qt::DirectConnection);
+    connect(&m_stack, &QUndoStack::indexChanged, this, &DXFEditor::noteStackMove);
 }
 
 DXFEditor::~DXFEditor()
 {
     m_isEnding = true;
-    if (itemIsAlive()) {
-        m_item.removeSceneEventFilter(this);
-        m_item.setEnabled(false);
-    }
+    releaseItem();
     cleanupTool();
     // Clearing the stack moves its index. Whoever listens must not get to run, much less an event
     // loop, while the overlay is still in its scene and no longer whole.
     m_stack.blockSignals(true);
+}
+
+void DXFEditor::end()
+{
+    // Who hears of the end may ask for it again.
+    if (m_isEnding)
+        return;
+    if (!isStackMoving()) {
+        delete this;
+        return;
+    }
+    m_isEnding = true;
+    m_endsAfterMoves = true;
+    releaseItem();
+    cleanupTool();
+    leaveScene();
+}
+
+/// After edit mode the item stays disabled.
+void DXFEditor::releaseItem()
+{
+    if (!itemIsAlive())
+        return;
+    m_item.removeSceneEventFilter(this);
+    m_item.setEnabled(false);
+}
+
+/// Takes the overlay out of sight, and the actions that were made for its stack.
+void DXFEditor::leaveScene()
+{
+    qDeleteAll(findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly));
+    if (scene())
+        scene()->removeItem(this);
+}
+
+/// Counts a move for as long as it may last. What Qt destroys later is destroyed in the event loop
+/// that the move came from, not in the loop of a dialog that a slot opens meanwhile.
+void DXFEditor::noteStackMove()
+{
+    auto* mark = new QObject;
+    connect(mark, &QObject::destroyed, this, &DXFEditor::forgetStackMove);
+    mark->deleteLater();
+    ++m_stackMoves;
+}
+
+void DXFEditor::forgetStackMove()
+{
+    --m_stackMoves;
+    if (m_endsAfterMoves && m_stackMoves == 0)
+        delete this;
+}
+
+bool DXFEditor::isStackMoving() const
+{
+    // Without an event loop nothing says when a move is over.
+    return m_stackMoves > 0 && QThread::currentThread()->loopLevel() > 0;
 }
 
 QUndoStack* DXFEditor::stack()

@@ -37,8 +37,11 @@ public:
     /// the editor.
     QUndoStack* stack();
 
-    /// Whether the editor is being destroyed, so that nobody who hears of it destroys it again.
-    bool isEnding() const { return m_isEnding; }
+    /// Ends edit mode and destroys the editor. A slot of the stack's signals may bring this about,
+    /// and the stack is then in the middle of a move: the overlay leaves its scene at once, but it
+    /// and the stack live until control is back in the event loop. Destroying the editor directly
+    /// is not safe there.
+    void end();
 
     /// The scene's rectangle grown by 50000 drawing units on every side.
     QRectF boundingRect() const override;
@@ -56,6 +59,11 @@ private Q_SLOTS:
 private:
     bool itemIsAlive() const;
     QRectF sceneRect() const;
+    void releaseItem();
+    void leaveScene();
+    void noteStackMove();
+    void forgetStackMove();
+    bool isStackMoving() const;
 
     DXFGraphicsItem& m_item;
     // Before the stack, which tells its group when it goes: what listens there may ask the scene,
@@ -63,6 +71,8 @@ private:
     std::weak_ptr<const void> m_itemLife;
     mutable bool m_isAskingScene = false;
     bool m_isEnding = false;
+    bool m_endsAfterMoves = false;
+    int m_stackMoves = 0;
     QUndoStack m_stack;
     QPointer<ISelectionTool> m_tool;
 };

@@ -29,17 +29,19 @@ constexpr double viewMarginUnits = 10.0;
 // The editor belongs to its scene as well, and may be gone when the slot lets go of it.
 QPointer<DXFEditor> livingEditor;
 
-struct DeleteIfAlive {
+struct EndIfAlive {
     static void cleanup(DXFEditor* editor)
     {
-        if (editor && editor == livingEditor && !editor->isEnding())
-            delete editor;
+        if (!editor || editor != livingEditor)
+            return;
+        livingEditor.clear();
+        editor->end();
     }
 };
 
 // One slot for the whole process, not one per window: there is one edit mode at a time. It is
 // emptied when the application object goes, because an editor does not survive that.
-QScopedPointer<DXFEditor, DeleteIfAlive> tool;
+QScopedPointer<DXFEditor, EndIfAlive> tool;
 bool isEmptiedAtExit = false;
 
 void emptySlotAtExit()
@@ -58,7 +60,8 @@ void fillSlot(DXFEditor* editor)
     DXFEditor* const former = livingEditor;
     livingEditor = editor;
     tool.reset(editor);
-    delete former;
+    if (former)
+        former->end();
 }
 
 QRectF grown(const QRectF& rect, double margin)

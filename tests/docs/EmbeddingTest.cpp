@@ -4,6 +4,7 @@
 
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 
 #include <QAction>
@@ -34,7 +35,7 @@ protected:
         m_viewer.show();
         m_viewer.loadData(drawing);
         m_view = m_viewer.findChild<QGraphicsView*>();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !m_view->scene()->items().isEmpty(); }));
+        ASSERT_TRUE(dxftest::eventually([this] { return !m_view->scene()->items().isEmpty(); }));
     }
 
     DXFViewer m_viewer;

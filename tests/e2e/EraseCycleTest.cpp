@@ -8,6 +8,7 @@
 #include "tests/e2e/ErasedDrawing.h"
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 #include "tests/support/WindowParts.h"
 
@@ -108,7 +109,7 @@ public:
         if (!noteBatch())
             return true;
         QSignalSpy changes(&stack(), SIGNAL(indexChanged(int)));
-        return changes.wait();
+        return changes.wait(patienceMs);
     }
 
     void release(const QPointF& where)
@@ -193,7 +194,7 @@ protected:
     {
     }
 
-    void SetUp() override { ASSERT_TRUE(QTest::qWaitForWindowExposed(&host->window)); }
+    void SetUp() override { ASSERT_TRUE(QTest::qWaitForWindowExposed(&host->window, patienceMs)); }
 
     /// Compares the screen and the data with what should be left after so many batches.
     void expectDrawing(std::size_t batches)
@@ -384,7 +385,7 @@ TEST_F(EraseCycleTest, EverythingCanBeErased)
 TEST_F(EraseCycleTest, WindowsAreEditedInTurn)
 {
     Host second;
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&second.window));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&second.window, patienceMs));
     ASSERT_TRUE(host->open(makePlan()));
     ASSERT_TRUE(second.open(makePlan()));
 

@@ -7,6 +7,7 @@
 
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 
 #include <gmock/gmock.h>
@@ -109,8 +110,8 @@ protected:
     void showView()
     {
         view.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return item->paints > 0; }));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view, patienceMs));
+        ASSERT_TRUE(eventually([this] { return item->paints > 0; }));
         // What is still to be painted after showing.
         while (std::exchange(paintsBefore, item->paints) != item->paints)
             QCoreApplication::processEvents();
@@ -119,7 +120,7 @@ protected:
     /// Whether the item was repainted since it was shown.
     bool wasRepainted()
     {
-        return QTest::qWaitFor([this] { return item->paints > paintsBefore; });
+        return eventually([this] { return item->paints > paintsBefore; });
     }
 
     QGraphicsScene scene;
@@ -249,7 +250,7 @@ TEST_F(DXFEditorTest, SceneWithoutARectangleOfItsOwnHasABoundedOne)
     EXPECT_TRUE(plain.sceneRect().contains(reached));
 
     plainView.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&plainView));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&plainView, patienceMs));
     // The scene takes the overlay in once more when it first paints.
     const auto stroke = [&plainView](double y) {
         SceneMouse(plainView).drag({{0, y}, {300, y}});
@@ -367,7 +368,7 @@ TEST_F(DXFEditorTest, TicksDeleteWhileTheButtonIsHeld)
     mouse.press({30, 50});
     mouse.move({40, 50});
 
-    ASSERT_TRUE(changes.wait());
+    ASSERT_TRUE(changes.wait(patienceMs));
 
     EXPECT_THAT(document->entities(), SizeIs(14));
     mouse.move({80, 50});
@@ -400,7 +401,7 @@ TEST_F(DXFEditorTest, ClickGivesTheKeyboardFocus)
 {
     showView();
     view.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view, patienceMs));
 
     SceneMouse(view).drag({{30, 50}});
 

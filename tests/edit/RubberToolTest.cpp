@@ -6,6 +6,7 @@
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/OtherEntity.h"
+#include "tests/support/Patience.h"
 
 #include <gmock/gmock.h>
 
@@ -90,7 +91,7 @@ protected:
         QSignalSpy requests(tool.get(), SIGNAL(requestDelete()));
         qApp->installEventFilter(&watch);
         tool->enable();
-        requests.wait();
+        requests.wait(patienceMs);
         tool->disable();
         return watch.timer;
     }
@@ -548,7 +549,7 @@ TEST_F(RubberToolTest, NewToolDoesNotTick)
     tool->enable();
 
     // Two ticks of a running tool leave a tool that was running as well no excuse.
-    ASSERT_TRUE(QTest::qWaitFor([&] { return requests.count() >= 2; }));
+    ASSERT_TRUE(eventually([&] { return requests.count() >= 2; }));
 
     EXPECT_THAT(othersRequests, IsEmpty());
 }
@@ -558,9 +559,9 @@ TEST_F(RubberToolTest, TicksAskForDeletionWhileTheButtonIsHeld)
     QSignalSpy requests(tool.get(), SIGNAL(requestDelete()));
     press();
 
-    EXPECT_TRUE(requests.wait());
-    EXPECT_TRUE(requests.wait());
-    EXPECT_TRUE(requests.wait()) << "although nothing was collected";
+    EXPECT_TRUE(requests.wait(patienceMs));
+    EXPECT_TRUE(requests.wait(patienceMs));
+    EXPECT_TRUE(requests.wait(patienceMs)) << "although nothing was collected";
 }
 
 TEST_F(RubberToolTest, TickForgetsWhatWasCollected)
@@ -568,7 +569,7 @@ TEST_F(RubberToolTest, TickForgetsWhatWasCollected)
     QSignalSpy requests(tool.get(), SIGNAL(requestDelete()));
     press();
     move(onFirst);
-    ASSERT_TRUE(requests.wait());
+    ASSERT_TRUE(requests.wait(patienceMs));
 
     move(onSecond);
 
@@ -593,7 +594,7 @@ TEST_F(RubberToolTest, SecondPressKeepsThePhaseOfTheTimer)
     ASSERT_NE(timer, nullptr);
     press();
     const int id = timer->timerId();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return timer->remainingTime() < 40; }));
+    ASSERT_TRUE(eventually([&] { return timer->remainingTime() < 40; }));
     const int remaining = timer->remainingTime();
 
     press();
@@ -639,7 +640,7 @@ TEST_F(RubberToolTest, SlotMayDeleteTheToolAtATick)
     press();
     move(onFirst);
 
-    EXPECT_TRUE(QTest::qWaitFor([&] { return alive.isNull(); }));
+    EXPECT_TRUE(eventually([&] { return alive.isNull(); }));
 }
 
 TEST_F(RubberToolTest, SlotMayDeleteTheToolAtTheRelease)
@@ -679,7 +680,7 @@ TEST_F(RubberToolTest, SlotMayRunAnEventLoopOfItsOwn)
     });
     press();
 
-    EXPECT_TRUE(QTest::qWaitFor([&] { return requests >= 3; }));
+    EXPECT_TRUE(eventually([&] { return requests >= 3; }));
 
     EXPECT_TRUE(sawMove);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,8 +17,6 @@ using testing::StartsWith;
 
 namespace
 {
-
-constexpr int patienceMs = 60000;
 
 struct Outcome {
     int exitCode;
@@ -38,7 +37,7 @@ protected:
             environment.remove(QLatin1String(display));
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(DXFVIEWER_HOST), arguments);
-        EXPECT_TRUE(process.waitForFinished(patienceMs));
+        EXPECT_TRUE(process.waitForFinished(dxftest::patienceMs));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         return {process.exitCode(), process.readAllStandardOutput().toStdString(),
                 process.readAllStandardError().toStdString()};

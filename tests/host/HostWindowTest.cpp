@@ -8,6 +8,7 @@
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 
 #include <QAction>
@@ -142,7 +143,7 @@ protected:
         : m_window(std::make_unique<HostWindow>())
     {
         m_window->show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get(), dxftest::patienceMs));
     }
 
     ~HostWindowTest() override
@@ -187,13 +188,13 @@ protected:
     {
         const auto before = shownDocument(viewer());
         m_window->openDrawing(fileName);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return shownDocument(viewer()) != before; }));
+        EXPECT_TRUE(dxftest::eventually([&] { return shownDocument(viewer()) != before; }));
         waitForNoCursor();
     }
 
     void waitForNoCursor()
     {
-        EXPECT_TRUE(QTest::qWaitFor([] { return !QApplication::overrideCursor(); }));
+        EXPECT_TRUE(dxftest::eventually([] { return !QApplication::overrideCursor(); }));
     }
 
     void openInEditMode()
@@ -214,7 +215,7 @@ protected:
     {
         // Without a window manager nobody gives the keyboard back after a dialog.
         m_window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get(), dxftest::patienceMs));
         QTest::keyClick(m_window.get(), key, modifiers);
     }
 
@@ -340,8 +341,8 @@ TEST_F(HostWindowTest, EditModeOfAnotherWindowEndsThisOne)
     other.editNextDrawing();
 
     other.openDrawing(crossFile());
-    ASSERT_TRUE(
-        QTest::qWaitFor([&] { return currentEditor(*other.findChild<DXFViewer*>()) != nullptr; }));
+    ASSERT_TRUE(dxftest::eventually(
+        [&] { return currentEditor(*other.findChild<DXFViewer*>()) != nullptr; }));
 
     EXPECT_EQ(currentEditor(viewer()), nullptr);
     EXPECT_FALSE(action("Undo").isEnabled());
@@ -557,7 +558,7 @@ TEST_F(HostWindowTest, OpensADrawingThatIsDropped)
     QApplication::sendEvent(m_window.get(), &drop);
 
     EXPECT_TRUE(enter.isAccepted());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return shownDocument(viewer()) != nullptr; }));
+    EXPECT_TRUE(dxftest::eventually([this] { return shownDocument(viewer()) != nullptr; }));
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
 }
 

@@ -5,8 +5,8 @@
 #include "fuzz/Drawing.h"
 #include "tests/monkey/Drawings.h"
 #include "tests/monkey/Invariants.h"
-#include "tests/monkey/ToolAccess.h"
 #include "tests/support/OtherEntity.h"
+#include "tests/support/ToolAccess.h"
 
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/model/DXFPolyline.h"
@@ -301,12 +301,12 @@ void Driver::performOnOverlay(DXFEditor& overlay, const Step& step)
         actOnDeleteRequest(overlay, step);
         return;
     case Op::ActOnStackMove: {
-        // The stack is in the middle of its move, so nothing may be destroyed here.
         const QPointer<DXFViewer> viewer = windowOf(step)->viewer;
         const auto done = std::make_shared<bool>(false);
         connect(overlay.stack(), &QUndoStack::indexChanged, this, [this, viewer, step, done] {
+            const QScopedValueRollback<bool> moving(m_isStackMoving, true);
             if (!std::exchange(*done, true))
-                actInSlot(viewer, step.a, false);
+                actInSlot(viewer, step.a, m_eventDepth == 0);
         });
         return;
     }
@@ -595,7 +595,7 @@ void Driver::actInSlot(QPointer<DXFViewer> viewer, int which, bool mayDestroy)
             editActionOf(viewer)->trigger();
         return;
     case 5:
-        if (mayDestroy && sceneOf(viewer))
+        if (mayDestroy && !m_isStackMoving && sceneOf(viewer))
             sceneOf(viewer)->clear();
         return;
     case 6:
@@ -603,7 +603,7 @@ void Driver::actInSlot(QPointer<DXFViewer> viewer, int which, bool mayDestroy)
             document->setSelected(idsOf(*document).mid(0, which % 16));
         return;
     default:
-        if (mayDestroy)
+        if (mayDestroy && !m_isStackMoving)
             delete viewOf(viewer);
         return;
     }

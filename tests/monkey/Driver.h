@@ -91,6 +91,8 @@ private:
     /// How many of the user's events are being delivered.
     int m_eventDepth = 0;
     bool m_isDialogOpen = false;
+    /// The overlay, and its stack with it, must then not be destroyed directly.
+    bool m_isStackMoving = false;
 };
 
 } // namespace dxftest

@@ -4,12 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 
-#include <algorithm>
+#include <iostream>
 
 using dxftest::Op;
 using dxftest::Sequence;
@@ -19,9 +20,10 @@ namespace
 
 constexpr int usualSeeds = 12;
 constexpr int usualSteps = 3000;
-constexpr int processTimeoutMs = 100000;
-// Making a failing sequence shorter may take that many runs.
-constexpr int shrinkingRuns = 150;
+// A sequence takes a few seconds. One that takes that long hangs, on the slowest machine as well.
+constexpr int processTimeoutMs = 300000;
+// Making a failing sequence shorter may take that long, the run being made included.
+constexpr int shrinkingMs = 150000;
 constexpr int longestReport = 4000;
 
 int fromEnvironment(const char* name, int usual)
@@ -30,8 +32,10 @@ int fromEnvironment(const char* name, int usual)
     return value > 0 ? value : usual;
 }
 
+enum class End { Survived, Failed, Hung };
+
 struct Outcome {
-    bool survived;
+    End end;
     /// The number of steps performed, the one that failed included.
     int steps;
     QString report;
@@ -55,7 +59,7 @@ Outcome run(const Sequence& sequence)
     QFile steps(folder.filePath(QStringLiteral("steps")));
     QFile progress(folder.filePath(QStringLiteral("progress")));
     if (!steps.open(QIODevice::WriteOnly) || steps.write(dxftest::serialized(sequence)) < 0)
-        return {false, 0, QStringLiteral("the steps cannot be handed over")};
+        return {End::Failed, 0, QStringLiteral("the steps cannot be handed over")};
     steps.close();
 
     QProcess process;
@@ -67,13 +71,11 @@ Outcome run(const Sequence& sequence)
         process.waitForFinished();
     }
     if (ended && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
-        return {true, static_cast<int>(sequence.size()), QString()};
+        return {End::Survived, static_cast<int>(sequence.size()), QString()};
 
     const int last = progress.open(QIODevice::ReadOnly) ? progress.readAll().toInt() : -1;
-    QString report = QString::fromUtf8(process.readAllStandardError()).left(longestReport);
-    if (!ended)
-        report.prepend(QStringLiteral("it does not end\n"));
-    return {false, last + 1, report};
+    return {ended ? End::Failed : End::Hung, last + 1,
+            QString::fromUtf8(process.readAllStandardError()).left(longestReport)};
 }
 
 Sequence without(const Sequence& sequence, int begin, int length)
@@ -81,21 +83,18 @@ Sequence without(const Sequence& sequence, int begin, int length)
     return sequence.mid(0, begin) + sequence.mid(begin + length);
 }
 
-/// Drops steps as long as the rest still fails.
-Sequence shrunk(Sequence failing, Outcome& outcome)
+/// Drops steps as long as the rest still fails, and there is time.
+Sequence shrunk(Sequence failing)
 {
-    failing = failing.mid(0, outcome.steps);
-    int runs = 0;
+    const QDeadlineTimer deadline(shrinkingMs);
     for (int length = int(failing.size()) / 2; length > 0; length /= 2) {
-        for (int begin = 0; begin < failing.size() && runs < shrinkingRuns; ++runs) {
+        for (int begin = 0; begin < failing.size() && !deadline.hasExpired();) {
             const Sequence shorter = without(failing, begin, length);
-            const Outcome shorterOutcome = run(shorter);
-            if (shorterOutcome.survived) {
+            const Outcome outcome = run(shorter);
+            if (outcome.end == End::Failed)
+                failing = shorter.mid(0, outcome.steps);
+            else
                 begin += length;
-                continue;
-            }
-            failing = shorter.mid(0, shorterOutcome.steps);
-            outcome = shorterOutcome;
         }
     }
     return failing;
@@ -103,12 +102,16 @@ Sequence shrunk(Sequence failing, Outcome& outcome)
 
 void expectSurvives(const Sequence& sequence)
 {
-    Outcome outcome = run(sequence);
-    if (outcome.survived)
+    const Outcome outcome = run(sequence);
+    if (outcome.end == End::Survived)
         return;
-    const Sequence shortest = shrunk(sequence, outcome);
-    ADD_FAILURE() << outcome.report.toStdString() << "\nThis fails alone:\n\n"
-                  << dxftest::codeOf(shortest).toStdString();
+    // Printed before anything else is tried, which may be cut short.
+    const Sequence failing = sequence.mid(0, outcome.steps);
+    std::cout << outcome.report.toStdString() << "\nAfter these steps:\n\n"
+              << dxftest::codeOf(failing).toStdString() << std::endl;
+    if (outcome.end == End::Hung)
+        FAIL() << "it does not end";
+    FAIL() << "this fails alone:\n\n" << dxftest::codeOf(shrunk(failing)).toStdString();
 }
 
 class MonkeyTest : public ::testing::TestWithParam<int>

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -91,5 +92,9 @@ int main(int argc, char** argv)
     QFile progress(QFile::decodeName(argv[2]));
     if (!steps.open(QIODevice::ReadOnly) || !progress.open(QIODevice::WriteOnly))
         return 2;
-    return perform(dxftest::deserialized(steps.readAll()), progress);
+    // As a host does it, from its event loop: Qt then knows what is over and may be destroyed.
+    const auto sequence = dxftest::deserialized(steps.readAll());
+    QTimer::singleShot(0, application.get(),
+                       [&] { QCoreApplication::exit(perform(sequence, progress)); });
+    return QApplication::exec();
 }

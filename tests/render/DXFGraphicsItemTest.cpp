@@ -7,6 +7,7 @@
 #include "tests/support/Images.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/OtherEntity.h"
+#include "tests/support/Patience.h"
 
 #include <gmock/gmock.h>
 
@@ -500,13 +501,13 @@ TEST_F(InASceneTest, OverridePenRepaints)
 
     item.setOverridePen(QPen(Qt::blue));
 
-    EXPECT_TRUE(changes.wait());
+    EXPECT_TRUE(changes.wait(patienceMs));
     settle();
     changes.clear();
 
     item.resetOverridePen();
 
-    EXPECT_TRUE(changes.wait());
+    EXPECT_TRUE(changes.wait(patienceMs));
 }
 
 TEST_F(InASceneTest, RefreshDoesNotRepaint)

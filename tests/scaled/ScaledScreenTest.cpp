@@ -4,6 +4,7 @@
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "dxfviewer/viewer/View.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 
 #include <QAction>
@@ -68,10 +69,10 @@ protected:
     {
         ASSERT_EQ(qGuiApp->devicePixelRatio(), factor) << "Run this with QT_SCALE_FACTOR=2";
         m_window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_window, dxftest::patienceMs));
         m_window.loadData(drawing);
         m_view = m_window.findChild<View*>();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !m_view->scene()->items().isEmpty(); }));
+        ASSERT_TRUE(dxftest::eventually([this] { return !m_view->scene()->items().isEmpty(); }));
     }
 
     void startEditing()

@@ -3,6 +3,7 @@
 #include "tests/support/SceneMouse.h"
 
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 
 #include <gmock/gmock.h>
 
@@ -59,7 +60,7 @@ protected:
 
 TEST_F(SceneMouseTest, DragPressesMovesAndReleasesAtTheScenePoints)
 {
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view, patienceMs));
 
     mouse.drag({QPointF(10, 20), QPointF(30, 40), QPointF(50, 60)});
 

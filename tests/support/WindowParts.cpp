@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include "tests/support/WindowParts.h"
+#include "tests/support/Patience.h"
 
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/model/DXFDocument.h"
@@ -47,7 +48,7 @@ bool loadFrom(DXFViewer& window, const Source& source)
 {
     const auto before = shownDocument(window);
     window.loadData(source);
-    return QTest::qWaitFor([&] {
+    return eventually([&] {
         const auto shown = shownDocument(window);
         return shown && shown != before;
     });

@@ -2,6 +2,7 @@
 
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -67,7 +68,7 @@ TEST_F(WindowLanguageTest, TranslatesUndoAndRedoOfEditMode)
     DXFViewer window;
     window.loadData(oneLine);
     const auto* view = window.findChild<QGraphicsView*>();
-    ASSERT_TRUE(QTest::qWaitFor([view] { return !view->scene()->items().isEmpty(); }));
+    ASSERT_TRUE(dxftest::eventually([view] { return !view->scene()->items().isEmpty(); }));
 
     window.findChild<QAction*>(QStringLiteral("actionEdit_dxf"))->setChecked(true);
 

@@ -8,6 +8,7 @@
 
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 #include "tests/support/WindowParts.h"
 
 #include <gmock/gmock.h>
@@ -83,7 +84,7 @@ protected:
     {
         window->show();
         window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), patienceMs));
     }
 
     std::unique_ptr<DXFViewer> window;
@@ -331,7 +332,7 @@ TEST_F(DXFViewerTest, DrawingIsShownFromTheEventLoop)
     window->loadData(square);
 
     EXPECT_THAT(itemsOf(*window), IsEmpty());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return itemsOf(*window).size() == 1; }));
+    EXPECT_TRUE(eventually([this] { return itemsOf(*window).size() == 1; }));
     EXPECT_THAT(linesOf(shownDocument(*window)), SizeIs(4));
 }
 
@@ -406,11 +407,11 @@ TEST_F(DXFViewerTest, TwoLoadsInARowLeaveOneItem)
     window->loadData(square);
     window->loadData(line);
 
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !itemsOf(*window).isEmpty(); }));
+    ASSERT_TRUE(eventually([this] { return !itemsOf(*window).isEmpty(); }));
     // Whatever the first load still has to do happens before this.
     bool hasWaited = false;
     QTimer::singleShot(20, window.get(), [&] { hasWaited = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return hasWaited; }));
+    ASSERT_TRUE(eventually([&] { return hasWaited; }));
 
     EXPECT_THAT(itemsOf(*window), SizeIs(1));
     EXPECT_THAT(linesOf(shownDocument(*window)), SizeIs(1));
@@ -423,7 +424,7 @@ TEST_F(DXFViewerTest, WindowMayBeDestroyedBeforeTheDrawingIsShown)
 
     bool hasWaited = false;
     QTimer::singleShot(20, qApp, [&] { hasWaited = true; });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return hasWaited; }));
+    EXPECT_TRUE(eventually([&] { return hasWaited; }));
 }
 
 TEST_F(DXFViewerTest, DrawingWithNothingToShowIsShown)
@@ -477,7 +478,7 @@ TEST_F(FailedLoadTest, LeavesThePicture)
     window->loadData(missing);
     bool hasWaited = false;
     QTimer::singleShot(20, window.get(), [&] { hasWaited = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return hasWaited; }));
+    ASSERT_TRUE(eventually([&] { return hasWaited; }));
 
     EXPECT_EQ(itemsOf(*window), items);
     EXPECT_EQ(shownDocument(*window), document);
@@ -724,7 +725,7 @@ TEST_F(DXFViewerTest, HostMayReplaceTheCentralWidget)
     const QPointer<View> view = &viewOf(*window);
 
     window->setCentralWidget(new QWidget);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return view.isNull(); }));
+    ASSERT_TRUE(eventually([&] { return view.isNull(); }));
     window->loadData(line);
     call("postLoad");
     editActionOf(*window).setChecked(true);

@@ -8,13 +8,17 @@
 
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
+#include "tests/support/ToolAccess.h"
 #include "tests/support/WindowParts.h"
 
 #include <gmock/gmock.h>
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
+#include <QEventLoop>
 #include <QGraphicsEllipseItem>
 #include <QGraphicsScene>
 #include <QPointer>
@@ -60,7 +64,7 @@ protected:
     void SetUp() override
     {
         window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get(), patienceMs));
         ASSERT_TRUE(loadAndShow(*window, drawing));
         ASSERT_TRUE(loadAndShow(*second, drawing));
         takeDebugMessages();
@@ -316,7 +320,7 @@ TEST_F(EditModeTest, EditorWorksOnTheOldDrawingUntilTheNewOneIsShown)
 
     EXPECT_THAT(old->entities(), SizeIs(2));
     EXPECT_EQ(window->getData().count("VERTEX"), 2);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return shownDocument(*window) != old; }));
+    EXPECT_TRUE(eventually([&] { return shownDocument(*window) != old; }));
 }
 
 TEST_F(EditModeTest, LoadInTheMiddleOfAStroke)
@@ -377,7 +381,7 @@ TEST_F(EditModeTest, WindowMayBeDestroyedAtATick)
     mouse.press({200, 30});
     mouse.move({200, 0});
 
-    EXPECT_TRUE(QTest::qWaitFor([&] { return watched.isNull(); }));
+    EXPECT_TRUE(eventually([&] { return watched.isNull(); }));
 
     EXPECT_EQ(editor, nullptr);
 }
@@ -415,7 +419,7 @@ TEST_F(EditModeTest, WindowMayBeDestroyedInsideATick)
     mouse.press({200, 30});
     mouse.move({200, 0});
 
-    EXPECT_TRUE(QTest::qWaitFor([&] { return watched.isNull(); }));
+    EXPECT_TRUE(eventually([&] { return watched.isNull(); }));
 
     EXPECT_EQ(editor, nullptr);
 }
@@ -435,27 +439,175 @@ TEST_F(EditModeTest, EditModeMayEndInsideAStroke)
     EXPECT_EQ(editor, nullptr);
 }
 
-TEST_F(EditModeTest, DialogMayRunInsideAStroke)
+/// A host that asks its user something from a slot, once.
+class DialogInSlot
+{
+public:
+    void ask()
+    {
+        if (std::exchange(m_wasOpen, true))
+            return;
+        QDialog dialog;
+        QTimer::singleShot(120, &dialog, &QDialog::accept);
+        dialog.exec();
+        m_isAnswered = true;
+    }
+
+    bool isAnswered() const { return m_isAnswered; }
+
+private:
+    bool m_wasOpen = false;
+    bool m_isAnswered = false;
+};
+
+TEST_F(EditModeTest, DialogMayOpenAtADeleteRequest)
 {
     const QPointer<DXFEditor> editor = startEditing();
-    int commands = 0;
-    QObject::connect(editor->stack(), &QUndoStack::indexChanged, window.get(), [&] {
-        if (++commands > 1)
-            return;
-        QEventLoop dialog;
-        QTimer::singleShot(120, &dialog, &QEventLoop::quit);
-        dialog.exec();
+    DialogInSlot dialog;
+    QObject::connect(toolOf(*editor), &ISelectionTool::requestDelete, window.get(),
+                     [&] { dialog.ask(); });
+    QSignalSpy commands(editor->stack(), &QUndoStack::indexChanged);
+    SceneMouse mouse(viewOf(*window));
+    mouse.press({200, 30});
+    mouse.move({200, 0});
+    ASSERT_TRUE(eventually([&] { return dialog.isAnswered(); }));
+    ASSERT_EQ(commands.count(), 1);
+
+    mouse.move({200, 100});
+
+    EXPECT_TRUE(commands.wait(patienceMs)) << "the eraser's timer goes on";
+    mouse.release({200, 100});
+    EXPECT_EQ(entityCount(), 1);
+}
+
+TEST_F(EditModeTest, LoadMayComeWithADialogAtADeleteRequest)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    DialogInSlot dialog;
+    QObject::connect(toolOf(*editor), &ISelectionTool::requestDelete, window.get(), [&] {
+        window->loadData(otherDrawing);
+        dialog.ask();
     });
     SceneMouse mouse(viewOf(*window));
     mouse.press({200, 30});
     mouse.move({200, 0});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return commands == 1; }));
+
+    ASSERT_TRUE(eventually([&] { return editor.isNull(); }));
+
+    EXPECT_TRUE(dialog.isAnswered());
+    EXPECT_EQ(entityCount(), 1);
+}
+
+TEST_F(EditModeTest, DialogMayOpenWhenTheStackMoves)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    DialogInSlot dialog;
+    QSignalSpy commands(editor->stack(), &QUndoStack::indexChanged);
+    QObject::connect(editor->stack(), &QUndoStack::indexChanged, window.get(),
+                     [&] { dialog.ask(); });
+    SceneMouse mouse(viewOf(*window));
+    mouse.press({200, 30});
+    mouse.move({200, 0});
+    ASSERT_TRUE(eventually([&] { return dialog.isAnswered(); }));
 
     mouse.move({200, 100});
 
-    EXPECT_TRUE(QTest::qWaitFor([&] { return commands == 2; }));
+    EXPECT_TRUE(commands.wait(patienceMs));
     mouse.release({200, 100});
     EXPECT_EQ(entityCount(), 1);
+}
+
+/// Edit mode ends while the stack moves, as when the user undoes something: from the event loop.
+class MovingStackTest : public EditModeTest
+{
+protected:
+    void endWhenTheStackMoves(const std::function<void()>& end)
+    {
+        editor = startEditing();
+        stack = editor->stack();
+        eraseFirstLine();
+        QObject::connect(stack, &QUndoStack::indexChanged, qApp, end);
+        QTimer::singleShot(0, toolBarOf(*window).actions().value(4), &QAction::trigger);
+        runUntilTheEditorIsGone();
+    }
+
+    QPointer<DXFEditor> editor;
+    QPointer<QUndoStack> stack;
+
+private:
+    void runUntilTheEditorIsGone()
+    {
+        QEventLoop loop;
+        QObject::connect(editor, &QObject::destroyed, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+};
+
+TEST_F(MovingStackTest, SwitchingOff)
+{
+    endWhenTheStackMoves([this] {
+        editActionOf(*window).setChecked(false);
+        EXPECT_THAT(editorsOf(*window), IsEmpty());
+        EXPECT_THAT(toolBarOf(*window).actions(), SizeIs(4));
+        EXPECT_FALSE(itemsOf(*window).first()->isEnabled());
+        EXPECT_NE(stack, nullptr) << "it is not done with its move";
+    });
+
+    EXPECT_EQ(stack, nullptr);
+    EXPECT_EQ(entityCount(), 3);
+}
+
+TEST_F(MovingStackTest, SwitchingOffTwice)
+{
+    endWhenTheStackMoves([this] {
+        toggle(*window, false);
+        toggle(*window, false);
+    });
+
+    EXPECT_THAT(editorsOf(*window), IsEmpty());
+}
+
+TEST_F(MovingStackTest, SwitchingOnAgain)
+{
+    endWhenTheStackMoves([this] { toggle(*window, true); });
+
+    EXPECT_THAT(editorsOf(*window), SizeIs(1));
+    EXPECT_THAT(toolBarOf(*window).actions(), SizeIs(6));
+}
+
+TEST_F(MovingStackTest, DestroyingTheWindow)
+{
+    endWhenTheStackMoves([this] { window.reset(); });
+
+    EXPECT_EQ(stack, nullptr);
+}
+
+TEST_F(MovingStackTest, ShowingWhatIsLoadedWhileADialogIsOpen)
+{
+    DialogInSlot dialog;
+    const auto old = shownDocument(*window);
+
+    endWhenTheStackMoves([&] {
+        window->loadData(otherDrawing);
+        dialog.ask();
+        EXPECT_NE(shownDocument(*window), old);
+        EXPECT_NE(stack, nullptr);
+    });
+
+    EXPECT_EQ(entityCount(), 1);
+}
+
+TEST_F(MovingStackTest, DialogsLoopDoesNotDestroyTheStack)
+{
+    DialogInSlot dialog;
+
+    endWhenTheStackMoves([&] {
+        toggle(*window, false);
+        dialog.ask();
+        EXPECT_NE(stack, nullptr);
+    });
+
+    EXPECT_TRUE(dialog.isAnswered());
 }
 
 // A host that meddles with what is inside
@@ -655,7 +807,7 @@ TEST_P(ExitTest, WindowLeakedInTheMiddleOfAStrokeEndsCleanly)
 
     host.start(QStringLiteral(LEAKED_WINDOW_HOST), {QString::fromLatin1(GetParam())});
 
-    ASSERT_TRUE(host.waitForFinished(60000));
+    ASSERT_TRUE(host.waitForFinished(patienceMs));
     EXPECT_EQ(host.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(host.exitCode(), 0);
     EXPECT_EQ(host.readAllStandardError(), QByteArray());

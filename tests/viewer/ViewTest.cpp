@@ -3,6 +3,7 @@
 #include "dxfviewer/viewer/View.h"
 
 #include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
 
 #include <gmock/gmock.h>
 
@@ -332,7 +333,7 @@ protected:
     void SetUp() override
     {
         view.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view, patienceMs));
         takeDebugMessages();
     }
 };

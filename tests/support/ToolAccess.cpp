@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-#include "tests/monkey/ToolAccess.h"
+#include "tests/support/ToolAccess.h"
 
 namespace dxftest
 {
