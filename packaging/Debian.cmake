@@ -59,14 +59,8 @@ ${about}")
 set(CPACK_DEBIAN_HOST_PACKAGE_NAME ${host_package})
 set(CPACK_DEBIAN_HOST_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_HOST_PACKAGE_DEPENDS "${library_package} ${this_version}")
-# Either Qt's build of the program has the same name.
-if(DXFVIEWER_QT_SUFFIX)
-    set(CPACK_DEBIAN_HOST_PACKAGE_CONFLICTS dxfviewer-host)
-else()
-    set(CPACK_DEBIAN_HOST_PACKAGE_CONFLICTS dxfviewer-host-qt6)
-endif()
 set(CPACK_DEBIAN_HOST_DESCRIPTION
-"small viewer and eraser for DXF drawings
+"small viewer and eraser for DXF drawings (Qt ${DXFVIEWER_QT_MAJOR})
 This program opens drawings in the DXF format, shows them, and lets the user
 erase parts of them. It is the example of how a program embeds the library.")
 

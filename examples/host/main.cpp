@@ -127,7 +127,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("dxfviewer-host"));
     QCoreApplication::setApplicationVersion(QStringLiteral(DXFVIEWER_HOST_VERSION));
     QGuiApplication::setApplicationDisplayName(Texts::tr("DXF Viewer"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("dxfviewer-host"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(DXFVIEWER_HOST_PROGRAM));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/dxfviewer-host.svg")));
 
     CommandLine commandLine;

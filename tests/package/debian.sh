@@ -21,6 +21,15 @@ fail() {
     exit 1
 }
 
+# run_if_there PROGRAM ARGUMENT...: runs a checker. A missing one makes the test show as skipped.
+run_if_there() {
+    if command -v "$1" >/dev/null; then
+        "$@"
+    else
+        echo "skipped: $1 is missing"
+    fi
+}
+
 # field PACKAGE NAME: a field of a package's description.
 field() {
     dpkg-deb --field "$build/packages/$1"_*.deb "$2"
@@ -45,11 +54,7 @@ field "libdxfviewer$suffix-dev" Depends | grep -q "$library (= " ||
 field "dxfviewer-host$suffix" Depends | grep -q "$library (= " ||
     fail "the host does not depend on this very library"
 
-if command -v lintian >/dev/null; then
-    lintian --allow-root --fail-on error "$build"/packages/*.deb
-else
-    echo "lintian is missing: the packages go unchecked" >&2
-fi
+run_if_there lintian --allow-root --fail-on error "$build"/packages/*.deb
 
 # The root holds nothing that the packages depend on: the running system lends that.
 mkdir -p "$root/var/lib/dpkg/updates" "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/triggers"
@@ -65,22 +70,11 @@ PATH=$build/idle:$PATH:/usr/sbin:/sbin $as_root dpkg --root="$root" --log=/dev/n
     --force-depends --force-not-root --force-script-chrootless \
     --install "$build"/packages/*.deb
 
-if command -v desktop-file-validate >/dev/null; then
-    desktop-file-validate "$root"/usr/share/applications/*.desktop
-else
-    echo "desktop-file-validate is missing: the desktop file goes unchecked" >&2
-fi
-if command -v appstreamcli >/dev/null; then
-    appstreamcli validate --no-net "$root"/usr/share/metainfo/*.xml
-else
-    echo "appstreamcli is missing: the metadata goes unchecked" >&2
-fi
+run_if_there desktop-file-validate "$root"/usr/share/applications/*.desktop
+run_if_there appstreamcli validate --no-net "$root"/usr/share/metainfo/*.xml
 
 libraries=$(dirname "$(find "$root/usr/lib" -name "libdxfviewer$suffix.so.0")")
-LD_LIBRARY_PATH=$libraries "$root/usr/bin/dxfviewer-host" \
-    --picture "$build/picture.svg" "$source/samples/floor-plan.dxf"
-LD_LIBRARY_PATH=$libraries LC_ALL=C.UTF-8 LANGUAGE=de "$root/usr/bin/dxfviewer-host" --help |
-    grep -q DXF-Zeichnungen || {
-    echo "the installed host does not find its translations" >&2
-    exit 1
-}
+host=$root/usr/bin/dxfviewer-host$suffix
+LD_LIBRARY_PATH=$libraries "$host" --picture "$build/picture.svg" "$source/samples/floor-plan.dxf"
+LD_LIBRARY_PATH=$libraries LC_ALL=C.UTF-8 LANGUAGE=de "$host" --help | grep -q DXF-Zeichnungen ||
+    fail "the installed host does not find its translations"
