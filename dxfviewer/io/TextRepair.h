@@ -19,7 +19,7 @@ namespace dxfviewer
  * - A comment goes that dxflib cannot read.
  *
  * Everything else stays, in its order. The result is sound (see TextCheck), at most three times as
- * long, and equal to a text that was sound but for the ends of its last line.
+ * long, and equal to a text that was sound, but that its last line is ended.
  */
 std::string repaired(std::string_view text);
 

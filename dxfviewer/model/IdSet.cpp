@@ -25,10 +25,9 @@ IdSet::IdSet(const QVector<int>& ids)
 
     const auto [least, greatest] = std::minmax_element(ids.cbegin(), ids.cend());
     m_first = static_cast<unsigned>(*least);
-    // Ids come from outside too: a list from the least to the greatest int must not wrap to 0.
-    const size_t span = size_t(static_cast<unsigned>(*greatest) - m_first) + 1;
-    m_span = static_cast<unsigned>(std::min(span, size_t(~0U)));
+    m_last = static_cast<unsigned>(*greatest) - m_first;
 
+    const size_t span = size_t(m_last) + 1;
     if (span <= std::max(freeSpan, spanPerId * static_cast<size_t>(ids.size()))) {
         m_bits.resize(span);
         for (int id : ids)

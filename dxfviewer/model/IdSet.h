@@ -23,7 +23,7 @@ public:
     bool contains(int id) const
     {
         const unsigned offset = static_cast<unsigned>(id) - m_first;
-        if (offset >= m_span)
+        if (offset > m_last)
             return false;
         return m_bits.empty() ? isListed(offset) : m_bits[offset];
     }
@@ -31,9 +31,9 @@ public:
 private:
     bool isListed(unsigned offset) const;
 
-    // The ids are kept as offsets from the smallest one.
+    // The ids are kept as offsets from the smallest one. Of no ids at all, none is listed.
     unsigned m_first = 0;
-    unsigned m_span = 0;
+    unsigned m_last = 0;
     std::vector<bool> m_bits;
     std::vector<unsigned> m_sorted;
 };
