@@ -44,7 +44,7 @@ ROWS = (
     ("redo_ten", "Redo ten deletions", "ns_per_segment", 400, SUM),
     ("write_bytes", "Write bytes", "ratio", 0.4, "dxflib writing the same polylines"),
     ("memory_of_drawing", "Memory of a drawing", "bytes_per_segment", 120, None),
-    ("memory_of_command", "Memory of a deletion", "bytes_per_entity", 200, None),
+    ("memory_of_command", "Memory of a deletion beyond what it changes", "bytes_per_entity", 200, None),
     ("stroke_event", "A stroke's event until it is painted", "median_ms", None, None),
 )
 UNITS = {

@@ -168,24 +168,27 @@ void DXFPolyline::appendPoint(const DXFVertex& vertex)
     if (m_vertices.isEmpty())
         m_vertices.reserve(firstVertices);
     m_vertices.append(vertex);
+    m_verticesFollowSegments = false;
 }
 
 /// Whether setSegments() was called with this very list before and nothing has changed since.
 /// Every polyline of a drawing is given its own segments again whenever anything is erased, so
-/// this must not cost a walk.
+/// this must not cost a walk, nor a look at where the vertices lie in memory.
 bool DXFPolyline::isMadeOf(const QVector<Segment>& segments) const
 {
-    return m_needsSetup && segments.constData() == m_segments.constData()
-           && segments.size() == m_segments.size() && m_vertices.size() == m_segments.size() + 1;
+    return m_verticesFollowSegments && m_needsSetup
+           && segments.constData() == m_segments.constData()
+           && segments.size() == m_segments.size();
 }
 
 void DXFPolyline::setSegments(const QVector<Segment>& segments)
 {
-    if (!segments.isEmpty() && isMadeOf(segments))
+    if (isMadeOf(segments))
         return;
 
     m_segments = segments;
     setVerticesAlong(segments.constData(), segments.constData() + segments.size());
+    m_verticesFollowSegments = !segments.isEmpty();
 }
 
 /// Does what setSegments() does but for taking the segments: the next setup() makes new ones.
@@ -194,6 +197,7 @@ void DXFPolyline::setVerticesAlong(const Segment* begin, const Segment* end)
     m_mVertices = 0;
     m_nVertices = 0;
     m_needsSetup = true;
+    m_verticesFollowSegments = false;
     if (begin == end)
         return;
 

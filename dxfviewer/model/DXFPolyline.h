@@ -98,6 +98,8 @@ private:
     void setClosed(bool closed);
 
     bool m_needsSetup = true;
+    // Whether setSegments() made the vertices and they are still those.
+    bool m_verticesFollowSegments = false;
     QVector<Segment> m_segments;
     // A second pair that nothing reads: what is painted are the values of DXFEntity.
     QColor m_ownColor;
