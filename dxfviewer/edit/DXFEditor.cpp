@@ -48,14 +48,15 @@ DXFEditor::~DXFEditor()
     m_isEnding = true;
     releaseItem();
     cleanupTool();
-    // Clearing the stack moves its index. Whoever listens must not get to run, much less an event
-    // loop, while the overlay is still in its scene and no longer whole.
+    // Clearing the stack moves its index, and a group that holds it tells of its end. Whoever
+    // listens must find no overlay that is no longer whole.
+    leaveScene();
     m_stack.blockSignals(true);
 }
 
 void DXFEditor::end()
 {
-    // Who hears of the end may ask for it again.
+    // Whoever hears of the end may ask for it again.
     if (m_isEnding)
         return;
     if (!isStackMoving()) {
@@ -145,7 +146,7 @@ bool DXFEditor::sceneEvent(QEvent* event)
 {
     // Handling the event may end edit mode, and this overlay with it.
     const QPointer<DXFEditor> self(this);
-    if (m_tool)
+    if (!m_isEnding && m_tool)
         m_tool->handle(*event);
     if (self)
         redrawDoc();

@@ -6,6 +6,8 @@
 #include "dxfviewer/model/DXFPolyline.h"
 #include "dxfviewer/model/IdSet.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
 #include <typeinfo>
 #include <utility>
@@ -35,16 +37,20 @@ QSharedPointer<DXFEntity> cloneOf(DXFEntity& entity)
     return copy;
 }
 
-/// Removes every entry of the entities that are erased.
-void remove(std::vector<const DXFEntity*> erased, EntityList& entities)
+/// Removes the entries of the entities that are erased, which are in the order of the list.
+void remove(const std::vector<const DXFEntity*>& erased, EntityList& entities)
 {
     if (erased.empty())
         return;
-    std::sort(erased.begin(), erased.end());
-    const auto isErased = [&erased](const QSharedPointer<DXFEntity>& entity) {
-        return std::binary_search(erased.cbegin(), erased.cend(), entity.data());
-    };
-    entities.erase(std::remove_if(entities.begin(), entities.end(), isErased), entities.end());
+    auto next = erased.cbegin();
+    auto kept = entities.begin();
+    for (auto& entity : entities) {
+        if (next != erased.cend() && entity.data() == *next)
+            ++next;
+        else
+            (kept++)->swap(entity);
+    }
+    entities.erase(kept, entities.end());
 }
 
 bool losesNothing(const QVector<Segment>& segments, const IdSet& deleted)
@@ -78,7 +84,7 @@ void DeleteItems::redo()
 
     std::vector<const DXFEntity*> erased;
     const EntityList added = cutAll(erased);
-    remove(std::move(erased), m_document->m_entities);
+    remove(erased, m_document->m_entities);
     m_document->m_entities += added;
 }
 
@@ -104,7 +110,8 @@ void DeleteItems::splitPoly(QSharedPointer<DXFPolyline> const& polyline)
     if (!m_document || !polyline)
         return;
 
-    // Not a redo: the pieces are new ones.
+    // Not the command's own doing: the pieces are new ones, and no redo makes them again.
+    const QScopedValueRollback<PiecesByOrigin> ownPieces(m_pieces, PiecesByOrigin());
     PiecesByOrigin formerPieces;
     EntityList added;
     if (!cut(*polyline, IdSet(m_ids), formerPieces, added))
@@ -145,7 +152,7 @@ QVector<DeleteItems::Run> DeleteItems::survivingRuns(const QVector<Segment>& seg
 }
 
 /// Cuts the deleted segments out of all polylines. Returns the pieces that are to be added to the
-/// document; the polylines of which nothing is left go to erased.
+/// document; the polylines of which nothing is left go to erased, in the document's order.
 DeleteItems::EntityList DeleteItems::cutAll(std::vector<const DXFEntity*>& erased)
 {
     const IdSet deleted(m_ids);

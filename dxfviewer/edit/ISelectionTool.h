@@ -16,7 +16,7 @@ class QGraphicsItem;
  * - selects in its document what it finds under the pointer;
  * - emits requestDelete() when the document's selection is to be deleted, and must expect to be
  *   destroyed by a slot that is connected to it;
- * - makes its marker at the first call of getMarker() and returns the same one ever after.
+ * - makes its marker at the first call of getMarker() and returns the same one as long as it lives.
  */
 class DXFVIEWER_EXPORT ISelectionTool : public QObject
 {

@@ -28,6 +28,8 @@ constexpr double viewMarginUnits = 10.0;
 
 // The editor belongs to its scene as well, and may be gone when the slot lets go of it.
 QPointer<DXFEditor> livingEditor;
+// Whose item it works on, or worked on: the item may be gone as well.
+const DXFViewer* editingWindow = nullptr;
 
 struct EndIfAlive {
     static void cleanup(DXFEditor* editor)
@@ -50,7 +52,7 @@ void emptySlotAtExit()
     tool.reset();
 }
 
-void fillSlot(DXFEditor* editor)
+void fillSlot(DXFEditor* editor, const DXFViewer* window)
 {
     if (!isEmptiedAtExit) {
         qAddPostRoutine(emptySlotAtExit);
@@ -59,6 +61,7 @@ void fillSlot(DXFEditor* editor)
     // The former one goes last: what listens to its end finds the slot in order.
     DXFEditor* const former = livingEditor;
     livingEditor = editor;
+    editingWindow = window;
     tool.reset(editor);
     if (former)
         former->end();
@@ -165,7 +168,7 @@ void DXFViewer::deleteItem()
 /// Ends edit mode if it works on this window's item, which is about to go.
 void DXFViewer::endEditingOfItem()
 {
-    if (!livingEditor || !hasItem() || livingEditor->scene() != m_graphicsItem->scene())
+    if (!livingEditor || editingWindow != this)
         return;
     if (m_editAction)
         m_editAction->setChecked(false);
@@ -195,7 +198,7 @@ void DXFViewer::on_actionEdit_dxf_toggled(bool arg1)
         tool.reset();
         return;
     }
-    fillSlot(new DXFEditor(*m_graphicsItem));
+    fillSlot(new DXFEditor(*m_graphicsItem), this);
     // The end of the former editor may have brought about the end of this one.
     if (!tool)
         return;

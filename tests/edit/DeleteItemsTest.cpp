@@ -12,6 +12,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QSet>
 #include <QUndoStack>
 
 #include <algorithm>
@@ -1046,6 +1047,22 @@ TEST_F(DeleteItemsTest, SplittingAPolylineOfNoDocumentAddsItsPieces)
 
     ASSERT_EQ(entityCount(), 2);
     EXPECT_THAT(linesOf(*at(1)), ElementsAre(QLineF(2, 9, 3, 9)));
+}
+
+TEST_F(DeleteItemsTest, SplittingDoesNotLendItsIdsToTheDeletion)
+{
+    const Polyline twin(at(0)->clone());
+    document->addEntity(twin);
+    auto* command = new DeleteItems(document, {ids[2]});
+
+    command->splitPoly(twin);
+    stack.push(command);
+
+    // The polyline and its twin, which share ids, and a piece cut off from each.
+    ASSERT_EQ(entityCount(), 4);
+    const auto pieceIds = segmentIdsOf(*at(2)) + segmentIdsOf(*at(3));
+    EXPECT_THAT(pieceIds, SizeIs(4));
+    EXPECT_EQ(QSet<int>(pieceIds.begin(), pieceIds.end()).size(), 4);
 }
 
 TEST_F(DeleteItemsTest, SplittingNothingDoesNothing)

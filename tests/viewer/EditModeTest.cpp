@@ -275,7 +275,19 @@ TEST_F(EditModeTest, DestroyingAnyWindowEndsTheEditor)
     EXPECT_THAT(sceneOf(*window).items(), SizeIs(1));
 }
 
-TEST_F(EditModeTest, ClosingAWindowAloneEndsNothing)
+TEST_F(EditModeTest, ClosingAWindowThatGoesWhenClosedEndsTheEditor)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    const QPointer<DXFViewer> closed = second.release();
+    closed->setAttribute(Qt::WA_DeleteOnClose);
+
+    closed->close();
+
+    EXPECT_TRUE(eventually([&] { return closed.isNull(); }));
+    EXPECT_EQ(editor, nullptr);
+}
+
+TEST_F(EditModeTest, ClosingAWindowThatStaysEndsNothing)
 {
     const QPointer<DXFEditor> editor = startEditing();
 
@@ -355,6 +367,41 @@ TEST_F(EditModeTest, LoadInAWindowWhoseEditModeWasTakenOverLeavesItsAction)
     ASSERT_TRUE(loadAndShow(*window, otherDrawing));
 
     EXPECT_THAT(editorsOf(*second), SizeIs(1));
+    EXPECT_TRUE(editActionOf(*window).isChecked());
+}
+
+TEST_F(EditModeTest, LoadEndsEditModeAlsoWhenItsItemIsGone)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    delete itemsOf(*window).first();
+
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+
+    EXPECT_EQ(editor, nullptr);
+    EXPECT_FALSE(editActionOf(*window).isChecked());
+    EXPECT_THAT(addedActions(*window), IsEmpty());
+}
+
+TEST_F(EditModeTest, LoadEndsEditModeAlsoWhenItsItemIsInNoScene)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    sceneOf(*window).removeItem(itemsOf(*window).first());
+
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+
+    EXPECT_EQ(editor, nullptr);
+    EXPECT_FALSE(editActionOf(*window).isChecked());
+}
+
+TEST_F(EditModeTest, LoadInAWindowOnTheSameSceneLeavesTheEditor)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    viewOf(*second).setScene(&sceneOf(*window));
+
+    second->loadData(otherDrawing);
+    ASSERT_TRUE(eventually([this] { return itemsOf(*window).size() == 2; }));
+
+    EXPECT_NE(editor, nullptr);
     EXPECT_TRUE(editActionOf(*window).isChecked());
 }
 
@@ -720,6 +767,47 @@ TEST_F(MeddlingTest, EndOfTheFormerEditorEndsTheNewOne)
     EXPECT_EQ(former, nullptr);
     EXPECT_THAT(editorsOf(*second), IsEmpty());
     EXPECT_THAT(addedActions(*second), IsEmpty());
+    goOn();
+}
+
+/// Does something when the undo stack that is watched has gone.
+class AtEndOf : public QUndoGroup
+{
+public:
+    AtEndOf(QUndoStack* stack, const std::function<void()>& action)
+    {
+        addStack(stack);
+        setActiveStack(stack);
+        connect(this, &QUndoGroup::activeStackChanged, this, action);
+    }
+};
+
+TEST_F(MeddlingTest, EndOfTheEditorMayDestroyTheWindow)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    const AtEndOf end(editor->stack(), [this] { window.reset(); });
+
+    editActionOf(*window).setChecked(false);
+
+    EXPECT_EQ(window, nullptr);
+    EXPECT_EQ(editor, nullptr);
+}
+
+TEST_F(MeddlingTest, EndOfTheEditorMayOpenADialogWhileTheMouseMoves)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    eraseFirstLine();
+    DialogInSlot dialog;
+    const AtEndOf end(editor->stack(), [&] {
+        SceneMouse(viewOf(*window)).drag({{200, 130}, {200, 100}});
+        dialog.ask();
+    });
+
+    editActionOf(*window).setChecked(false);
+
+    EXPECT_TRUE(dialog.isAnswered());
+    EXPECT_EQ(editor, nullptr);
+    EXPECT_EQ(entityCount(), 2) << "nothing more is erased";
     goOn();
 }
 
