@@ -13,6 +13,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractEventDispatcher>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
@@ -65,6 +66,20 @@ QVector<QUndoView*> undoViews()
             views.append(view);
     }
     return views;
+}
+
+/// Of the timers that wait for a single shot.
+QVector<int> timerIntervals()
+{
+    QVector<int> intervals;
+    QAbstractEventDispatcher* dispatcher = QAbstractEventDispatcher::instance();
+    const auto shots = dispatcher->children();
+    for (QObject* shot : shots) {
+        const auto timers = dispatcher->registeredTimers(shot);
+        for (const auto& timer : timers)
+            intervals.append(timer.interval);
+    }
+    return intervals;
 }
 
 class DXFViewerTest : public LoggedTest
@@ -336,6 +351,18 @@ TEST_F(DXFViewerTest, DrawingIsShownFromTheEventLoop)
     EXPECT_THAT(linesOf(shownDocument(*window)), SizeIs(4));
 }
 
+TEST_F(DXFViewerTest, DrawingIsShownAfterFiveMilliseconds)
+{
+    const auto before = timerIntervals();
+
+    window->loadData(square);
+
+    auto after = timerIntervals();
+    for (const int interval : before)
+        after.removeOne(interval);
+    EXPECT_THAT(after, ElementsAre(5));
+}
+
 TEST_F(DXFViewerTest, DrawingIsReadFromAFile)
 {
     QTemporaryDir folder;
@@ -562,22 +589,42 @@ TEST_F(DXFViewerTest, OpenFromItsActionLoadsAnEmptyName)
     EXPECT_EQ(window->getData(), emptyDrawing());
 }
 
-TEST_F(DXFViewerTest, OpenCalledDirectlyLoadsAFixedDrawing)
+/// Opens in a folder where no drawing is, so that the log tells the name.
+class OpenElsewhereTest : public DXFViewerTest
 {
-    QTemporaryDir folder;
-    const QString before = QDir::currentPath();
-    ASSERT_TRUE(QDir::setCurrent(folder.path()));
+protected:
+    void SetUp() override { ASSERT_TRUE(QDir::setCurrent(m_folder.path())); }
+    void TearDown() override { QDir::setCurrent(m_before); }
 
+    void expectTheFixedDrawing()
+    {
+        EXPECT_EQ(takeDebugMessages(),
+                  QStringList({QStringLiteral("\"samples/floor-plan.dxf\"  could not be opened.\n"),
+                               QStringLiteral("Load failed")}));
+        EXPECT_EQ(window->getData(), emptyDrawing()) << "the new document is there at once";
+    }
+
+private:
+    const QString m_before = QDir::currentPath();
+    QTemporaryDir m_folder;
+};
+
+TEST_F(OpenElsewhereTest, CalledDirectlyItLoadsAFixedDrawing)
+{
     call("on_actionOpen_dxf_triggered");
 
-    QDir::setCurrent(before);
-    const QStringList messages = takeDebugMessages();
-    if (!messages.isEmpty()) {
-        ASSERT_THAT(messages, SizeIs(2));
-        EXPECT_TRUE(messages[0].endsWith(QStringLiteral(".dxf\"  could not be opened.\n")));
-        EXPECT_EQ(messages[1], QStringLiteral("Load failed"));
-    }
-    EXPECT_NE(window->getData(), QByteArray()) << "the new document is there at once";
+    expectTheFixedDrawing();
+}
+
+TEST_F(OpenElsewhereTest, FromAnotherActionItLoadsAFixedDrawing)
+{
+    QAction other;
+    QObject::connect(&other, SIGNAL(triggered()), window.get(),
+                     SLOT(on_actionOpen_dxf_triggered()));
+
+    other.trigger();
+
+    expectTheFixedDrawing();
 }
 
 TEST_F(DXFViewerTest, OpenReplacesTheDocumentAndLeavesThePicture)

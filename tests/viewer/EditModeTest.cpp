@@ -23,6 +23,7 @@
 #include <QGraphicsScene>
 #include <QPointer>
 #include <QProcess>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -90,6 +91,22 @@ protected:
         for (const QAction* action : actions)
             texts.append(action->text());
         return texts;
+    }
+
+    QPoint scrolled() const
+    {
+        return {viewOf(*window).horizontalScrollBar()->value(),
+                viewOf(*window).verticalScrollBar()->value()};
+    }
+
+    void dragWithControl(const QVector<QPointF>& points)
+    {
+        View& view = viewOf(*window);
+        SceneMouse mouse(view);
+        mouse.modifiers = Qt::ControlModifier;
+        QTest::keyPress(&view, Qt::Key_Control, Qt::ControlModifier);
+        mouse.drag(points);
+        QTest::keyRelease(&view, Qt::Key_Control);
     }
 
     void eraseFirstLine() { SceneMouse(viewOf(*window)).drag({{200, 30}, {200, 0}}); }
@@ -240,6 +257,33 @@ TEST_F(EditModeTest, BeforeAnythingIsLoadedItEndsAnyOther)
     editActionOf(empty).setChecked(true);
 
     EXPECT_EQ(editor, nullptr);
+}
+
+// Together with hand-drag
+
+TEST_F(EditModeTest, LeftDragErasesAlsoWhileControlIsHeld)
+{
+    startEditing();
+    const QPoint before = scrolled();
+
+    dragWithControl({{200, 30}, {200, 0}});
+
+    EXPECT_EQ(entityCount(), 2);
+    EXPECT_EQ(scrolled(), before);
+}
+
+TEST_F(EditModeTest, DrawingTakesLeftDragsAfterEditMode)
+{
+    const QPoint before = scrolled();
+    startEditing();
+    editActionOf(*window).setChecked(false);
+
+    dragWithControl({{200, 30}, {200, 0}});
+    EXPECT_EQ(scrolled(), before) << "a drag that begins on the drawing does not pan";
+    EXPECT_EQ(entityCount(), 3);
+
+    dragWithControl({{200, -5}, {200, -50}});
+    EXPECT_NE(scrolled(), before) << "one that begins beside it does";
 }
 
 // One for the whole process

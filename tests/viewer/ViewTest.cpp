@@ -4,6 +4,7 @@
 
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
+#include "tests/support/SceneMouse.h"
 
 #include <gmock/gmock.h>
 
@@ -254,6 +255,21 @@ TEST_F(ViewTest, LevelZeroIsInitialisedFromTheTransformOfThatMoment)
     expectLevel(360);
 }
 
+TEST_F(ViewTest, LevelNextToZeroIsALevelLikeAnyOther)
+{
+    // A step out from here ends less than a millionth of a millionth above zero.
+    const double scale = scaleOfLevel(10.0 + 3e-13);
+    view.setTransform(QTransform::fromScale(scale, scale));
+    view.zoomCalc(-1);
+    takeDebugMessages();
+    view.setTransform(QTransform::fromScale(4, 4));
+
+    view.zoomCalc(1);
+
+    EXPECT_THAT(takeDebugMessages(), IsEmpty());
+    expectLevel(10);
+}
+
 TEST_F(ViewTest, TransformSetElsewhereIsLeftByAJump)
 {
     view.zoomCalc(1);
@@ -403,6 +419,22 @@ TEST_F(ViewTest, ControlDragsByHandUntilItIsReleased)
 
     EXPECT_TRUE(sendKey(QEvent::KeyRelease, Qt::Key_Control));
     EXPECT_EQ(view.dragMode(), QGraphicsView::NoDrag);
+}
+
+TEST_F(ShownViewTest, LeftDragPansWhileControlIsHeld)
+{
+    SceneMouse mouse(view);
+    const auto scrolled = [this] {
+        return QPoint(view.horizontalScrollBar()->value(), view.verticalScrollBar()->value());
+    };
+    const QPoint before = scrolled();
+
+    mouse.drag({{0, 0}, {-20, -30}});
+    EXPECT_EQ(scrolled(), before);
+
+    sendKey(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier);
+    mouse.drag({{0, 0}, {-20, -30}});
+    EXPECT_EQ(scrolled(), before + QPoint(20, 30));
 }
 
 TEST_F(ViewTest, OtherKeysLeaveTheDragMode)
