@@ -43,7 +43,7 @@ public:
     int lineWidth() const { return m_lineWidth; }
     void setLineWidth(int lineWidth) { m_lineWidth = lineWidth; }
 
-    /// What the file says about the entity; may be null.
+    /// What the file says about the entity; may be null, and others may share it.
     QSharedPointer<DXFAttributes> attributes() const { return m_attributes; }
     void setAttributes(QSharedPointer<DXFAttributes> attributes);
 

@@ -14,7 +14,7 @@
 namespace
 {
 
-// The zoom level at which a drawing unit is a device pixel.
+// The zoom level at which a drawing unit is a device-independent pixel.
 constexpr double unitScaleLevel = 250.0;
 constexpr double levelStep = 10.0;
 constexpr double exponentPerLevel = 0.02;

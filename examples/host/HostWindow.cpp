@@ -257,7 +257,8 @@ void HostWindow::exportPicture()
                 dialog.setDefaultSuffix(Picture::suffixes().value(index));
             });
     const QFileInfo info(m_fileName);
-    dialog.selectFile(info.dir().filePath(info.completeBaseName()));
+    dialog.selectFile(info.dir().filePath(info.completeBaseName() + QLatin1Char('.')
+                                          + Picture::suffixes().constFirst()));
     const QString fileName = chosenFile(dialog);
     if (fileName.isEmpty())
         return;

@@ -2,22 +2,14 @@
 
 #include "Translations.h"
 
+#include "QtVersions.h"
+
 #include <QCoreApplication>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
 namespace
 {
-
-QString qtFolder()
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#else
-    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#endif
-}
 
 /// Where the drawing window's .qm files and the program's own are: the build's folder or the
 /// installed one.
@@ -46,7 +38,7 @@ void install(QCoreApplication& application, const QString& name, const QStringLi
 
 void installTranslations(QCoreApplication& application)
 {
-    install(application, QStringLiteral("qtbase"), {qtFolder()});
+    install(application, QStringLiteral("qtbase"), {qtTranslationsFolder()});
     install(application, QStringLiteral("dxfviewer"), folders());
     install(application, QStringLiteral("dxfviewer-host"), folders());
 }

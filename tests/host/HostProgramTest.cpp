@@ -110,6 +110,23 @@ TEST_F(HostProgramTest, RefusesTwoDrawings)
     EXPECT_THAT(outcome.errors, HasSubstr("Only one drawing"));
 }
 
+TEST_F(HostProgramTest, StartsInEditModeWhenTold)
+{
+    QProcess process;
+    process.start(QStringLiteral(DXFVIEWER_HOST),
+                  {QStringLiteral("--edit"), sample(QStringLiteral("floor-plan.dxf"))});
+    QByteArray messages;
+
+    EXPECT_TRUE(dxftest::eventually([&] {
+        messages += process.readAllStandardError();
+        return messages.contains("DXFEditor created ");
+    })) << messages.toStdString();
+
+    EXPECT_EQ(process.state(), QProcess::Running);
+    process.terminate();
+    EXPECT_TRUE(process.waitForFinished(dxftest::patienceMs));
+}
+
 TEST_P(HostProgramSampleTest, GivesAPngWithTheDrawing)
 {
     const QString picture = path(QStringLiteral("out.png"));

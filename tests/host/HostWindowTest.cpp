@@ -18,6 +18,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGraphicsView>
+#include <QImage>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
@@ -211,6 +212,22 @@ protected:
         return static_cast<int>(shownDocument(viewer())->entities().size());
     }
 
+    /// Drops something on the window. False if it does not want it.
+    bool drop(const QMimeData& data)
+    {
+        QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_window.get(), &enter);
+        QApplication::sendEvent(m_window.get(), &event);
+        return enter.isAccepted();
+    }
+
+    static void acceptAsItIs(QFileDialog& dialog)
+    {
+        // Not public in this class.
+        static_cast<QDialog&>(dialog).accept();
+    }
+
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
     {
         // Without a window manager nobody gives the keyboard back after a dialog.
@@ -283,6 +300,33 @@ TEST_F(HostWindowTest, SaysThatThereIsNothingToShow)
     open(fileWith(drawingWithoutPolylines, QStringLiteral("lines.dxf")));
 
     EXPECT_THAT(m_window->statusBar()->currentMessage().toStdString(), HasSubstr("no polylines"));
+}
+
+TEST_F(HostWindowTest, KeyOpensTheDrawingThatIsChosen)
+{
+    m_robot.expectFileName(crossFile());
+
+    press(Qt::Key_O);
+
+    EXPECT_TRUE(dxftest::eventually([this] { return shownDocument(viewer()) != nullptr; }));
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+}
+
+TEST_F(HostWindowTest, MenuOpensNothingWhenNothingIsChosen)
+{
+    m_robot.expect<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+
+    action("&Open…").trigger();
+
+    EXPECT_FALSE(action("&Save As…").isEnabled());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(HostWindowTest, KeyQuits)
+{
+    press(Qt::Key_Q);
+
+    EXPECT_FALSE(m_window->isVisible());
 }
 
 TEST_F(HostWindowTest, StartsInEditModeWhenAsked)
@@ -370,6 +414,32 @@ TEST_F(HostWindowTest, AsksBeforeItClosesOverEdits)
     EXPECT_TRUE(m_window->close());
 }
 
+TEST_F(HostWindowTest, AsksBeforeItQuitsOverEdits)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectButton(QMessageBox::Cancel);
+
+    press(Qt::Key_Q);
+
+    EXPECT_TRUE(m_window->isVisible());
+    m_robot.expectButton(QMessageBox::Discard);
+    EXPECT_TRUE(m_window->close());
+}
+
+TEST_F(HostWindowTest, StaysOpenWhenTheSavingIsCalledOff)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectButton(QMessageBox::Save);
+    m_robot.expect<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+
+    EXPECT_FALSE(m_window->close());
+
+    EXPECT_TRUE(m_window->isWindowModified());
+    EXPECT_EQ(polylineCount(), 1);
+}
+
 TEST_F(HostWindowTest, SavesBeforeItCloses)
 {
     openInEditMode();
@@ -410,7 +480,7 @@ TEST_F(HostWindowTest, ProposesANewNameAndTakesIt)
     QString proposed;
     m_robot.expect<QFileDialog>([&proposed](QFileDialog& dialog) {
         proposed = dialog.selectedFiles().value(0);
-        static_cast<QDialog&>(dialog).accept();
+        acceptAsItIs(dialog);
     });
 
     press(Qt::Key_S);
@@ -420,6 +490,16 @@ TEST_F(HostWindowTest, ProposesANewNameAndTakesIt)
     EXPECT_FALSE(m_window->isWindowModified());
     EXPECT_EQ(contentOf(path(QStringLiteral("cross.dxf"))), crossDrawing);
     EXPECT_EQ(contentOf(proposed), viewer().getData());
+}
+
+TEST_F(HostWindowTest, SavesUnderANameWithItsSuffix)
+{
+    open(crossFile());
+    m_robot.expectFileName(path(QStringLiteral("kept")));
+
+    press(Qt::Key_S);
+
+    EXPECT_EQ(contentOf(path(QStringLiteral("kept.dxf"))), viewer().getData());
 }
 
 TEST_F(HostWindowTest, UndoAfterASaveIsAnEdit)
@@ -551,15 +631,30 @@ TEST_F(HostWindowTest, OpensADrawingThatIsDropped)
     QMimeData data;
     data.setUrls(
         {QUrl::fromLocalFile(path(QStringLiteral("notes.txt"))), QUrl::fromLocalFile(crossFile())});
-    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
 
-    QApplication::sendEvent(m_window.get(), &enter);
-    QApplication::sendEvent(m_window.get(), &drop);
+    EXPECT_TRUE(drop(data));
 
-    EXPECT_TRUE(enter.isAccepted());
     EXPECT_TRUE(dxftest::eventually([this] { return shownDocument(viewer()) != nullptr; }));
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+}
+
+TEST_F(HostWindowTest, AsksBeforeADropTakesThePlaceOfEdits)
+{
+    openInEditMode();
+    erase();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(fileWith(crossDrawing, QStringLiteral("other.dxf")))});
+    bool isAnswered = false;
+    m_robot.expect<QMessageBox>([&isAnswered](QMessageBox& box) {
+        DialogRobot::click(box, QMessageBox::Cancel);
+        isAnswered = true;
+    });
+
+    EXPECT_TRUE(drop(data));
+
+    EXPECT_TRUE(dxftest::eventually([&isAnswered] { return isAnswered; }));
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+    EXPECT_EQ(polylineCount(), 1);
 }
 
 TEST_F(HostWindowTest, LeavesDragsOfOtherThingsAlone)
@@ -584,6 +679,32 @@ TEST_F(HostWindowTest, ExportsWhatIsOnScreen)
     action("Export &Picture…").trigger();
 
     EXPECT_EQ(contentOf(path(QStringLiteral("cross.svg"))).count("<polyline"), 1);
+}
+
+TEST_F(HostWindowTest, ExportsAPngUnlessToldOtherwise)
+{
+    open(fileWith(crossDrawing, QStringLiteral("cross.v2.dxf")));
+    m_robot.expect<QFileDialog>([](QFileDialog& dialog) { acceptAsItIs(dialog); });
+
+    action("Export &Picture…").trigger();
+
+    EXPECT_FALSE(QImage(path(QStringLiteral("cross.v2.png"))).isNull());
+}
+
+TEST_F(HostWindowTest, ExportsTheKindThatIsChosen)
+{
+    open(crossFile());
+    m_robot.expect<QFileDialog>([this](QFileDialog& dialog) {
+        const QString svg = dialog.nameFilters().value(1);
+        dialog.selectNameFilter(svg);
+        Q_EMIT dialog.filterSelected(svg);
+        dialog.findChild<QLineEdit*>()->setText(path(QStringLiteral("chosen")));
+        acceptAsItIs(dialog);
+    });
+
+    action("Export &Picture…").trigger();
+
+    EXPECT_EQ(contentOf(path(QStringLiteral("chosen.svg"))).count("<polyline"), 2);
 }
 
 TEST_F(HostWindowTest, SaysWhyAPictureCannotBeExported)

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QLibraryInfo>
+#include <QString>
+
+/// @file
+/// What is called by another name in Qt 5 and in Qt 6. Nothing else asks for the version.
+
+/// Where Qt has the translations of its own texts.
+inline QString qtTranslationsFolder()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
+}
