@@ -6,6 +6,7 @@
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/host/DialogRobot.h"
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
@@ -22,21 +23,17 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
-#include <QSet>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QUrl>
 
 #include <csignal>
-#include <deque>
-#include <functional>
 #include <memory>
 
 #include <sys/resource.h>
 
+using dxftest::DialogRobot;
 using dxftest::SceneMouse;
 using testing::HasSubstr;
 
@@ -51,91 +48,6 @@ const QByteArray crossDrawing =
     "0\nENDSEC\n0\nEOF\n";
 const QByteArray drawingWithoutPolylines =
     "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDSEC\n0\nEOF\n";
-
-/// Answers the dialogs that come up, one after the other.
-class DialogRobot
-{
-public:
-    DialogRobot()
-    {
-        m_timer.setInterval(5);
-        QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
-        m_timer.start();
-    }
-    ~DialogRobot() { EXPECT_TRUE(m_answers.empty()) << "a dialog did not come up"; }
-
-    template <typename Dialog>
-    void expect(std::function<void(Dialog&)> answer)
-    {
-        m_answers.push_back([answer](QWidget& widget) {
-            auto* dialog = qobject_cast<Dialog*>(&widget);
-            if (dialog)
-                answer(*dialog);
-            else
-                ADD_FAILURE() << "unexpected " << widget.metaObject()->className();
-            return dialog != nullptr;
-        });
-    }
-
-    static void click(QMessageBox& box, QMessageBox::StandardButton button)
-    {
-        if (box.button(button))
-            return box.button(button)->click();
-        ADD_FAILURE() << "no such button below: " << box.text().toStdString();
-        box.close();
-    }
-
-    void expectButton(QMessageBox::StandardButton button)
-    {
-        expect<QMessageBox>([button](QMessageBox& box) { click(box, button); });
-    }
-
-    /// Notes the text of the box, and agrees.
-    void expectError(std::string& text)
-    {
-        expect<QMessageBox>([&text](QMessageBox& box) {
-            text = (box.text() + QLatin1Char('\n') + box.informativeText()).toStdString();
-            click(box, QMessageBox::Ok);
-        });
-    }
-
-    void expectFileName(const QString& fileName)
-    {
-        expect<QFileDialog>([fileName](QFileDialog& dialog) {
-            // As a user types it: selecting leaves a field that has the keyboard alone.
-            dialog.findChild<QLineEdit*>()->setText(fileName);
-            static_cast<QDialog&>(dialog).accept();
-        });
-    }
-
-private:
-    void look()
-    {
-        QWidget* widget = QApplication::activeModalWidget();
-        // An answered dialog is on top again when one that it has brought up is gone.
-        if (!widget || m_answered.contains(widget))
-            return;
-        if (m_answers.empty()) {
-            ADD_FAILURE() << "unexpected dialog: " << widget->metaObject()->className();
-            widget->close();
-            return;
-        }
-        const auto answer = m_answers.front();
-        m_answers.pop_front();
-        m_answered.insert(widget);
-        QObject::connect(widget, &QObject::destroyed, &m_timer,
-                         [this, widget] { m_answered.remove(widget); });
-        // The answer may bring up the next dialog, and a timer does not fire while it is handled.
-        QTimer::singleShot(0, widget, [answer, widget] {
-            if (!answer(*widget))
-                widget->close();
-        });
-    }
-
-    QTimer m_timer;
-    QSet<QWidget*> m_answered;
-    std::deque<std::function<bool(QWidget&)>> m_answers;
-};
 
 class HostWindowTest : public dxftest::LoggedTest
 {

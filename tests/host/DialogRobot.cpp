@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "tests/host/DialogRobot.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace dxftest
+{
+
+DialogRobot::DialogRobot()
+{
+    m_timer.setInterval(5);
+    QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
+    m_timer.start();
+}
+
+DialogRobot::~DialogRobot()
+{
+    EXPECT_TRUE(m_answers.empty()) << "a dialog did not come up";
+}
+
+void DialogRobot::expectButton(QMessageBox::StandardButton button)
+{
+    expect<QMessageBox>([button](QMessageBox& box) { click(box, button); });
+}
+
+void DialogRobot::expectError(std::string& text)
+{
+    expect<QMessageBox>([&text](QMessageBox& box) {
+        text = (box.text() + QLatin1Char('\n') + box.informativeText()).toStdString();
+        click(box, QMessageBox::Ok);
+    });
+}
+
+void DialogRobot::expectFileName(const QString& fileName)
+{
+    expect<QFileDialog>([fileName](QFileDialog& dialog) {
+        // As a user types it: selecting leaves a field that has the keyboard alone.
+        dialog.findChild<QLineEdit*>()->setText(fileName);
+        static_cast<QDialog&>(dialog).accept();
+    });
+}
+
+void DialogRobot::click(QMessageBox& box, QMessageBox::StandardButton button)
+{
+    if (box.button(button))
+        return box.button(button)->click();
+    ADD_FAILURE() << "no such button below: " << box.text().toStdString();
+    box.close();
+}
+
+void DialogRobot::look()
+{
+    QWidget* widget = QApplication::activeModalWidget();
+    // An answered dialog is on top again when one that it has brought up is gone.
+    if (!widget || m_answered.contains(widget))
+        return;
+    if (m_answers.empty()) {
+        ADD_FAILURE() << "unexpected dialog: " << widget->metaObject()->className();
+        widget->close();
+        return;
+    }
+    const auto answer = m_answers.front();
+    m_answers.pop_front();
+    m_answered.insert(widget);
+    QObject::connect(widget, &QObject::destroyed, &m_timer,
+                     [this, widget] { m_answered.remove(widget); });
+    // The answer may bring up the next dialog, and a timer does not fire while it is handled.
+    QTimer::singleShot(0, widget, [answer, widget] {
+        if (!answer(*widget))
+            widget->close();
+    });
+}
+
+} // namespace dxftest

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "HostWindow.h"
+#include "ViewerParts.h"
+
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/host/DialogRobot.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
+
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <new>
+
+using namespace dxftest;
+using ::testing::HasSubstr;
+
+namespace
+{
+
+constexpr int vertices = 4000;
+constexpr std::size_t largeArray = 1 << 16;
+
+bool isMemoryShort = false;
+
+/// A drawing for which dxflib needs a large array.
+QByteArray longPolyline()
+{
+    QByteArray text =
+        "0\nSECTION\n2\nENTITIES\n0\nLWPOLYLINE\n8\n0\n90\n" + QByteArray::number(vertices) + "\n";
+    for (int i = 0; i < vertices; ++i)
+        text += "10\n" + QByteArray::number(i) + "\n20\n1\n";
+    return text + "0\nENDSEC\n0\nEOF\n";
+}
+
+using HostOutOfMemoryTest = LoggedTest;
+
+TEST_F(HostOutOfMemoryTest, ADrawingThatCannotBeReadGivesABoxAndLeavesThePicture)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("long.dxf")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(longPolyline());
+    file.close();
+    DialogRobot robot;
+    HostWindow window;
+    window.show();
+    window.openDrawing(file.fileName());
+    const auto& viewer = *window.findChild<DXFViewer*>();
+    ASSERT_TRUE(
+        eventually([&] { return shownDocument(viewer) && !QApplication::overrideCursor(); }));
+    const auto document = shownDocument(viewer);
+    std::string error;
+    robot.expectError(error);
+
+    isMemoryShort = true;
+    window.openDrawing(file.fileName());
+    isMemoryShort = false;
+
+    EXPECT_TRUE(eventually([&error] { return !error.empty(); }));
+    EXPECT_THAT(error, HasSubstr("The drawing cannot be opened."));
+    EXPECT_THAT(error, HasSubstr("long.dxf"));
+    EXPECT_THAT(error, HasSubstr("It cannot be read."));
+    EXPECT_EQ(shownDocument(viewer), document);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("No drawing[*]")) << "there is nothing to save";
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+} // namespace
+
+void* operator new[](std::size_t size)
+{
+    if (isMemoryShort && size >= largeArray)
+        throw std::bad_alloc();
+    return ::operator new(size);
+}
