@@ -3,6 +3,8 @@
 #include "tests/support/LoggedTest.h"
 #include "tests/translations/TranslationFiles.h"
 
+#include <QRegularExpression>
+#include <QStringList>
 #include <QTranslator>
 
 #include <gmock/gmock.h>
@@ -30,6 +32,17 @@ struct FileSet {
 void PrintTo(const FileSet& set, std::ostream* stream)
 {
     *stream << set.name;
+}
+
+/// The places that values are put into, %1 and so on, in their own order.
+QStringList placesIn(const QString& text)
+{
+    static const QRegularExpression place(QStringLiteral("%[0-9]+"));
+    QStringList places;
+    for (auto match = place.globalMatch(text); match.hasNext();)
+        places.append(match.next().captured());
+    places.sort();
+    return places;
 }
 
 class TranslationsTest : public dxftest::LoggedTest,
@@ -62,6 +75,7 @@ TEST_P(TranslationsTest, TranslateEveryTextOfTheSources)
         const QString translation =
             translator.translate(text.context.toUtf8(), text.text.toUtf8(), text.comment.toUtf8());
         EXPECT_FALSE(translation.isEmpty()) << ::testing::PrintToString(text);
+        EXPECT_EQ(placesIn(translation), placesIn(text.text)) << ::testing::PrintToString(text);
     }
 }
 
