@@ -25,6 +25,14 @@ bool isPlatformWarning(const QString& text)
                        [&text](const char* known) { return text == QLatin1String(known); });
 }
 
+/// Whether a message has a category, and not one of Qt's own.
+bool isOfForeignCategory(const QMessageLogContext& context)
+{
+    const QLatin1String category(context.category);
+    return !category.isEmpty() && category != QLatin1String("default")
+           && !category.startsWith(QLatin1String("qt."));
+}
+
 } // namespace
 
 LogCapture* LogCapture::s_innermost = nullptr;
@@ -58,14 +66,18 @@ void LogCapture::handle(QtMsgType type, const QMessageLogContext& context, const
 
 void LogCapture::record(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
+    const bool isForeign = isOfForeignCategory(context);
+    const QString withCategory = QLatin1String(context.category) + QLatin1String(": ") + text;
     switch (type) {
     case QtDebugMsg:
         m_debugMessages.append(text);
+        if (isForeign)
+            m_warnings.append(withCategory);
         return;
     case QtWarningMsg:
     case QtCriticalMsg:
         if (!isPlatformWarning(text))
-            m_warnings.append(text);
+            m_warnings.append(isForeign ? withCategory : text);
         return;
     case QtInfoMsg:
     case QtFatalMsg:

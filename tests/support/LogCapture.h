@@ -11,6 +11,9 @@ namespace dxftest
 /**
  * Records Qt's log messages while it lives, the debug channel apart from warnings and worse.
  *
+ * The library logs without a category. So a message of one counts as a warning that begins with
+ * the category's name, unless it comes from Qt itself.
+ *
  * Captures may be nested: the innermost one records.
  */
 class LogCapture

@@ -5,11 +5,15 @@
 #include <gtest/gtest-spi.h>
 
 #include <QDebug>
+#include <QLoggingCategory>
 
 using namespace dxftest;
 
 namespace
 {
+
+Q_LOGGING_CATEGORY(foreign, "foreign.category")
+Q_LOGGING_CATEGORY(ofQt, "qt.category")
 
 /// A test that stands for one of another file.
 class InnerTest : public LoggedTest
@@ -100,6 +104,37 @@ TEST(LoggedTestTest, DebugMessagesAreKeptApartFromWarnings)
               QStringList({QStringLiteral("progress"), QStringLiteral("more")}));
     EXPECT_EQ(test.takeDebugMessages(), QStringList());
     EXPECT_EQ(test.takeWarnings(), QStringList(QStringLiteral("trouble")));
+}
+
+TEST(LoggedTestTest, DebugMessageOfACategoryFails)
+{
+    EXPECT_NONFATAL_FAILURE(
+        {
+            InnerTest test;
+            qCDebug(foreign, "progress");
+            EXPECT_EQ(test.takeDebugMessages(), QStringList(QStringLiteral("progress")));
+        },
+        "foreign.category: progress");
+}
+
+TEST(LoggedTestTest, AnnouncedWarningOfACategoryFails)
+{
+    EXPECT_NONFATAL_FAILURE(
+        {
+            InnerTest test;
+            test.expectWarning("trouble");
+            qCWarning(foreign, "trouble");
+        },
+        "foreign.category: trouble");
+}
+
+TEST(LoggedTestTest, WarningOfACategoryOfQtIsOneLikeOthers)
+{
+    InnerTest test;
+
+    test.expectWarning("trouble");
+
+    qCWarning(ofQt, "trouble");
 }
 
 TEST(LoggedTestTest, InnermostCaptureRecords)
