@@ -335,6 +335,31 @@ TEST_F(DeleteItemsTest, CutOffPieceLooksAsItsPolylineDid)
     EXPECT_EQ(at(1)->lineWidth(), 1);
 }
 
+TEST_F(DeleteItemsTest, CutOffPieceIsSelectedAndHoveredAsItsPolylineIs)
+{
+    use({makeLine(3, 0), makeLine(3, 1), makeLine(3, 2)});
+    document->setSelected({at(0)->id(), ids[5]});
+    document->setHovered({at(1)->id(), ids[8]});
+
+    push({ids[1], ids[4], ids[7]});
+
+    ASSERT_EQ(entityCount(), 6);
+    for (int i : {0, 3}) {
+        EXPECT_TRUE(at(i)->isSelected());
+        EXPECT_FALSE(at(i)->isHovered());
+    }
+    for (int i : {1, 4}) {
+        EXPECT_FALSE(at(i)->isSelected());
+        EXPECT_TRUE(at(i)->isHovered());
+    }
+    for (int i : {2, 5}) {
+        EXPECT_FALSE(at(i)->isSelected());
+        EXPECT_FALSE(at(i)->isHovered());
+    }
+    EXPECT_THAT(document->selectedIDs(), ElementsAre(at(0)->id(), at(3)->id()))
+        << "the entity's flags are not those of its segments";
+}
+
 TEST_F(DeleteItemsTest, PiecesKeepTheFlagsButTheClosedBit)
 {
     auto polyline = Polyline::create(3U, 4U, 0x81U);
@@ -694,6 +719,18 @@ TEST_F(DeleteItemsTest, PolylineListedTwiceIsRestoredOnce)
     EXPECT_THAT(linesOf(*at(0)), SizeIs(3));
 }
 
+TEST_F(DeleteItemsTest, PolylineListedTwiceIsRestoredFromItsSecondClone)
+{
+    const Polyline polyline = makeLine(3);
+    use({polyline, polyline});
+    const int highest = freshId();
+    push({ids[1]});
+
+    stack.undo();
+
+    EXPECT_EQ(at(0)->id(), highest + 2);
+}
+
 TEST_F(DeleteItemsTest, PolylineListedTwiceIsRemovedWithBothEntries)
 {
     const Polyline polyline = makeLine(3);
@@ -786,6 +823,64 @@ TEST_F(DeleteItemsTest, UndoRestoresTheFlagsOfTheSnapshot)
     stack.undo();
 
     EXPECT_THAT(document->selectedIDs(), ElementsAre(at(0)->id(), ids[0], ids[4]));
+}
+
+/// What undo puts back besides the geometry.
+void expectLook(const DXFPolyline& polyline, const DXFPolyline& expected)
+{
+    EXPECT_EQ(polyline.attributes(), expected.attributes());
+    EXPECT_EQ(polyline.color(), expected.color());
+    EXPECT_EQ(polyline.lineWidth(), expected.lineWidth());
+    EXPECT_EQ(polyline.flags(), expected.flags());
+    EXPECT_EQ(polyline.mVertices(), expected.mVertices());
+    EXPECT_EQ(polyline.nVertices(), expected.nVertices());
+    EXPECT_EQ(polyline.isSelected(), expected.isSelected());
+    EXPECT_EQ(polyline.isHovered(), expected.isHovered());
+    const auto segments = polyline.segments();
+    const auto expectedSegments = expected.segments();
+    ASSERT_EQ(segments.size(), expectedSegments.size());
+    for (int i = 0; i < segments.size(); ++i) {
+        EXPECT_EQ(segments[i].isSelected(), expectedSegments[i].isSelected()) << "segment " << i;
+        EXPECT_EQ(segments[i].isHovered(), expectedSegments[i].isHovered()) << "segment " << i;
+    }
+}
+
+TEST_F(DeleteItemsTest, UndoRestoresTheLookOfCutUntouchedAndRemovedPolylines)
+{
+    QList<Entity> entities;
+    for (int i = 0; i < 3; ++i) {
+        auto polyline = Polyline::create(3U, 4U, 0x81U);
+        for (int x = 0; x < 5; ++x)
+            polyline->appendPoint(DXFVertex(x, x * x + 50 * i, 0, true, 0));
+        polyline->setAttributes(makeAttributes(QStringLiteral("walls"), 5, -1, 25));
+        entities.append(polyline);
+    }
+    use(entities);
+    for (int i = 0; i < 3; ++i)
+        at(i)->setColor(QColor(10 * i, 2, 3, 4));
+    at(1)->setLineWidth(7);
+    document->setSelected({at(0)->id(), at(1)->id(), ids[0], ids[1], ids[5], ids[6], ids[10]});
+    document->setHovered({at(1)->id(), at(2)->id(), ids[0], ids[3], ids[6], ids[7], ids[11]});
+    const std::vector<DXFPolyline> before{*at(0), *at(1), *at(2)};
+    push({ids[2], ids[10], ids[11], ids[12], ids[13], ids[14]});
+    ASSERT_EQ(entityCount(), 3);
+    // What becomes of the former objects is of no matter.
+    for (const Entity& entity : qAsConst(entities)) {
+        entity->setAttributes(nullptr);
+        entity->setColor(Qt::red);
+        entity->setLineWidth(0);
+    }
+    document->setSelected({});
+    document->setHovered({});
+
+    stack.undo();
+
+    ASSERT_EQ(entityCount(), 3);
+    for (int i = 0; i < 3; ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(at(i)->flags(), 0x81U);
+        expectLook(*at(i), before[std::size_t(i)]);
+    }
 }
 
 TEST_F(DeleteItemsTest, UndoWithoutRedoEmptiesTheDocument)
