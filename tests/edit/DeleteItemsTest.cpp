@@ -1169,6 +1169,69 @@ TEST_F(DeleteItemsTest, SplittingNothingDoesNothing)
     EXPECT_EQ(entityCount(), 1);
 }
 
+// Polylines of a host
+
+/// A polyline that knows more than the library does.
+class HostPolyline : public DXFPolyline
+{
+public:
+    explicit HostPolyline(const QString& owner)
+        : DXFPolyline(0, 0, 0)
+        , m_owner(owner)
+    {
+        for (int x = 0; x < 4; ++x)
+            appendPoint(DXFVertex(x, 0, 0, true, 0));
+    }
+
+    HostPolyline* clone() override
+    {
+        auto* copy = new HostPolyline(*this);
+        copy->regenerateID();
+        return copy;
+    }
+
+    const QString& owner() const { return m_owner; }
+
+private:
+    QString m_owner;
+};
+
+class HostPolylineTest : public DeleteItemsTest
+{
+protected:
+    HostPolylineTest() { use({QSharedPointer<HostPolyline>::create(QStringLiteral("plumber"))}); }
+
+    /// Whose the polyline at a place is; null if it is nobody's.
+    QString ownerAt(int index) const
+    {
+        const auto polyline = at(index).dynamicCast<HostPolyline>();
+        return polyline ? polyline->owner() : QString();
+    }
+};
+
+TEST_F(HostPolylineTest, UndoRestoresAllOfIt)
+{
+    const Polyline polyline = at(0);
+    push({ids[1]});
+
+    stack.undo();
+
+    ASSERT_EQ(entityCount(), 1);
+    EXPECT_NE(at(0), polyline);
+    EXPECT_EQ(ownerAt(0), QStringLiteral("plumber"));
+    EXPECT_EQ(segmentIdsOf(*at(0)), ids);
+}
+
+TEST_F(HostPolylineTest, CutOffPieceIsOneToo)
+{
+    push({ids[1]});
+
+    ASSERT_EQ(entityCount(), 2);
+    EXPECT_EQ(ownerAt(0), QStringLiteral("plumber"));
+    EXPECT_EQ(ownerAt(1), QStringLiteral("plumber"));
+    EXPECT_THAT(linesOf(*at(1)), ElementsAre(QLineF(2, 0, 3, 0)));
+}
+
 // Ownership of the snapshot
 
 /// An entity that counts how many of its kind there are.
