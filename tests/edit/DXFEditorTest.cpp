@@ -9,6 +9,7 @@
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
+#include "tests/support/ToolAccess.h"
 
 #include <gmock/gmock.h>
 
@@ -529,6 +530,17 @@ TEST_F(DXFEditorTest, ItemWithoutADocumentIsBorne)
 
 // The tool's life
 
+TEST_F(DXFEditorTest, CleaningUpDeletesTheTool)
+{
+    const QPointer<ISelectionTool> tool = toolOf(*editor);
+    ASSERT_FALSE(tool.isNull());
+
+    call("cleanupTool");
+
+    EXPECT_TRUE(tool.isNull());
+    EXPECT_EQ(toolOf(*editor), nullptr);
+}
+
 TEST_F(DXFEditorTest, WithoutItsToolItOnlyRepaints)
 {
     showView();
@@ -569,6 +581,21 @@ TEST_F(DXFEditorTest, NewToolMayBeSetUpAfterCleaningUp)
 
     send(QEvent::GraphicsSceneMouseMove, {40, 50});
     EXPECT_THAT(document->selectedIDs(), ElementsAre(ids[2]));
+}
+
+TEST_F(DXFEditorTest, ToolOfALaterSetupSelectsButNobodyHearsItAsk)
+{
+    showView();
+    call("cleanupTool");
+    call("setupTool");
+    QSignalSpy requests(toolOf(*editor), SIGNAL(requestDelete()));
+
+    SceneMouse(view).drag({{30, 50}, {40, 50}, {60, 50}});
+
+    EXPECT_GE(requests.count(), 1);
+    EXPECT_EQ(editor->stack()->count(), 0);
+    EXPECT_THAT(document->selectedIDs(), ElementsAre(ids[2], ids[3]));
+    EXPECT_EQ(segmentIdsOf(document), ids);
 }
 
 // The end of edit mode
