@@ -14,8 +14,11 @@
 #include <QCoreApplication>
 #include <QGraphicsScene>
 #include <QPainter>
+#include <QPainterPath>
 #include <QSignalSpy>
 
+#include <cmath>
+#include <limits>
 #include <memory>
 #include <random>
 
@@ -238,6 +241,17 @@ TEST_F(DXFGraphicsItemTest, SegmentsWithoutLengthContributeNothing)
                10, 5, -10, -5);
 }
 
+TEST_F(DXFGraphicsItemTest, ShapeIsTheRectangle)
+{
+    item.setDocument(makeDocument({makePolyline({{0, 0}, {10, 0}, {10, 5}})}));
+    item.setPen(QPen(Qt::green, 9));
+    QPainterPath expected;
+    expected.addRect(QRectF(0, 0, 10, 5));
+
+    EXPECT_EQ(item.shape(), expected);
+    EXPECT_TRUE(item.contains(QPointF(1, 4))) << "far from every segment";
+}
+
 TEST_F(DXFGraphicsItemTest, EmptyDocumentKeepsTheZeroRectangle)
 {
     expectRect(boundsOf({}), 0, 0, 0, 0);
@@ -290,6 +304,119 @@ TEST_F(DXFGraphicsItemTest, RandomSegmentsUniteInOrder)
         if (HasFailure())
             return;
     }
+}
+
+/// Whether two numbers are the same to the last bit. Of NaN there is only one here: which of its
+/// bits survive a sum is the compiler's choice.
+bool isSame(double a, double b)
+{
+    return (std::isnan(a) && std::isnan(b)) || (a == b && std::signbit(a) == std::signbit(b));
+}
+
+::testing::AssertionResult isSameRect(const QRectF& actual, const QRectF& expected)
+{
+    if (isSame(actual.x(), expected.x()) && isSame(actual.y(), expected.y())
+        && isSame(actual.width(), expected.width()) && isSame(actual.height(), expected.height()))
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << ::testing::PrintToString(actual) << " instead of "
+                                         << ::testing::PrintToString(expected);
+}
+
+/// Coordinates of a drawing in which additions round: some of a few magnitudes.
+class UnevenNumbers
+{
+public:
+    explicit UnevenNumbers(std::mt19937& random)
+        : m_random(random)
+        , m_offset(pick({0.0, 0.0, 1e3, -1e7, 1e15, -1e15, 1e-9}))
+        , m_isFinite(upTo(9) > 0)
+        , m_isOnOneSide(upTo(4) == 0)
+    {
+    }
+
+    double next()
+    {
+        if (!m_isFinite && upTo(9) == 0)
+            return pick({nan, infinity, -infinity, std::numeric_limits<double>::max(),
+                         std::numeric_limits<double>::lowest(),
+                         std::numeric_limits<double>::denorm_min()});
+        if (upTo(9) == 0)
+            return pick({0.0, -0.0});
+        const double number = nextFinite();
+        return m_isOnOneSide ? std::abs(number) : number;
+    }
+
+private:
+    static constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    static constexpr double infinity = std::numeric_limits<double>::infinity();
+
+    int upTo(int most) { return std::uniform_int_distribution<int>(0, most)(m_random); }
+
+    double pick(std::initializer_list<double> numbers)
+    {
+        return numbers.begin()[upTo(int(numbers.size()) - 1)];
+    }
+
+    double nextFinite()
+    {
+        switch (upTo(9)) {
+        case 0:
+            return 1e15 + upTo(40);
+        case 1:
+            return 1e-9 * (upTo(40) - 20);
+        default:
+            return m_offset + 0.1 * (upTo(2000) - 1000);
+        }
+    }
+
+    std::mt19937& m_random;
+    double m_offset;
+    bool m_isFinite;
+    bool m_isOnOneSide;
+};
+
+TEST_F(DXFGraphicsItemTest, RandomSegmentsOfAllMagnitudesUniteInOrder)
+{
+    std::mt19937 random(7);
+    for (int round = 0; round < 2000; ++round) {
+        SCOPED_TRACE(round);
+        UnevenNumbers numbers(random);
+        QList<QSharedPointer<DXFEntity>> entities;
+        for (int polylines = 0; polylines < 3; ++polylines) {
+            QVector<QPointF> points;
+            for (int i = 0; i < 60; ++i) {
+                const double x = numbers.next();
+                points.append(QPointF(x, numbers.next()));
+            }
+            entities.append(makePolyline(points, polylines == 1));
+        }
+        const auto document = makeDocument(entities);
+
+        item.setDocument(document);
+
+        QRectF expected(0, 0, 0, 0);
+        const auto lines = linesOf(document);
+        for (const QLineF& line : lines)
+            expected = expected
+                       | QRectF(line.x1(), line.y1(), line.x2() - line.x1(), line.y2() - line.y1());
+        ASSERT_EQ(lines.size(), 178);
+        ASSERT_TRUE(isSameRect(item.boundingRect(), expected));
+    }
+}
+
+TEST_F(DXFGraphicsItemTest, RoundingStillMovesTheFarEdgeAtASegmentInside)
+{
+    // Above this number doubles are 2 apart. The far edge is rounded down onto it, and the extent
+    // to that edge is no more than the next segment finds.
+    const double limit = std::ldexp(1.0, 53);
+    const auto wide = makePolyline({{1, 0}, {limit + 2, 100}});
+    const auto high = makePolyline({{0, 1}, {100, limit + 2}});
+    const auto inside = makePolyline({{10, 10}, {20, 20}, {30, 30}});
+
+    expectRect(boundsOf({wide}), 1, 0, limit, 100);
+    expectRect(boundsOf({wide, inside}), 1, 0, limit - 1, 100);
+    expectRect(boundsOf({high}), 0, 1, 100, limit);
+    expectRect(boundsOf({high, inside}), 0, 1, 100, limit - 1);
 }
 
 TEST_F(DXFGraphicsItemTest, EditsLeaveTheRectangleUntilTheNextRefresh)
