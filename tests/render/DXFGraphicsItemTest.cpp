@@ -515,6 +515,56 @@ TEST_F(DXFGraphicsItemTest, SelectedIsRedHoveredDarkYellowAndSelectedWins)
                                    cosmeticPen(Qt::red, 0), cosmeticPen(Qt::darkRed, 0)}));
 }
 
+TEST_F(DXFGraphicsItemTest, EachOfManyColoursComesOutInItsPlace)
+{
+    std::mt19937 random(11);
+    const auto upTo = [&random](int most) {
+        return std::uniform_int_distribution<int>(0, most)(random);
+    };
+    QVector<int> trueColors;
+    for (int i = 0; i < 200; ++i)
+        trueColors.append(upTo(0xFFFFFF));
+    QList<QSharedPointer<DXFEntity>> entities;
+    for (int i = 0; i < 500; ++i) {
+        const auto polyline = makePolyline({{0, 0}, {1, 1}, {2, 2}, {3, 3}});
+        polyline->setAttributes(
+            makeAttributes(QStringLiteral("0"), 1, trueColors.at(upTo(199)), upTo(1)));
+        entities.append(polyline);
+    }
+    const auto document = makeDocument(entities);
+    item.setDocument(document);
+    QVector<int> selected;
+    QVector<int> hovered;
+    const auto ids = segmentIdsOf(document);
+    for (int id : ids) {
+        if (upTo(5) == 0)
+            selected.append(id);
+        if (upTo(5) == 0)
+            hovered.append(id);
+    }
+    document->setSelected(selected);
+    document->setHovered(hovered);
+    QVector<QPen> expected;
+    for (int i = 0; i < 500; ++i) {
+        const auto attributes = entities.at(i)->attributes();
+        const auto segments = polylineAt(document, i)->segments();
+        for (const Segment& segment : segments) {
+            QColor color(static_cast<QRgb>(attributes->color24()));
+            if (segment.isHovered())
+                color = Qt::darkYellow;
+            if (segment.isSelected())
+                color = Qt::red;
+            expected.append(cosmeticPen(color, attributes->width()));
+        }
+    }
+
+    const auto pens = pensOf(recordPainting(item));
+
+    ASSERT_EQ(pens.size(), expected.size());
+    for (int i = 0; i < pens.size(); ++i)
+        ASSERT_EQ(pens.at(i), expected.at(i)) << "segment " << i;
+}
+
 TEST_F(DXFGraphicsItemTest, FlagsOfTheEntityDoNotColourItsSegments)
 {
     const auto polyline = makeColored({{0, 0}, {1, 1}}, 1);
