@@ -82,12 +82,14 @@ File openRegularFile(const std::string& name)
     return File(std::fopen(name.c_str(), "rb"));
 }
 
-void parse(std::string_view text, DL_CreationInterface& receiver)
+/// False if the text could not be copied: the stream keeps to itself that memory has run out, but
+/// dxflib refuses such a stream.
+bool parse(std::string_view text, DL_CreationInterface& receiver)
 {
     std::stringstream stream;
     stream.write(text.data(), static_cast<std::streamsize>(text.size()));
     const Parser parser;
-    parser->in(stream, &receiver);
+    return parser->in(stream, &receiver);
 }
 
 /// What dxflib does with a file's name, but the file is closed whatever is thrown, and a read error
@@ -105,12 +107,10 @@ bool parse(std::FILE* file, DL_CreationInterface& receiver)
     return true;
 }
 
-void repairAndParse(std::string_view text, DL_CreationInterface& receiver)
+bool repairAndParse(std::string_view text, DL_CreationInterface& receiver)
 {
-    if (dxfviewer::isSound(text))
-        parse(text, receiver);
-    else
-        parse(dxfviewer::repaired(text), receiver);
+    return dxfviewer::isSound(text) ? parse(text, receiver)
+                                    : parse(dxfviewer::repaired(text), receiver);
 }
 
 /// Whether dxflib can be given the file as it is. False also if it cannot be read.
@@ -182,17 +182,14 @@ bool parseFile(const std::string& name, DL_CreationInterface& receiver)
         if (sound)
             return parse(file.get(), receiver);
 
-        repairAndParse(readAll(file.get()), receiver);
-        return std::ferror(file.get()) == 0;
+        const bool parsed = repairAndParse(readAll(file.get()), receiver);
+        return parsed && std::ferror(file.get()) == 0;
     });
 }
 
 bool parseText(std::string_view text, DL_CreationInterface& receiver)
 {
-    return guarded([text, &receiver] {
-        repairAndParse(text, receiver);
-        return true;
-    });
+    return guarded([text, &receiver] { return repairAndParse(text, receiver); });
 }
 
 } // namespace dxfviewer

@@ -8,20 +8,45 @@
 
 #include <QTemporaryDir>
 
+#include <cstdlib>
+#include <limits>
 #include <new>
 
 using namespace dxftest;
 using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 namespace
 {
 
-constexpr std::size_t largeArray = 1 << 16;
+constexpr std::size_t largeSize = 1 << 16;
 constexpr int polylines = 6;
 constexpr int verticesPerPolyline = 4000;
 
-// How many more large arrays there is memory for; negative if there is no end.
-int arraysLeft = -1;
+/// How many more large pieces of memory there are; negative if there is no end.
+class Supply
+{
+public:
+    void limitTo(int pieces) { m_left = pieces; }
+    void lift() { m_left = -1; }
+    int left() const { return m_left; }
+
+    bool gives(std::size_t size)
+    {
+        if (size < largeSize || m_left < 0)
+            return true;
+        if (m_left == 0)
+            return false;
+        --m_left;
+        return true;
+    }
+
+private:
+    int m_left = -1;
+};
+
+Supply arrays;
+Supply blocks;
 
 QByteArray drawing()
 {
@@ -34,23 +59,28 @@ QByteArray drawing()
     return text + "0\nENDSEC\n0\nEOF\n";
 }
 
-/// Reading ends at the large array of that number: dxflib has one for each polyline, and has freed
-/// the one before.
-class OutOfMemoryTest : public LoggedTest, public ::testing::WithParamInterface<int>
+/// One that cannot be read as it is.
+QByteArray damagedDrawing()
+{
+    return "999\ndxflib\n" + drawing();
+}
+
+void* allocated(std::size_t size)
+{
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+
+class MemoryTest : public LoggedTest
 {
 protected:
-    template <typename Source>
-    void expectFailure(const Source& source)
+    QString fileWith(const QByteArray& text)
     {
-        DXFDocument document;
-        DXFReader reader(document);
-        arraysLeft = GetParam() - 1;
-
-        const bool read = reader.load(source);
-
-        EXPECT_EQ(arraysLeft, 0) << "nothing was refused";
-        arraysLeft = -1;
-        EXPECT_FALSE(read);
+        QFile file(folder.filePath(QStringLiteral("drawing.dxf")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        return file.fileName();
     }
 
     void expectReadable()
@@ -60,9 +90,31 @@ protected:
         EXPECT_EQ(document.entities().size(), polylines);
         takeDebugMessages();
     }
+
+    QTemporaryDir folder;
 };
 
-TEST_P(OutOfMemoryTest, BytesAreNotReadAndTheProcessGoesOn)
+/// Reading ends at the large array of that number: dxflib has one for each polyline, and has freed
+/// the one before.
+class OutOfArraysTest : public MemoryTest, public ::testing::WithParamInterface<int>
+{
+protected:
+    template <typename Source>
+    void expectFailure(const Source& source)
+    {
+        DXFDocument document;
+        DXFReader reader(document);
+        arrays.limitTo(GetParam() - 1);
+
+        const bool read = reader.load(source);
+
+        EXPECT_EQ(arrays.left(), 0) << "nothing was refused";
+        arrays.lift();
+        EXPECT_FALSE(read);
+    }
+};
+
+TEST_P(OutOfArraysTest, BytesAreNotReadAndTheProcessGoesOn)
 {
     expectFailure(drawing());
 
@@ -71,16 +123,9 @@ TEST_P(OutOfMemoryTest, BytesAreNotReadAndTheProcessGoesOn)
     expectReadable();
 }
 
-TEST_P(OutOfMemoryTest, FileIsNotReadAndTheProcessGoesOn)
+TEST_P(OutOfArraysTest, FileIsNotReadAndTheProcessGoesOn)
 {
-    const QTemporaryDir folder;
-    const QString name = folder.filePath(QStringLiteral("drawing.dxf"));
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(drawing());
-    file.close();
-
-    expectFailure(name);
+    expectFailure(fileWith(drawing()));
 
     const QStringList messages = takeDebugMessages();
     ASSERT_EQ(messages.size(), 1);
@@ -88,17 +133,129 @@ TEST_P(OutOfMemoryTest, FileIsNotReadAndTheProcessGoesOn)
     expectReadable();
 }
 
-INSTANTIATE_TEST_SUITE_P(Arrays, OutOfMemoryTest, ::testing::Range(1, polylines + 1),
+TEST_P(OutOfArraysTest, DocumentOfSuchBytesIsNull)
+{
+    const QByteArray bytes = drawing();
+    arrays.limitTo(GetParam() - 1);
+
+    const auto document = DXFDocument::load(bytes);
+
+    arrays.lift();
+    EXPECT_TRUE(document.isNull());
+    EXPECT_THAT(takeDebugMessages(),
+                ElementsAre(QStringLiteral("DXFReader::Could not parse dxf data")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Arrays, OutOfArraysTest, ::testing::Range(1, polylines + 1),
                          [](const auto& array) { return "Array" + std::to_string(array.param); });
+
+/// Loads with less and less large memory. A stream does not tell when it gets none.
+class OutOfBlocksTest : public MemoryTest
+{
+protected:
+    template <typename Source>
+    void expectAllOrFailure(const Source& source, const QString& message)
+    {
+        const int needed = blocksOfALoad(source);
+        EXPECT_GT(needed, 0);
+        for (int given = 0; given < needed; ++given) {
+            SCOPED_TRACE(given);
+            DXFDocument document;
+            DXFReader reader(document);
+            blocks.limitTo(given);
+
+            const bool read = reader.load(source);
+
+            blocks.lift();
+            if (read) {
+                EXPECT_EQ(document.entities().size(), polylines);
+                EXPECT_THAT(takeDebugMessages(), IsEmpty());
+            } else {
+                EXPECT_THAT(takeDebugMessages(), ElementsAre(message));
+            }
+        }
+        expectReadable();
+    }
+
+private:
+    template <typename Source>
+    static int blocksOfALoad(const Source& source)
+    {
+        constexpr int plenty = std::numeric_limits<int>::max();
+        DXFDocument document;
+        DXFReader reader(document);
+        blocks.limitTo(plenty);
+        EXPECT_TRUE(reader.load(source));
+        const int used = plenty - blocks.left();
+        blocks.lift();
+        EXPECT_EQ(document.entities().size(), polylines);
+        return used;
+    }
+};
+
+TEST_F(OutOfBlocksTest, BytesAreReadWhollyOrNot)
+{
+    const QString message = QStringLiteral("DXFReader::Could not parse dxf data");
+
+    expectAllOrFailure(drawing(), message);
+    expectAllOrFailure(damagedDrawing(), message);
+}
+
+TEST_F(OutOfBlocksTest, FileIsReadWhollyOrNot)
+{
+    const QString name = fileWith(drawing());
+    const QString message = QLatin1Char('"') + name + QLatin1String("\"  could not be opened.\n");
+
+    expectAllOrFailure(name, message);
+    fileWith(damagedDrawing());
+    expectAllOrFailure(name, message);
+}
+
+TEST_F(OutOfBlocksTest, DocumentOfUnreadBytesIsNull)
+{
+    const QByteArray bytes = drawing();
+    blocks.limitTo(0);
+
+    const auto document = DXFDocument::load(bytes);
+
+    blocks.lift();
+    EXPECT_TRUE(document.isNull());
+    EXPECT_THAT(takeDebugMessages(),
+                ElementsAre(QStringLiteral("DXFReader::Could not parse dxf data")));
+}
 
 } // namespace
 
+void* operator new(std::size_t size)
+{
+    if (!blocks.gives(size))
+        throw std::bad_alloc();
+    return allocated(size);
+}
+
 void* operator new[](std::size_t size)
 {
-    if (size >= largeArray && arraysLeft >= 0) {
-        if (arraysLeft == 0)
-            throw std::bad_alloc();
-        --arraysLeft;
-    }
-    return ::operator new(size);
+    if (!arrays.gives(size))
+        throw std::bad_alloc();
+    return allocated(size);
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    std::free(memory);
 }
