@@ -151,6 +151,18 @@ std::string readAll(std::FILE* file)
     return text;
 }
 
+bool checkAndParse(std::FILE* file, DL_CreationInterface& receiver)
+{
+    // Pieces are read into a buffer of their own.
+    const bool sound = isSoundFile(file);
+    std::rewind(file);
+    if (sound)
+        return parse(file, receiver);
+
+    const bool parsed = repairAndParse(readAll(file), receiver);
+    return parsed && std::ferror(file) == 0;
+}
+
 /// Runs a parse with the host's locale out of the way. False if it throws.
 template <typename Parse>
 bool guarded(Parse parse)
@@ -174,17 +186,13 @@ bool parseFile(const std::string& name, DL_CreationInterface& receiver)
 {
     return guarded([&name, &receiver] {
         const File file = openRegularFile(name);
-        if (!file)
-            return false;
-        // Pieces are read into a buffer of their own.
-        const bool sound = isSoundFile(file.get());
-        std::rewind(file.get());
-        if (sound)
-            return parse(file.get(), receiver);
-
-        const bool parsed = repairAndParse(readAll(file.get()), receiver);
-        return parsed && std::ferror(file.get()) == 0;
+        return file && checkAndParse(file.get(), receiver);
     });
+}
+
+bool parseFile(std::FILE* file, DL_CreationInterface& receiver)
+{
+    return guarded([file, &receiver] { return checkAndParse(file, receiver); });
 }
 
 bool parseText(std::string_view text, DL_CreationInterface& receiver)

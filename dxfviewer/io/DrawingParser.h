@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,9 @@ namespace dxfviewer
  * @param name  as the system calls take it
  */
 bool parseFile(const std::string& name, DL_CreationInterface& receiver);
+
+/// Parses a file that is open at its start, and leaves it open. It is read twice.
+bool parseFile(std::FILE* file, DL_CreationInterface& receiver);
 
 /// Parses a text without zero bytes. False if that fails half-way.
 bool parseText(std::string_view text, DL_CreationInterface& receiver);

@@ -16,6 +16,10 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
 #include <functional>
 #include <new>
 #include <stdexcept>
@@ -60,6 +64,84 @@ private:
     int m_vertices = 0;
 };
 
+/// Makes its file unreadable at its third vertex, behind the back of whoever reads it.
+class BreakingReader : public ThrowingReader
+{
+public:
+    BreakingReader(DXFDocument& document, const QString& fileName)
+        : ThrowingReader(document, [fileName] { makeUnreadable(fileName); })
+    {
+    }
+
+private:
+    static void makeUnreadable(const QString& fileName)
+    {
+        const QDir descriptors(QStringLiteral("/proc/self/fd"));
+        const auto names = descriptors.entryList(QDir::NoDotAndDotDot | QDir::AllEntries);
+        for (const QString& name : names) {
+            if (QFileInfo(descriptors.filePath(name)) != QFileInfo(fileName))
+                continue;
+            // A folder's bytes cannot be read.
+            const int folder = open("/", O_RDONLY | O_DIRECTORY);
+            dup2(folder, name.toInt());
+            close(folder);
+        }
+    }
+};
+
+/// An open file with a text that cannot be read beyond some place, from one of the passes over it
+/// on.
+class FailingFile
+{
+public:
+    FailingFile(std::string text, std::size_t failsAt, int failsInPass)
+        : m_text(std::move(text))
+        , m_failsAt(failsAt)
+        , m_failsInPass(failsInPass)
+        , m_file(
+              fopencookie(this, "rb", {&FailingFile::read, nullptr, &FailingFile::seek, nullptr}))
+    {
+    }
+    ~FailingFile() { std::fclose(m_file); }
+
+    std::FILE* file() const { return m_file; }
+
+private:
+    Q_DISABLE_COPY(FailingFile)
+
+    static ssize_t read(void* cookie, char* buffer, std::size_t size)
+    {
+        auto* self = static_cast<FailingFile*>(cookie);
+        const bool fails = self->m_pass >= self->m_failsInPass;
+        const std::size_t end = fails ? self->m_failsAt : self->m_text.size();
+        if (fails && self->m_at >= end) {
+            errno = EIO;
+            return -1;
+        }
+        const std::size_t length =
+            self->m_text.copy(buffer, std::min(size, end - self->m_at), self->m_at);
+        self->m_at += length;
+        return static_cast<ssize_t>(length);
+    }
+
+    static int seek(void* cookie, off64_t* offset, int from)
+    {
+        auto* self = static_cast<FailingFile*>(cookie);
+        if (from != SEEK_SET || *offset != 0)
+            return -1;
+        self->m_at = 0;
+        ++self->m_pass;
+        return 0;
+    }
+
+    std::string m_text;
+    std::size_t m_failsAt;
+    int m_failsInPass;
+    std::size_t m_at = 0;
+    int m_pass = 1;
+    std::FILE* m_file;
+};
+
 std::vector<Group> polylineOf(const std::string& x)
 {
     return {{0, "LWPOLYLINE"}, {90, "2"}, {10, x}, {20, "0.25"}, {10, "-1e3"}, {20, "7"}};
@@ -71,6 +153,17 @@ std::vector<Group> twoPolylines()
     const auto second = polylineOf("4096");
     groups.insert(groups.end(), second.begin(), second.end());
     return groups;
+}
+
+/// Enough to fill the buffers of a reader several times.
+std::string longDrawing()
+{
+    std::vector<Group> groups;
+    for (int i = 0; i < 10000; ++i) {
+        const auto polyline = polylineOf(std::to_string(i));
+        groups.insert(groups.end(), polyline.begin(), polyline.end());
+    }
+    return drawingOf(groups);
 }
 
 class DrawingParserTest : public LoggedTest
@@ -126,6 +219,46 @@ TEST_F(DrawingParserTest, ReadErrorIsReported)
 {
     // A regular file whose first byte cannot be read.
     expectRefused(QStringLiteral("/proc/self/mem"));
+}
+
+TEST_F(DrawingParserTest, WhatWasReadBeforeAReadErrorStays)
+{
+    const std::string text = longDrawing();
+    const QString name = fileWith(text);
+    const int descriptors = openDescriptors();
+    DXFDocument document;
+
+    EXPECT_FALSE(BreakingReader(document, name).load(name));
+
+    EXPECT_EQ(takeDebugMessages(),
+              QStringList(QLatin1Char('"') + name + QLatin1String("\"  could not be opened.\n")));
+    EXPECT_EQ(openDescriptors(), descriptors);
+    EXPECT_GT(document.entities().size(), 2);
+    EXPECT_LT(document.entities().size(), 1000);
+    EXPECT_EQ(pointsOf(*document.entities()[2].staticCast<DXFPolyline>()),
+              (QVector<QPointF>{{2, 0.25}, {-1000, 7}}));
+}
+
+TEST_F(DrawingParserTest, FileIsReadUpToAReadError)
+{
+    const std::string text = longDrawing();
+    for (const std::size_t place : {20000U, 200000U, 300000U}) {
+        // The last polyline is not known to be whole.
+        const std::size_t failsAt = text.find("-1e3", place) + 2;
+        const std::string readable = text.substr(0, failsAt);
+        int polylines = -1;
+        for (std::size_t at = 0; (at = readable.find("LWPOLYLINE", at)) != std::string::npos; ++at)
+            ++polylines;
+        for (const int pass : {1, 2}) {
+            const FailingFile file(text, failsAt, pass);
+            DXFDocument document;
+            DXFReader reader(document);
+
+            EXPECT_FALSE(dxfviewer::parseFile(file.file(), reader)) << place << ' ' << pass;
+
+            EXPECT_EQ(document.entities().size(), polylines) << place << ' ' << pass;
+        }
+    }
 }
 
 TEST_F(DrawingParserTest, DamagedFileIsMended)
