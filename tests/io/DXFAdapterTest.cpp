@@ -110,6 +110,30 @@ TEST_F(DXFAdapterTest, LayerLosesItsOffFlagAndHasNoAttributes)
     EXPECT_FALSE(back.off);
 }
 
+TEST_F(DXFAdapterTest, StringsAreConvertedBeyondTheirZeroBytes)
+{
+    const std::string name("a\0\xc3\xa4", 4);
+    const std::string description("\0b", 2);
+    const DL_Attributes record(name, 1, -1, -1, description);
+
+    const auto layer = DXFAdapter::makeLayer(DL_LayerData(name, 0));
+    const auto lineType = DXFAdapter::makeLineType(DL_LinetypeData(name, description, 0, 0, 0.0));
+    const auto attributes = DXFAdapter::makeAttributes(record);
+
+    const QString decodedName = QLatin1Char('a') + QString(QChar()) + QChar(0xe4);
+    const QString decodedDescription = QString(QChar()) + QLatin1Char('b');
+    EXPECT_EQ(layer->name(), decodedName);
+    EXPECT_EQ(DXFAdapter::makeLayer(layer).name, name);
+    EXPECT_EQ(lineType->name(), decodedName);
+    EXPECT_EQ(lineType->description(), decodedDescription);
+    EXPECT_EQ(DXFAdapter::makeLineType(lineType).name, name);
+    EXPECT_EQ(DXFAdapter::makeLineType(lineType).description, description);
+    EXPECT_EQ(attributes->layerName(), decodedName);
+    EXPECT_EQ(attributes->lineType(), decodedDescription);
+    EXPECT_EQ(DXFAdapter::makeAttributes(attributes).getLayer(), name);
+    EXPECT_EQ(DXFAdapter::makeAttributes(attributes).getLinetype(), description);
+}
+
 TEST_F(DXFAdapterTest, PolylineLosesItsNumberAndElevation)
 {
     const auto polyline = DXFAdapter::makePolyline(DL_PolylineData(7, 2, 3, 129, 3.0));

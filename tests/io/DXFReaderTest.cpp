@@ -21,14 +21,6 @@ using namespace dxftest;
 namespace
 {
 
-/// A reader whose current entity a test can replace.
-class TestReader : public DXFReader
-{
-public:
-    using DXFReader::attributes;
-    using DXFReader::DXFReader;
-};
-
 class DXFReaderTest : public LoggedTest
 {
 protected:
@@ -50,7 +42,7 @@ protected:
 
     QTemporaryDir folder;
     DXFDocument document;
-    TestReader reader{document};
+    DXFReader reader{document};
 };
 
 std::vector<Group> lwpolyline(const std::string& layer)
@@ -342,6 +334,22 @@ TEST_F(DXFReaderTest, CurrentPolylineOutlivesALoad)
     EXPECT_EQ(document.entities()[0], document.entities()[1]);
 }
 
+TEST_F(DXFReaderTest, VerticesOfOneLoadDoNotShowUpInTheNext)
+{
+    const std::string full = drawingOf(lwpolyline("a"));
+    const std::string bare = drawingOf({{0, "LWPOLYLINE"}});
+
+    ASSERT_TRUE(reader.load(QByteArray::fromStdString(full)));
+    ASSERT_TRUE(reader.load(QByteArray::fromStdString(bare)));
+    ASSERT_TRUE(reader.load(fileWith(full)));
+    ASSERT_TRUE(reader.load(fileWith(bare)));
+
+    ASSERT_EQ(document.entities().size(), 4);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(document.entities()[i].staticCast<DXFPolyline>()->vertexNumber(),
+                  i % 2 == 0 ? 3 : 0);
+}
+
 TEST_F(DXFReaderTest, ImportGivesDxflibsDefaultsAtFirst)
 {
     const auto entity = QSharedPointer<OtherEntity>::create();
@@ -478,6 +486,24 @@ TEST_F(DXFReaderTest, SomeDroppedRecordsAreLoggedWithValues)
                  [this] { reader.setVariableInt("$A", -5, 70); });
     expectLogged("setVariableDouble \"$B\" \"1.23457\" \"40\"",
                  [this] { reader.setVariableDouble("$B", 1.23456789, 40); });
+}
+
+TEST_F(DXFReaderTest, LoggedTextsAreUtf8)
+{
+    reader.addBlock(DL_BlockData("T\xc3\xa4r", 0, 0, 0, 0));
+    reader.addTextStyle(DL_StyleData("Schr\xc3\xa4g", 0, 0, 0, 0, 0, 0, "", ""));
+    reader.addDictionary(DL_DictionaryData("\xc3\xa4"));
+    reader.addDictionaryEntry(DL_DictionaryEntryData("L\xc3\xa4nge", "\xc3\xa4"));
+    reader.setVariableInt("$\xc3\xa4", 1, 70);
+    reader.setVariableDouble("$\xc3\xa4", 0.5, 40);
+
+    EXPECT_EQ(takeDebugMessages(),
+              (QStringList{QString::fromUtf8("addBlock \"T\xc3\xa4r\""),
+                           QString::fromUtf8("addTextStyle \"Schr\xc3\xa4g\""),
+                           QString::fromUtf8("addDictionary \"\xc3\xa4\""),
+                           QString::fromUtf8("addDictionaryEntry \"L\xc3\xa4nge\" \"\xc3\xa4\""),
+                           QString::fromUtf8("setVariableInt \"$\xc3\xa4\" \"1\" \"70\""),
+                           QString::fromUtf8("setVariableDouble \"$\xc3\xa4\" \"0.5\" \"40\"")}));
 }
 
 TEST_F(DXFReaderTest, SomeRecordsAreDroppedSilently)
