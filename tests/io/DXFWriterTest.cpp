@@ -16,8 +16,12 @@
 #include "tests/support/OtherEntity.h"
 
 #include <QTemporaryDir>
+#if __has_include(<QTextCodec>)
+#include <QTextCodec>
+#endif
 
 #include <csignal>
+#include <filesystem>
 #include <memory>
 #include <sys/resource.h>
 
@@ -78,6 +82,25 @@ private:
     QByteArray m_old;
 };
 
+#if __has_include(<QTextCodec>)
+/// Sets the local encoding of file names while it lives.
+class LocalEncoding
+{
+public:
+    explicit LocalEncoding(const char* name)
+        : m_codec(QTextCodec::codecForLocale())
+    {
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName(name));
+    }
+    ~LocalEncoding() { QTextCodec::setCodecForLocale(m_codec); }
+
+private:
+    Q_DISABLE_COPY(LocalEncoding)
+
+    QTextCodec* m_codec;
+};
+#endif
+
 const char* const emptyDrawing = "999\ndxflib 3.26.4.0\n"
                                  "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1009\n"
                                  "  0\nENDSEC\n"
@@ -90,6 +113,27 @@ const char* const emptyDrawing = "999\ndxflib 3.26.4.0\n"
                                  "  0\nENDTAB\n  0\nENDSEC\n"
                                  "  0\nSECTION\n  2\nBLOCKS\n  0\nENDSEC\n"
                                  "  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n";
+
+QByteArray contentOf(const QString& name)
+{
+    QFile file(name);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+void writeEveryPart(DXFWriter& writer)
+{
+    writer.writeHeader();
+    writer.writeVPORT_table();
+    writer.writeLineType_table();
+    writer.writeTextStyle_table();
+    writer.writeUserCS_table();
+    writer.writeVIEW_table();
+    writer.writeDIMSTYLE_table();
+    writer.writeLAYER_table();
+    writer.writeAPPID_table();
+    writer.writeEntities_section();
+}
 
 class DXFWriterTest : public LoggedTest
 {
@@ -140,6 +184,17 @@ TEST_F(DXFWriterTest, DefaultsAreNotAddedTwice)
                                        "  3\nSolid line\n 72\n65\n 73\n0\n 40\n0.0\n");
     EXPECT_EQ(part("LAYER", "ENDTAB"),
               "  2\nLAYER\n 70\n1\n  0\nLAYER\n  2\n0\n 70\n0\n 62\n5\n  6\nCONTINUOUS\n");
+}
+
+TEST_F(DXFWriterTest, DefaultLineTypeIsMissingUnderAnyOtherCase)
+{
+    addLineType("Continuous", 0, nullptr);
+
+    EXPECT_EQ(part("LTYPE", "ENDTAB"), "  2\nLTYPE\n 70\n2\n  0\nLTYPE\n  2\nCONTINUOUS\n 70\n0\n"
+                                       "  3\nSolid line\n 72\n65\n 73\n0\n 40\n0.0\n"
+                                       "  0\nLTYPE\n  2\nContinuous\n 70\n0\n"
+                                       "  3\nSolid line\n 72\n65\n 73\n0\n 40\n0.0\n");
+    EXPECT_EQ(document.lineTypes().size(), 1);
 }
 
 TEST_F(DXFWriterTest, DefaultLayerStandsBeforeTheOthers)
@@ -239,9 +294,7 @@ TEST_F(DXFWriterTest, FileHoldsTheSavedBytes)
 
     EXPECT_FALSE(writer.save(name));
 
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray content = file.readAll();
+    const QByteArray content = contentOf(name);
     EXPECT_GT(content.size(), 200000);
     EXPECT_TRUE(content == writer.save());
     EXPECT_TRUE(takeDebugMessages().isEmpty());
@@ -269,9 +322,9 @@ TEST_F(DXFWriterTest, BytesAreThoseOfDxflibsOwnWriter)
         file->dxfEOF();
     }
 
-    QFile theirs(name);
-    ASSERT_TRUE(theirs.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(DXFWriter(document).save().endsWith(theirs.readAll()));
+    const QByteArray theirs = contentOf(name);
+    EXPECT_GT(theirs.size(), 20000);
+    EXPECT_TRUE(DXFWriter(document).save().endsWith(theirs));
 }
 
 TEST_F(DXFWriterTest, SavedDrawingIsReadAgain)
@@ -323,17 +376,30 @@ TEST_F(DXFWriterTest, PartsDoNothingWithoutAFile)
 {
     DXFWriter writer(document);
 
-    writer.writeHeader();
-    writer.writeVPORT_table();
-    writer.writeLineType_table();
-    writer.writeTextStyle_table();
-    writer.writeUserCS_table();
-    writer.writeVIEW_table();
-    writer.writeDIMSTYLE_table();
-    writer.writeLAYER_table();
-    writer.writeAPPID_table();
-    writer.writeEntities_section();
+    writeEveryPart(writer);
 
+    EXPECT_TRUE(takeDebugMessages().isEmpty());
+}
+
+TEST_F(DXFWriterTest, PartsDoNothingAfterASave)
+{
+    addManyPolylines();
+    const QString name = folder.filePath(QStringLiteral("a.dxf"));
+    QByteArray written;
+    {
+        DXFWriter writer(document);
+        writer.save(name);
+        written = contentOf(name);
+
+        writeEveryPart(writer);
+
+        EXPECT_TRUE(contentOf(name) == written);
+        EXPECT_TRUE(writer.save() == written);
+
+        writer.save(name);
+        writeEveryPart(writer);
+    }
+    EXPECT_TRUE(contentOf(name) == written);
     EXPECT_TRUE(takeDebugMessages().isEmpty());
 }
 
@@ -376,6 +442,32 @@ TEST_F(DXFWriterTest, UnusableTemporaryFolderIsReported)
         EXPECT_TRUE(messages.first().startsWith(QStringLiteral("\"DXFWriter: Cannot open ")));
     }
 }
+
+#if __has_include(<QTextCodec>)
+// From Qt 6 on the local encoding is UTF-8 wherever this runs.
+TEST_F(DXFWriterTest, FileNameIsLocalWhereTheReaderTakesUtf8)
+{
+    addManyPolylines(3);
+    const QString name = folder.filePath(QString::fromUtf8("\xc3\xbc.dxf"));
+    const std::filesystem::path path(folder.path().toStdString());
+    const LocalEncoding encoding("ISO-8859-1");
+
+    DXFWriter(document).save(name);
+
+    ASSERT_TRUE(std::filesystem::exists(path / "\xfc.dxf"));
+    EXPECT_FALSE(std::filesystem::exists(path / "\xc3\xbc.dxf"));
+    EXPECT_TRUE(takeDebugMessages().isEmpty());
+
+    DXFDocument again;
+    EXPECT_FALSE(DXFReader(again).load(name));
+    EXPECT_EQ(takeDebugMessages(),
+              QStringList(QLatin1Char('"') + name + QLatin1String("\"  could not be opened.\n")));
+
+    std::filesystem::rename(path / "\xfc.dxf", path / "\xc3\xbc.dxf");
+    EXPECT_TRUE(DXFReader(again).load(name));
+    EXPECT_EQ(again.entities().size(), 3);
+}
+#endif
 
 TEST_F(DXFWriterTest, LocaleHasNoSay)
 {
