@@ -5,6 +5,7 @@
 #include "tests/support/LoggedTest.h"
 
 #include <limits>
+#include <utility>
 
 using namespace dxftest;
 
@@ -66,13 +67,28 @@ TEST_F(DXFAttributesTest, StringHasZeroOutsidePaperSpace)
 
 TEST_F(DXFAttributesTest, StringHasTheScaleInItsShortForm)
 {
-    for (double scale : {1e-7, 0.25, 1234567.0, 1e20, 0.1 + 0.2}) {
+    const std::pair<double, const char*> forms[] = {{1e-7, "1e-07"},
+                                                    {0.25, "0.25"},
+                                                    {1234567.0, "1.23457e+06"},
+                                                    {1e20, "1e+20"},
+                                                    {0.1 + 0.2, "0.3"}};
+    for (const auto& [scale, form] : forms) {
         const DXFAttributes attributes(QString(), 0, 0, 0, QString(), scale, 0, false);
 
         EXPECT_TRUE(attributes.toString().contains(
-            QStringLiteral("linetypescale: %1, handle").arg(scale, 0, 'g', -1)))
-            << scale;
+            QStringLiteral("linetypescale: %1, handle").arg(QLatin1String(form))))
+            << form;
     }
+}
+
+TEST_F(DXFAttributesTest, PlaceholdersInNamesAreFilledWithTheValuesThatFollow)
+{
+    const DXFAttributes attributes(QStringLiteral("%2"), 3, -1, 25, QStringLiteral("%6 %8"), 2.5,
+                                   31, true);
+
+    EXPECT_EQ(attributes.toString(),
+              QStringLiteral("[ATTRIBUTE layerName: 3, color: 3, color24: -1, width: 25, "
+                             "linetype: 2.5 1, linetypescale: 2.5, handle: 31, inpaperspace 1]"));
 }
 
 } // namespace

@@ -36,6 +36,24 @@ QSharedPointer<DXFLineType> makeLineType(const QString& name)
     return QSharedPointer<DXFLineType>::create(name, QString(), 0, 0, 0.0, nullptr);
 }
 
+/// Takes down what has been resolved whenever it is set up.
+class RecordingEntity : public OtherEntity
+{
+public:
+    void setup() override
+    {
+        m_colors.append(color());
+        m_widths.append(lineWidth());
+    }
+
+    const QVector<QColor>& colors() const { return m_colors; }
+    const QVector<int>& widths() const { return m_widths; }
+
+private:
+    QVector<QColor> m_colors;
+    QVector<int> m_widths;
+};
+
 class DXFDocumentTest : public LoggedTest
 {
 protected:
@@ -469,6 +487,18 @@ TEST_F(DXFDocumentTest, SetupResolvesTheWidthBeforeTheColour)
 
     EXPECT_EQ(openPolyline->color(), QColor(Qt::black));
     EXPECT_EQ(openPolyline->lineWidth(), 1);
+}
+
+TEST_F(DXFDocumentTest, EntityIsSetUpWithItsColourAndWidth)
+{
+    const auto recording = QSharedPointer<RecordingEntity>::create();
+    recording->setAttributes(makeAttributes(QStringLiteral("0"), 1, -1, 25));
+    document->addEntity(recording);
+
+    document->setup();
+
+    EXPECT_THAT(recording->colors(), ElementsAre(QColor(Qt::darkRed)));
+    EXPECT_THAT(recording->widths(), ElementsAre(1));
 }
 
 TEST_F(DXFDocumentTest, SecondSetupDoesNothing)

@@ -105,6 +105,13 @@ TEST_F(DXFLayerTest, StringHasTheFlagsInLowerCaseHex)
     EXPECT_EQ(layerWithFlags(255).toString(), QStringLiteral("[LAYER name: Walls, flags: ff]"));
 }
 
+TEST_F(DXFLayerTest, StringTakesNothingForAPlaceholder)
+{
+    const DXFLayer layer(QStringLiteral("%2"), DXFLayer::Locked);
+
+    EXPECT_EQ(layer.toString(), QStringLiteral("[LAYER name: %2, flags: 4]"));
+}
+
 TEST_F(DXFLayerTest, StringHasTheFlagsUnsigned)
 {
     EXPECT_EQ(layerWithFlags(-1).toString(),

@@ -7,6 +7,7 @@
 #include <QSharedPointer>
 
 #include <limits>
+#include <utility>
 
 using namespace dxftest;
 
@@ -90,11 +91,24 @@ TEST_F(DXFLineTypeTest, StringSaysPresentForAnyPattern)
 
 TEST_F(DXFLineTypeTest, StringTakesNothingForAPlaceholder)
 {
-    const DXFLineType lineType(QStringLiteral("A"), QStringLiteral("100%"), 0, 0, 1.0, nullptr);
+    const DXFLineType lineType(QStringLiteral("%2"), QStringLiteral("%3 %1"), 0, 0, 1.0, nullptr);
 
     EXPECT_EQ(lineType.toString(),
-              QStringLiteral("[LTYPE name: A, description: 100%, flags: 0, numberOfDashes: 0, "
+              QStringLiteral("[LTYPE name: %2, description: %3 %1, flags: 0, numberOfDashes: 0, "
                              "patternLength: 1, pattern: NULL]"));
+}
+
+TEST_F(DXFLineTypeTest, StringHasThePatternLengthInItsShortForm)
+{
+    const std::pair<double, const char*> forms[] = {
+        {1234567.0, "1.23457e+06"}, {0.1 + 0.2, "0.3"}, {-1e-7, "-1e-07"}};
+    for (const auto& [length, form] : forms) {
+        const DXFLineType lineType(QString(), QString(), 0, 0, length, nullptr);
+
+        EXPECT_TRUE(lineType.toString().contains(
+            QStringLiteral("patternLength: %1, pattern:").arg(QLatin1String(form))))
+            << form;
+    }
 }
 
 TEST_F(DXFLineTypeTest, StringHasNegativeFlagsWithAMinusSign)

@@ -378,6 +378,27 @@ TEST_F(DXFPolylineTest, HoveringAssignsMissingIds)
     EXPECT_THAT(segmentIdsOf(polyline), ElementsAre(highest + 1, highest + 2));
 }
 
+TEST_F(DXFPolylineTest, MissingIdsAreAssignedInOrderAlsoOnceTheListIsNoLongerShared)
+{
+    const QVector<QLineF> lines{QLineF(a, b), QLineF(b, c), QLineF(c, a), QLineF(a, c)};
+    for (const int selected : {-1, 0, 1, 2, 3}) {
+        QVector<Segment> chain = chainOf(lines);
+        if (selected >= 0)
+            chain[selected].setSelected(true);
+        const auto shared = chain;
+        DXFPolyline polyline(0, 0, 0);
+        polyline.setSegments(chain);
+        const int highest = highestId();
+
+        polyline.setSelectedSegments({});
+
+        EXPECT_THAT(segmentIdsOf(polyline),
+                    ElementsAre(highest + 1, highest + 2, highest + 3, highest + 4))
+            << selected;
+        EXPECT_EQ(polyline.segments().constData() == shared.constData(), selected < 0);
+    }
+}
+
 TEST_F(DXFPolylineTest, SelectingWhatIsSelectedKeepsTheListShared)
 {
     const auto polyline = makePolyline({a, b, c});

@@ -5,6 +5,9 @@
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
 
+#include <cstdlib>
+#include <iostream>
+
 using namespace dxftest;
 
 namespace
@@ -13,6 +16,8 @@ namespace
 class IDeletableTest : public LoggedTest
 {
 };
+
+using IDeletableDeathTest = IDeletableTest;
 
 TEST_F(IDeletableTest, StartsNeitherSelectedNorHovered)
 {
@@ -52,6 +57,20 @@ TEST_F(IDeletableTest, FirstQuestionForTheIdAssignsTheNextOne)
 TEST_F(IDeletableTest, IdsAreAtLeastOne)
 {
     EXPECT_GE(IDeletable().id(), 1);
+}
+
+// In a process of its own, which runs this test alone.
+TEST_F(IDeletableDeathTest, FirstIdOfAProcessIsOne)
+{
+    ::testing::GTEST_FLAG(death_test_style) = "threadsafe";
+
+    EXPECT_EXIT(
+        {
+            const IDeletable first;
+            std::cerr << "first id " << first.id() << ", second " << IDeletable().id() << std::endl;
+            std::_Exit(EXIT_SUCCESS);
+        },
+        ::testing::ExitedWithCode(EXIT_SUCCESS), "first id 1, second 2\n");
 }
 
 TEST_F(IDeletableTest, ConstructionAssignsNoId)
