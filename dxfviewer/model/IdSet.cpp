@@ -11,10 +11,10 @@ namespace
 {
 
 // A set of bits up to this span, a megabyte, is small enough to be made for every mouse move.
-constexpr size_t freeSpan = size_t(1) << 23;
+constexpr quint64 freeSpan = quint64(1) << 23;
 
 // Beyond that the bits may take this many times the number of ids, which keeps memory linear.
-constexpr size_t spanPerId = 64;
+constexpr quint64 spanPerId = 64;
 
 } // namespace
 
@@ -27,9 +27,10 @@ IdSet::IdSet(const QVector<int>& ids)
     m_first = static_cast<unsigned>(*least);
     m_last = static_cast<unsigned>(*greatest) - m_first;
 
-    const size_t span = size_t(m_last) + 1;
-    if (span <= std::max(freeSpan, spanPerId * static_cast<size_t>(ids.size()))) {
-        m_bits.resize(span);
+    // That of all ints would not fit into 32 bits.
+    const quint64 span = quint64(m_last) + 1;
+    if (span <= std::max(freeSpan, spanPerId * static_cast<quint64>(ids.size()))) {
+        m_bits.resize(static_cast<size_t>(span));
         for (int id : ids)
             m_bits[static_cast<unsigned>(id) - m_first] = true;
         return;
