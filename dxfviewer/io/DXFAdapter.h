@@ -36,12 +36,16 @@ public:
 
     /// The off flag is dropped; the new layer has no attributes.
     static QSharedPointer<DXFLayer> makeLayer(const DL_LayerData& data);
+    /// The attributes are dropped; the layer is on.
     static DL_LayerData makeLayer(QSharedPointer<DXFLayer> layer);
 
     /// The number of vertices and the elevation are dropped; the new polyline is empty.
     static QSharedPointer<DXFPolyline> makePolyline(const DL_PolylineData& data);
+    /// The vertices are only counted, the attributes dropped; the elevation is 0.
     static DL_PolylineData makePolyline(QSharedPointer<DXFPolyline> polyline);
 
+    /// Nothing is dropped; the vertex's flag is set.
     static DXFVertex makeVertex(const DL_VertexData& data);
+    /// The flag is dropped.
     static DL_VertexData makeVertex(DXFVertex vertex);
 };

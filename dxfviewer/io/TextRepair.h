@@ -18,8 +18,10 @@ namespace dxfviewer
  *   record before.
  * - A comment goes that dxflib cannot read.
  *
- * Everything else stays, in its order. The result is sound (see TextCheck), at most three times as
- * long, and equal to a text that was sound, but that its last line is ended.
+ * Everything else stays, in its order. The result is sound (see TextCheck) and at most three times
+ * as long. A text that was sound changes only at its end: a value without line feed gets one, a
+ * code without value gets an empty one, and a code without line feed, which dxflib does not read,
+ * goes.
  */
 std::string repaired(std::string_view text);
 

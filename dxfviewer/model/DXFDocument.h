@@ -21,7 +21,8 @@ class DeleteItems;
  *
  * It is always held through a QSharedPointer: the graphics item, the eraser and every done delete
  * command share it. The lists that it returns are copies that point at the same objects; copying
- * them is cheap. A null entity is allowed and passed over by every walk. GUI thread only.
+ * them is cheap. Layers and line types are found by the name that they had when they were added.
+ * A null entity is allowed and passed over by every walk. GUI thread only.
  */
 class DXFVIEWER_EXPORT DXFDocument
 {
@@ -84,7 +85,7 @@ private:
     QList<QSharedPointer<DXFLineType>> m_lineTypes;
     QList<QSharedPointer<DXFEntity>> m_entities;
     bool m_needsSetup = true;
-    // The lists again, by name. Names never change once an object is made.
+    // The lists again, by the names of the time of adding.
     QHash<QString, QSharedPointer<DXFLayer>> m_layersByName;
     QHash<QString, QSharedPointer<DXFLineType>> m_lineTypesByName;
 };
