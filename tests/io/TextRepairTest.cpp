@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 using namespace dxftest;
 using dxfviewer::isSound;
@@ -147,6 +148,17 @@ TEST(TextRepairTest, MissingLastValueIsOnlyForTheStreamForm)
 
     EXPECT_TRUE(check.isSound());
     EXPECT_FALSE(check.isSoundInFile());
+}
+
+TEST(TextRepairTest, SoundTextChangesOnlyAtItsEnd)
+{
+    const std::string text = drawingOf({{0, "LINE"}});
+    for (const auto& [end, repairedEnd] :
+         {std::pair("999\nx", "999\nx\n"), std::pair("999\n", "999\n\n"), std::pair("999", ""),
+          std::pair("\n", "\n\n")}) {
+        EXPECT_TRUE(isSound(text + end)) << end;
+        EXPECT_EQ(repaired(text + end), text + repairedEnd) << end;
+    }
 }
 
 TEST(TextRepairTest, LineIsNotCutInsideAUtf8Sequence)
