@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 {
     BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libdxflib-dev)
     QT5_PACKAGES=(qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev)
-    QT6_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6-dev
+    QT6_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev
         libgl1-mesa-dev)
     DEBIAN_PACKAGES=(file dpkg-dev fakeroot)
     TEST_PACKAGES=(libgtest-dev libgmock-dev xvfb xauth locales fonts-dejavu-core
