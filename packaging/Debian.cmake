@@ -9,7 +9,7 @@ if(DXFVIEWER_QT_SUFFIX)
     set(development_package libdxfviewer${DXFVIEWER_QT_SUFFIX}-dev)
     set(qt_development_package qt${DXFVIEWER_QT_MAJOR}-base-dev)
 endif()
-set(host_package dxfviewer-host${DXFVIEWER_QT_SUFFIX})
+set(app_package dxfviewer${DXFVIEWER_QT_SUFFIX})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME dxfviewer)
@@ -17,8 +17,8 @@ set(CPACK_PACKAGE_CONTACT "DXFViewer maintainers <maintainers@dxfviewer.example>
 set(CPACK_PACKAGING_INSTALL_PREFIX "${CMAKE_INSTALL_PREFIX}")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL runtime development)
-if(DXFVIEWER_BUILD_EXAMPLES)
-    list(APPEND CPACK_COMPONENTS_ALL host)
+if(DXFVIEWER_BUILD_APP)
+    list(APPEND CPACK_COMPONENTS_ALL app)
 endif()
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -56,10 +56,10 @@ This package holds what is needed to build programs with the library: the
 headers and the files by which CMake and pkg-config find it.
 ${about}")
 
-set(CPACK_DEBIAN_HOST_PACKAGE_NAME ${host_package})
-set(CPACK_DEBIAN_HOST_PACKAGE_SECTION graphics)
-set(CPACK_DEBIAN_HOST_PACKAGE_DEPENDS "${library_package} ${this_version}")
-set(CPACK_DEBIAN_HOST_DESCRIPTION
+set(CPACK_DEBIAN_APP_PACKAGE_NAME ${app_package})
+set(CPACK_DEBIAN_APP_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_APP_PACKAGE_DEPENDS "${library_package} ${this_version}")
+set(CPACK_DEBIAN_APP_DESCRIPTION
 "small viewer and eraser for DXF drawings (Qt ${DXFVIEWER_QT_MAJOR})
 This program opens drawings in the DXF format, shows them, and lets the user
 erase parts of them. It is the example of how a program embeds the library.")

@@ -62,21 +62,21 @@ install_packages() {
         "${missing[@]}" >/dev/null || die "the packages could not be installed"
 }
 
-# build_host: builds the example host and sets HOST to its path.
-build_host() {
+# build_app: builds the program and sets PROGRAM to its path.
+build_app() {
     install_packages "${BUILD_PACKAGES[@]}" "${QT5_PACKAGES[@]}"
-    step "Building the example host in build/run"
+    step "Building the program in build/run"
     cmake -S . -B build/run -G Ninja -DCMAKE_BUILD_TYPE=Release -DDXFVIEWER_BUILD_TESTS=OFF ||
         die "the configuration failed"
-    cmake --build build/run --target dxfviewer_host || die "the build failed"
+    cmake --build build/run --target dxfviewer_app || die "the build failed"
     # shellcheck disable=SC2034
-    HOST=$PWD/build/run/examples/host/dxfviewer-host
+    PROGRAM=$PWD/build/run/app/dxfviewer
 }
 
-# photograph PICTURE DRAWING [STROKES]: shows the drawing in the host that build_host has built, on
+# photograph PICTURE DRAWING [STROKES]: shows the drawing in the program that build_app has built, on
 # a display of its own, and takes a picture of the window.
 photograph() {
     install_packages "${DISPLAY_PACKAGES[@]}"
     xvfb-run --auto-servernum --server-args='-screen 0 1280x960x24' \
-        scripts/photograph "$HOST" "$@" || die "the window could not be photographed"
+        scripts/photograph "$PROGRAM" "$@" || die "the window could not be photographed"
 }

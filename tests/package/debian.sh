@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds the Debian packages, has lintian look at them, installs them into an empty root and runs
-# the host from there.
+# the program from there.
 #
 # usage: debian.sh CMAKE SOURCE_FOLDER BUILD_FOLDER QT_MAJOR COMPILER
 set -eu
@@ -44,15 +44,15 @@ rm -rf "$build/packages" "$root"
 (cd "$build" && "$(dirname "$cmake")/cpack" -B "$build/packages")
 
 library=libdxfviewer${suffix:+$suffix-}0
-for package in "$library" "libdxfviewer$suffix-dev" "dxfviewer-host$suffix"; do
+for package in "$library" "libdxfviewer$suffix-dev" "dxfviewer$suffix"; do
     echo "$package: $(field "$package" Depends)"
 done
 field "$library" Depends | grep -q "libdxflib" || fail "$library does not depend on dxflib"
 field "$library" Depends | grep -Eq "libqt${qt_major}widgets" || fail "$library does not depend on Qt"
 field "libdxfviewer$suffix-dev" Depends | grep -q "$library (= " ||
     fail "the development package does not depend on this very library"
-field "dxfviewer-host$suffix" Depends | grep -q "$library (= " ||
-    fail "the host does not depend on this very library"
+field "dxfviewer$suffix" Depends | grep -q "$library (= " ||
+    fail "the program does not depend on this very library"
 
 run_if_there lintian --allow-root --fail-on error "$build"/packages/*.deb
 
@@ -74,7 +74,7 @@ run_if_there desktop-file-validate "$root"/usr/share/applications/*.desktop
 run_if_there appstreamcli validate --no-net "$root"/usr/share/metainfo/*.xml
 
 libraries=$(dirname "$(find "$root/usr/lib" -name "libdxfviewer$suffix.so.0")")
-host=$root/usr/bin/dxfviewer-host$suffix
-LD_LIBRARY_PATH=$libraries "$host" --picture "$build/picture.svg" "$source/samples/floor-plan.dxf"
-LD_LIBRARY_PATH=$libraries LC_ALL=C.UTF-8 LANGUAGE=de "$host" --help | grep -q DXF-Zeichnungen ||
-    fail "the installed host does not find its translations"
+program=$root/usr/bin/dxfviewer$suffix
+LD_LIBRARY_PATH=$libraries "$program" --picture "$build/picture.svg" "$source/samples/floor-plan.dxf"
+LD_LIBRARY_PATH=$libraries LC_ALL=C.UTF-8 LANGUAGE=de "$program" --help | grep -q DXF-Zeichnungen ||
+    fail "the installed program does not find its translations"

@@ -101,10 +101,9 @@ INSTANTIATE_TEST_SUITE_P(, TranslationsTest,
                          Combine(Values(FileSet{"Library", "dxfviewer", "dxfviewer"}), languages),
                          testName);
 
-#ifdef DXFVIEWER_HAS_HOST
-INSTANTIATE_TEST_SUITE_P(Host, TranslationsTest,
-                         Combine(Values(FileSet{"Host", "dxfviewer-host", "examples/host"}),
-                                 languages),
+#ifdef DXFVIEWER_HAS_APP
+INSTANTIATE_TEST_SUITE_P(App, TranslationsTest,
+                         Combine(Values(FileSet{"App", "dxfviewer-app", "app"}), languages),
                          testName);
 #endif
 

@@ -1,23 +1,23 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ja" sourcelanguage="en">
+<TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
-        <translation>編集モードで起動します。</translation>
+        <translation>Im Bearbeitungsmodus starten.</translation>
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>図面の画像を FILE（.png、.svg、.pdf）に書き込んで終了します。</translation>
+        <translation>Ein Bild der Zeichnung nach FILE schreiben (.png, .svg oder .pdf) und beenden.</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
-        <translation>DXF 図面を表示し、その一部を消去します。</translation>
+        <translation>Zeigt DXF-Zeichnungen und radiert Teile davon aus.</translation>
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>開く .dxf ファイル。</translation>
+        <translation>Eine .dxf-Datei, die geöffnet wird.</translation>
     </message>
     <message>
         <source>%1
@@ -29,129 +29,129 @@
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>図面を開けません。</translation>
+        <translation>Die Zeichnung kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>読み取れません。</translation>
+        <translation>Sie kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>画像を書き込めません。</translation>
+        <translation>Das Bild kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
-        <translation>DXF ビューアー</translation>
+        <translation>DXF-Betrachter</translation>
     </message>
     <message>
         <source>Only one drawing can be opened.</source>
-        <translation>開ける図面は 1 つだけです。</translation>
+        <translation>Es kann nur eine Zeichnung geöffnet werden.</translation>
     </message>
     <message>
         <source>There is no drawing to make a picture of.</source>
-        <translation>画像にする図面がありません。</translation>
+        <translation>Es ist keine Zeichnung für das Bild angegeben.</translation>
     </message>
 </context>
 <context>
     <name>DrawingFile</name>
     <message>
         <source>The file is empty.</source>
-        <translation>ファイルが空です。</translation>
+        <translation>Die Datei ist leer.</translation>
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>バイナリファイルです。読み取れるのはテキスト形式の DXF だけです。</translation>
+        <translation>Es ist eine binäre Datei. Nur die Textform von DXF kann gelesen werden.</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
-        <translation>DXF 図面ではありません。</translation>
+        <translation>Es ist keine DXF-Zeichnung.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>そのファイルはありません。</translation>
+        <translation>Es gibt keine solche Datei.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation>通常のファイルではありません。</translation>
+        <translation>Es ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>The file is too large.</source>
-        <translation>ファイルが大きすぎます。</translation>
+        <translation>Die Datei ist zu groß.</translation>
     </message>
 </context>
 <context>
-    <name>HostWindow</name>
+    <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation>ファイル(&amp;F)</translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation>開く(&amp;O)…</translation>
+        <translation>Ö&amp;ffnen …</translation>
     </message>
     <message>
         <source>&amp;Save As…</source>
-        <translation>名前を付けて保存(&amp;S)…</translation>
+        <translation>Speichern &amp;unter …</translation>
     </message>
     <message>
         <source>Export &amp;Picture…</source>
-        <translation>画像をエクスポート(&amp;P)…</translation>
+        <translation>&amp;Bild exportieren …</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>終了(&amp;Q)</translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>編集(&amp;E)</translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>元に戻す</translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>やり直し</translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>図面を開けません。</translation>
+        <translation>Die Zeichnung kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>読み取れません。</translation>
+        <translation>Sie kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>この図面にはポリラインがないため、何も表示されません。</translation>
+        <translation>Diese Zeichnung enthält keine Polylinien, daher ist nichts zu sehen.</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation>開く</translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
-        <translation>DXF 図面 (*.dxf *.DXF)</translation>
+        <translation>DXF-Zeichnungen (*.dxf *.DXF)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation>すべてのファイル (*)</translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation>名前を付けて保存</translation>
+        <translation>Speichern unter</translation>
     </message>
     <message>
         <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>図面を一時ファイルに書き込めませんでした。一時ファイルのフォルダーがいっぱいの可能性があります。</translation>
+        <translation>Die Zeichnung konnte nicht in eine temporäre Datei geschrieben werden. Vielleicht ist der Ordner für temporäre Dateien voll.</translation>
     </message>
     <message>
         <source>The drawing cannot be saved.</source>
-        <translation>図面を保存できません。</translation>
+        <translation>Die Zeichnung kann nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Replace the drawing that was opened?</source>
-        <translation>開いた図面を置き換えますか？</translation>
+        <translation>Die geöffnete Zeichnung ersetzen?</translation>
     </message>
     <message>
         <source>%1
@@ -159,46 +159,46 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-保存されるのは画層、線種、ポリラインだけです。ファイル内のそれ以外のもの（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。一度でも消去すると、閉じたポリラインは閉じる辺を失い、ポリラインの円弧部分は直線になります。</translation>
+Nur Layer, Linientypen und Polylinien werden gespeichert. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihre Schlusskante, und Bögen in Polylinien werden gerade.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation>置き換える</translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>%1 pictures (*.%2)</source>
-        <translation>%1 画像 (*.%2)</translation>
+        <translation>%1-Bilder (*.%2)</translation>
     </message>
     <message>
         <source>Export Picture</source>
-        <translation>画像をエクスポート</translation>
+        <translation>Bild exportieren</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>画像を書き込めません。</translation>
+        <translation>Das Bild kann nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>No drawing</source>
-        <translation>図面なし</translation>
+        <translation>Keine Zeichnung</translation>
     </message>
     <message>
         <source>Save the edited drawing?</source>
-        <translation>編集した図面を保存しますか？</translation>
+        <translation>Die bearbeitete Zeichnung speichern?</translation>
     </message>
 </context>
 <context>
     <name>Picture</name>
     <message>
         <source>The name of a picture must end in .png, .svg or .pdf.</source>
-        <translation>画像の名前は .png、.svg、.pdf のいずれかで終わる必要があります。</translation>
+        <translation>Der Name eines Bildes muss auf .png, .svg oder .pdf enden.</translation>
     </message>
     <message>
         <source>The drawing&apos;s coordinates are too large for a picture.</source>
-        <translation>図面の座標が画像には大きすぎます。</translation>
+        <translation>Die Koordinaten der Zeichnung sind für ein Bild zu groß.</translation>
     </message>
     <message>
         <source>There is not enough memory for the picture.</source>
-        <translation>画像用のメモリが足りません。</translation>
+        <translation>Der Speicher reicht für das Bild nicht aus.</translation>
     </message>
 </context>
 </TS>

@@ -17,7 +17,7 @@ QStringList folders()
 {
     const QString program = QCoreApplication::applicationDirPath() + QLatin1Char('/');
     QStringList found;
-    for (const char* fromProgram : {DXFVIEWER_HOST_TRANSLATIONS})
+    for (const char* fromProgram : {DXFVIEWER_APP_TRANSLATIONS})
         found += program + QLatin1String(fromProgram);
     return found;
 }
@@ -40,5 +40,5 @@ void installTranslations(QCoreApplication& application)
 {
     install(application, QStringLiteral("qtbase"), {qtTranslationsFolder()});
     install(application, QStringLiteral("dxfviewer"), folders());
-    install(application, QStringLiteral("dxfviewer-host"), folders());
+    install(application, QStringLiteral("dxfviewer-app"), folders());
 }

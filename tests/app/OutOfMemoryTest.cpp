@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-#include "HostWindow.h"
+#include "MainWindow.h"
 #include "ViewerParts.h"
 
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/viewer/DXFViewer.h"
-#include "tests/host/DialogRobot.h"
+#include "tests/app/DialogRobot.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
@@ -38,9 +38,9 @@ QByteArray longPolyline()
     return text + "0\nENDSEC\n0\nEOF\n";
 }
 
-using HostOutOfMemoryTest = LoggedTest;
+using ProgramOutOfMemoryTest = LoggedTest;
 
-TEST_F(HostOutOfMemoryTest, ADrawingThatCannotBeReadGivesABoxAndLeavesThePicture)
+TEST_F(ProgramOutOfMemoryTest, ADrawingThatCannotBeReadGivesABoxAndLeavesThePicture)
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("long.dxf")));
@@ -48,7 +48,7 @@ TEST_F(HostOutOfMemoryTest, ADrawingThatCannotBeReadGivesABoxAndLeavesThePicture
     file.write(longPolyline());
     file.close();
     DialogRobot robot;
-    HostWindow window;
+    MainWindow window;
     window.show();
     window.openDrawing(file.fileName());
     const auto& viewer = *window.findChild<DXFViewer*>();

@@ -1,23 +1,23 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="fr" sourcelanguage="en">
+<TS version="2.1" language="ja" sourcelanguage="en">
 <context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
-        <translation>Démarrer en mode d’édition.</translation>
+        <translation>編集モードで起動します。</translation>
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>Écrire une image du dessin dans FILE (.png, .svg ou .pdf) et quitter.</translation>
+        <translation>図面の画像を FILE（.png、.svg、.pdf）に書き込んで終了します。</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
-        <translation>Affiche des dessins DXF et en efface des parties.</translation>
+        <translation>DXF 図面を表示し、その一部を消去します。</translation>
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>Un fichier .dxf à ouvrir.</translation>
+        <translation>開く .dxf ファイル。</translation>
     </message>
     <message>
         <source>%1
@@ -29,129 +29,129 @@
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>Impossible d’ouvrir le dessin.</translation>
+        <translation>図面を開けません。</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Il ne peut pas être lu.</translation>
+        <translation>読み取れません。</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Impossible d’écrire l’image.</translation>
+        <translation>画像を書き込めません。</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
-        <translation>Visionneuse DXF</translation>
+        <translation>DXF ビューアー</translation>
     </message>
     <message>
         <source>Only one drawing can be opened.</source>
-        <translation>Un seul dessin peut être ouvert.</translation>
+        <translation>開ける図面は 1 つだけです。</translation>
     </message>
     <message>
         <source>There is no drawing to make a picture of.</source>
-        <translation>Aucun dessin n’est donné pour l’image.</translation>
+        <translation>画像にする図面がありません。</translation>
     </message>
 </context>
 <context>
     <name>DrawingFile</name>
     <message>
         <source>The file is empty.</source>
-        <translation>Le fichier est vide.</translation>
+        <translation>ファイルが空です。</translation>
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>C’est un fichier binaire. Seule la forme texte de DXF peut être lue.</translation>
+        <translation>バイナリファイルです。読み取れるのはテキスト形式の DXF だけです。</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
-        <translation>Ce n’est pas un dessin DXF.</translation>
+        <translation>DXF 図面ではありません。</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>Ce fichier n’existe pas.</translation>
+        <translation>そのファイルはありません。</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation>Ce n’est pas un fichier ordinaire.</translation>
+        <translation>通常のファイルではありません。</translation>
     </message>
     <message>
         <source>The file is too large.</source>
-        <translation>Le fichier est trop grand.</translation>
+        <translation>ファイルが大きすぎます。</translation>
     </message>
 </context>
 <context>
-    <name>HostWindow</name>
+    <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation>&amp;Ouvrir…</translation>
+        <translation>開く(&amp;O)…</translation>
     </message>
     <message>
         <source>&amp;Save As…</source>
-        <translation>Enregistrer &amp;sous…</translation>
+        <translation>名前を付けて保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Export &amp;Picture…</source>
-        <translation>Exporter une &amp;image…</translation>
+        <translation>画像をエクスポート(&amp;P)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>É&amp;dition</translation>
+        <translation>編集(&amp;E)</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>Annuler</translation>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Rétablir</translation>
+        <translation>やり直し</translation>
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>Impossible d’ouvrir le dessin.</translation>
+        <translation>図面を開けません。</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Il ne peut pas être lu.</translation>
+        <translation>読み取れません。</translation>
     </message>
     <message>
         <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Ce dessin ne contient aucune polyligne : rien n’est affiché.</translation>
+        <translation>この図面にはポリラインがないため、何も表示されません。</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation>Ouvrir</translation>
+        <translation>開く</translation>
     </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
-        <translation>Dessins DXF (*.dxf *.DXF)</translation>
+        <translation>DXF 図面 (*.dxf *.DXF)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation>Tous les fichiers (*)</translation>
+        <translation>すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation>Enregistrer sous</translation>
+        <translation>名前を付けて保存</translation>
     </message>
     <message>
         <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>Le dessin n’a pas pu être écrit dans un fichier temporaire. Le dossier des fichiers temporaires est peut-être plein.</translation>
+        <translation>図面を一時ファイルに書き込めませんでした。一時ファイルのフォルダーがいっぱいの可能性があります。</translation>
     </message>
     <message>
         <source>The drawing cannot be saved.</source>
-        <translation>Impossible d’enregistrer le dessin.</translation>
+        <translation>図面を保存できません。</translation>
     </message>
     <message>
         <source>Replace the drawing that was opened?</source>
-        <translation>Remplacer le dessin ouvert ?</translation>
+        <translation>開いた図面を置き換えますか？</translation>
     </message>
     <message>
         <source>%1
@@ -159,46 +159,46 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs de polylignes isolées. Dès que quelque chose a été effacé, les polylignes fermées perdent leur côté de fermeture et les arcs des polylignes deviennent droits.</translation>
+保存されるのは画層、線種、ポリラインだけです。ファイル内のそれ以外のもの（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。一度でも消去すると、閉じたポリラインは閉じる辺を失い、ポリラインの円弧部分は直線になります。</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation>Remplacer</translation>
+        <translation>置き換える</translation>
     </message>
     <message>
         <source>%1 pictures (*.%2)</source>
-        <translation>Images %1 (*.%2)</translation>
+        <translation>%1 画像 (*.%2)</translation>
     </message>
     <message>
         <source>Export Picture</source>
-        <translation>Exporter une image</translation>
+        <translation>画像をエクスポート</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Impossible d’écrire l’image.</translation>
+        <translation>画像を書き込めません。</translation>
     </message>
     <message>
         <source>No drawing</source>
-        <translation>Aucun dessin</translation>
+        <translation>図面なし</translation>
     </message>
     <message>
         <source>Save the edited drawing?</source>
-        <translation>Enregistrer le dessin modifié ?</translation>
+        <translation>編集した図面を保存しますか？</translation>
     </message>
 </context>
 <context>
     <name>Picture</name>
     <message>
         <source>The name of a picture must end in .png, .svg or .pdf.</source>
-        <translation>Le nom d’une image doit se terminer par .png, .svg ou .pdf.</translation>
+        <translation>画像の名前は .png、.svg、.pdf のいずれかで終わる必要があります。</translation>
     </message>
     <message>
         <source>The drawing&apos;s coordinates are too large for a picture.</source>
-        <translation>Les coordonnées du dessin sont trop grandes pour une image.</translation>
+        <translation>図面の座標が画像には大きすぎます。</translation>
     </message>
     <message>
         <source>There is not enough memory for the picture.</source>
-        <translation>Il n’y a pas assez de mémoire pour l’image.</translation>
+        <translation>画像用のメモリが足りません。</translation>
     </message>
 </context>
 </TS>

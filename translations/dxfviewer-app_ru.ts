@@ -1,23 +1,23 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de" sourcelanguage="en">
+<TS version="2.1" language="ru" sourcelanguage="en">
 <context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
-        <translation>Im Bearbeitungsmodus starten.</translation>
+        <translation>Запустить в режиме правки.</translation>
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>Ein Bild der Zeichnung nach FILE schreiben (.png, .svg oder .pdf) und beenden.</translation>
+        <translation>Записать изображение чертежа в FILE (.png, .svg или .pdf) и выйти.</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
-        <translation>Zeigt DXF-Zeichnungen und radiert Teile davon aus.</translation>
+        <translation>Показывает чертежи DXF и стирает их части.</translation>
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>Eine .dxf-Datei, die geöffnet wird.</translation>
+        <translation>Файл .dxf, который нужно открыть.</translation>
     </message>
     <message>
         <source>%1
@@ -29,129 +29,129 @@
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>Die Zeichnung kann nicht geöffnet werden.</translation>
+        <translation>Не удаётся открыть чертёж.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Sie kann nicht gelesen werden.</translation>
+        <translation>Его нельзя прочитать.</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Das Bild kann nicht geschrieben werden.</translation>
+        <translation>Не удаётся записать изображение.</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
-        <translation>DXF-Betrachter</translation>
+        <translation>Просмотр DXF</translation>
     </message>
     <message>
         <source>Only one drawing can be opened.</source>
-        <translation>Es kann nur eine Zeichnung geöffnet werden.</translation>
+        <translation>Можно открыть только один чертёж.</translation>
     </message>
     <message>
         <source>There is no drawing to make a picture of.</source>
-        <translation>Es ist keine Zeichnung für das Bild angegeben.</translation>
+        <translation>Не указан чертёж для изображения.</translation>
     </message>
 </context>
 <context>
     <name>DrawingFile</name>
     <message>
         <source>The file is empty.</source>
-        <translation>Die Datei ist leer.</translation>
+        <translation>Файл пуст.</translation>
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Es ist eine binäre Datei. Nur die Textform von DXF kann gelesen werden.</translation>
+        <translation>Это двоичный файл. Читается только текстовая форма DXF.</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
-        <translation>Es ist keine DXF-Zeichnung.</translation>
+        <translation>Это не чертёж DXF.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>Es gibt keine solche Datei.</translation>
+        <translation>Такого файла нет.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation>Es ist keine gewöhnliche Datei.</translation>
+        <translation>Это не обычный файл.</translation>
     </message>
     <message>
         <source>The file is too large.</source>
-        <translation>Die Datei ist zu groß.</translation>
+        <translation>Файл слишком велик.</translation>
     </message>
 </context>
 <context>
-    <name>HostWindow</name>
+    <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
+        <translation>&amp;Файл</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation>Ö&amp;ffnen …</translation>
+        <translation>&amp;Открыть…</translation>
     </message>
     <message>
         <source>&amp;Save As…</source>
-        <translation>Speichern &amp;unter …</translation>
+        <translation>&amp;Сохранить как…</translation>
     </message>
     <message>
         <source>Export &amp;Picture…</source>
-        <translation>&amp;Bild exportieren …</translation>
+        <translation>&amp;Экспорт изображения…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
+        <translation>&amp;Выход</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
+        <translation>&amp;Правка</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>Rückgängig</translation>
+        <translation>Отменить</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Wiederherstellen</translation>
+        <translation>Повторить</translation>
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>Die Zeichnung kann nicht geöffnet werden.</translation>
+        <translation>Не удаётся открыть чертёж.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Sie kann nicht gelesen werden.</translation>
+        <translation>Его нельзя прочитать.</translation>
     </message>
     <message>
         <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Diese Zeichnung enthält keine Polylinien, daher ist nichts zu sehen.</translation>
+        <translation>В этом чертеже нет полилиний, поэтому ничего не показано.</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation>Öffnen</translation>
+        <translation>Открыть</translation>
     </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
-        <translation>DXF-Zeichnungen (*.dxf *.DXF)</translation>
+        <translation>Чертежи DXF (*.dxf *.DXF)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
+        <translation>Все файлы (*)</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation>Speichern unter</translation>
+        <translation>Сохранить как</translation>
     </message>
     <message>
         <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>Die Zeichnung konnte nicht in eine temporäre Datei geschrieben werden. Vielleicht ist der Ordner für temporäre Dateien voll.</translation>
+        <translation>Не удалось записать чертёж во временный файл. Возможно, папка временных файлов заполнена.</translation>
     </message>
     <message>
         <source>The drawing cannot be saved.</source>
-        <translation>Die Zeichnung kann nicht gespeichert werden.</translation>
+        <translation>Не удаётся сохранить чертёж.</translation>
     </message>
     <message>
         <source>Replace the drawing that was opened?</source>
-        <translation>Die geöffnete Zeichnung ersetzen?</translation>
+        <translation>Заменить открытый чертёж?</translation>
     </message>
     <message>
         <source>%1
@@ -159,46 +159,46 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-Nur Layer, Linientypen und Polylinien werden gespeichert. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihre Schlusskante, und Bögen in Polylinien werden gerade.</translation>
+Сохраняются только слои, типы линий и полилинии. Всё остальное, что есть в файле, теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающую сторону, а дуги полилиний становятся прямыми.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation>Ersetzen</translation>
+        <translation>Заменить</translation>
     </message>
     <message>
         <source>%1 pictures (*.%2)</source>
-        <translation>%1-Bilder (*.%2)</translation>
+        <translation>Изображения %1 (*.%2)</translation>
     </message>
     <message>
         <source>Export Picture</source>
-        <translation>Bild exportieren</translation>
+        <translation>Экспорт изображения</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Das Bild kann nicht geschrieben werden.</translation>
+        <translation>Не удаётся записать изображение.</translation>
     </message>
     <message>
         <source>No drawing</source>
-        <translation>Keine Zeichnung</translation>
+        <translation>Нет чертежа</translation>
     </message>
     <message>
         <source>Save the edited drawing?</source>
-        <translation>Die bearbeitete Zeichnung speichern?</translation>
+        <translation>Сохранить изменённый чертёж?</translation>
     </message>
 </context>
 <context>
     <name>Picture</name>
     <message>
         <source>The name of a picture must end in .png, .svg or .pdf.</source>
-        <translation>Der Name eines Bildes muss auf .png, .svg oder .pdf enden.</translation>
+        <translation>Имя изображения должно заканчиваться на .png, .svg или .pdf.</translation>
     </message>
     <message>
         <source>The drawing&apos;s coordinates are too large for a picture.</source>
-        <translation>Die Koordinaten der Zeichnung sind für ein Bild zu groß.</translation>
+        <translation>Координаты чертежа слишком велики для изображения.</translation>
     </message>
     <message>
         <source>There is not enough memory for the picture.</source>
-        <translation>Der Speicher reicht für das Bild nicht aus.</translation>
+        <translation>Для изображения не хватает памяти.</translation>
     </message>
 </context>
 </TS>

@@ -24,7 +24,7 @@ struct Outcome {
     std::string errors;
 };
 
-class HostProgramTest : public dxftest::LoggedTest
+class ProgramTest : public dxftest::LoggedTest
 {
 protected:
     Outcome run(const QStringList& arguments)
@@ -36,7 +36,7 @@ protected:
         for (const char* display : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
             environment.remove(QLatin1String(display));
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(DXFVIEWER_HOST), arguments);
+        process.start(QStringLiteral(DXFVIEWER_APP), arguments);
         EXPECT_TRUE(process.waitForFinished(dxftest::patienceMs));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         return {process.exitCode(), process.readAllStandardOutput().toStdString(),
@@ -70,22 +70,21 @@ int colorCount(const QImage& image)
     return static_cast<int>(colors.size());
 }
 
-class HostProgramSampleTest : public HostProgramTest,
-                              public ::testing::WithParamInterface<const char*>
+class ProgramSampleTest : public ProgramTest, public ::testing::WithParamInterface<const char*>
 {
 protected:
     static QString drawing() { return sample(QLatin1String(GetParam()) + QStringLiteral(".dxf")); }
 };
 
-TEST_F(HostProgramTest, TellsItsVersion)
+TEST_F(ProgramTest, TellsItsVersion)
 {
     const Outcome outcome = run({QStringLiteral("--version")});
 
     EXPECT_EQ(outcome.exitCode, 0);
-    EXPECT_EQ(outcome.output, "dxfviewer-host " DXFVIEWER_HOST_VERSION "\n");
+    EXPECT_EQ(outcome.output, "dxfviewer " DXFVIEWER_APP_VERSION "\n");
 }
 
-TEST_F(HostProgramTest, TellsItsOptions)
+TEST_F(ProgramTest, TellsItsOptions)
 {
     const Outcome outcome = run({QStringLiteral("--help")});
 
@@ -94,7 +93,7 @@ TEST_F(HostProgramTest, TellsItsOptions)
         EXPECT_THAT(outcome.output, HasSubstr(option));
 }
 
-TEST_F(HostProgramTest, RefusesAnUnknownOption)
+TEST_F(ProgramTest, RefusesAnUnknownOption)
 {
     const Outcome outcome = run({QStringLiteral("--nonsense")});
 
@@ -102,7 +101,7 @@ TEST_F(HostProgramTest, RefusesAnUnknownOption)
     EXPECT_THAT(outcome.errors, HasSubstr("nonsense"));
 }
 
-TEST_F(HostProgramTest, RefusesTwoDrawings)
+TEST_F(ProgramTest, RefusesTwoDrawings)
 {
     const Outcome outcome = run({QStringLiteral("a.dxf"), QStringLiteral("b.dxf")});
 
@@ -110,10 +109,10 @@ TEST_F(HostProgramTest, RefusesTwoDrawings)
     EXPECT_THAT(outcome.errors, HasSubstr("Only one drawing"));
 }
 
-TEST_F(HostProgramTest, StartsInEditModeWhenTold)
+TEST_F(ProgramTest, StartsInEditModeWhenTold)
 {
     QProcess process;
-    process.start(QStringLiteral(DXFVIEWER_HOST),
+    process.start(QStringLiteral(DXFVIEWER_APP),
                   {QStringLiteral("--edit"), sample(QStringLiteral("floor-plan.dxf"))});
     QByteArray messages;
 
@@ -127,7 +126,7 @@ TEST_F(HostProgramTest, StartsInEditModeWhenTold)
     EXPECT_TRUE(process.waitForFinished(dxftest::patienceMs));
 }
 
-TEST_P(HostProgramSampleTest, GivesAPngWithTheDrawing)
+TEST_P(ProgramSampleTest, GivesAPngWithTheDrawing)
 {
     const QString picture = path(QStringLiteral("out.png"));
 
@@ -137,7 +136,7 @@ TEST_P(HostProgramSampleTest, GivesAPngWithTheDrawing)
     EXPECT_GT(colorCount(QImage(picture)), 5);
 }
 
-TEST_P(HostProgramSampleTest, GivesAnSvgWithTheDrawing)
+TEST_P(ProgramSampleTest, GivesAnSvgWithTheDrawing)
 {
     const QString picture = path(QStringLiteral("out.svg"));
 
@@ -153,7 +152,7 @@ TEST_P(HostProgramSampleTest, GivesAnSvgWithTheDrawing)
     EXPECT_GT(colorCount(image), 5);
 }
 
-TEST_P(HostProgramSampleTest, GivesAPdf)
+TEST_P(ProgramSampleTest, GivesAPdf)
 {
     const QString picture = path(QStringLiteral("out.pdf"));
 
@@ -166,7 +165,7 @@ TEST_P(HostProgramSampleTest, GivesAPdf)
     EXPECT_GT(file.size(), 5000);
 }
 
-INSTANTIATE_TEST_SUITE_P(, HostProgramSampleTest,
+INSTANTIATE_TEST_SUITE_P(, ProgramSampleTest,
                          ::testing::Values("floor-plan", "contour-map", "bracket-part"),
                          [](const auto& sampleInfo) {
                              std::string name = sampleInfo.param;
@@ -174,7 +173,7 @@ INSTANTIATE_TEST_SUITE_P(, HostProgramSampleTest,
                              return name;
                          });
 
-TEST_F(HostProgramTest, MakesNoPictureWithoutADrawing)
+TEST_F(ProgramTest, MakesNoPictureWithoutADrawing)
 {
     const Outcome outcome = run({QStringLiteral("--picture"), path(QStringLiteral("out.png"))});
 
@@ -182,7 +181,7 @@ TEST_F(HostProgramTest, MakesNoPictureWithoutADrawing)
     EXPECT_THAT(outcome.errors, HasSubstr("no drawing"));
 }
 
-TEST_F(HostProgramTest, MakesNoPictureOfWhatIsNoDrawing)
+TEST_F(ProgramTest, MakesNoPictureOfWhatIsNoDrawing)
 {
     const Outcome outcome =
         runPicture(path(QStringLiteral("out.png")), sample(QStringLiteral("make_samples.cpp")));
@@ -192,7 +191,7 @@ TEST_F(HostProgramTest, MakesNoPictureOfWhatIsNoDrawing)
     EXPECT_FALSE(QFile::exists(path(QStringLiteral("out.png"))));
 }
 
-TEST_F(HostProgramTest, MakesNoPictureOfAMissingFile)
+TEST_F(ProgramTest, MakesNoPictureOfAMissingFile)
 {
     const Outcome outcome =
         runPicture(path(QStringLiteral("out.png")), path(QStringLiteral("none\n.dxf")));
@@ -202,7 +201,7 @@ TEST_F(HostProgramTest, MakesNoPictureOfAMissingFile)
     EXPECT_THAT(outcome.errors, Not(HasSubstr("none\n.dxf")));
 }
 
-TEST_F(HostProgramTest, SaysThatAPictureCannotBeWritten)
+TEST_F(ProgramTest, SaysThatAPictureCannotBeWritten)
 {
     const Outcome outcome = runPicture(QStringLiteral("/no/such/folder/out.png"),
                                        sample(QStringLiteral("floor-plan.dxf")));
@@ -212,7 +211,7 @@ TEST_F(HostProgramTest, SaysThatAPictureCannotBeWritten)
                 HasSubstr("The picture cannot be written.\n/no/such/folder/out.png\n"));
 }
 
-TEST_F(HostProgramTest, TakesNamesOfOtherAlphabets)
+TEST_F(ProgramTest, TakesNamesOfOtherAlphabets)
 {
     const QString drawing = path(QString::fromUtf8("Stra\xC3\x9F"
                                                    "e \xE5\x9B\xB3.dxf"));

@@ -25,13 +25,13 @@ class WaitCursor;
  * mode the drawing still takes the presses of the left button, without doing anything: a host that
  * wants them itself filters the events of the view's viewport.
  */
-class HostWindow : public QMainWindow
+class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit HostWindow(QWidget* parent = nullptr);
-    ~HostWindow() override;
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
 
     /// Shows the drawing, after the user has agreed to throw unsaved edits away. If it cannot be
     /// read, a box says why, and the drawing on screen stays. Show this window first: the drawing

@@ -1,23 +1,23 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="es" sourcelanguage="en">
+<TS version="2.1" language="fr" sourcelanguage="en">
 <context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
-        <translation>Iniciar en modo de edición.</translation>
+        <translation>Démarrer en mode d’édition.</translation>
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>Escribir una imagen del dibujo en FILE (.png, .svg o .pdf) y salir.</translation>
+        <translation>Écrire une image du dessin dans FILE (.png, .svg ou .pdf) et quitter.</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
-        <translation>Muestra dibujos DXF y borra partes de ellos.</translation>
+        <translation>Affiche des dessins DXF et en efface des parties.</translation>
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>Un archivo .dxf que abrir.</translation>
+        <translation>Un fichier .dxf à ouvrir.</translation>
     </message>
     <message>
         <source>%1
@@ -29,129 +29,129 @@
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>No se puede abrir el dibujo.</translation>
+        <translation>Impossible d’ouvrir le dessin.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>No se puede leer.</translation>
+        <translation>Il ne peut pas être lu.</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>No se puede escribir la imagen.</translation>
+        <translation>Impossible d’écrire l’image.</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
-        <translation>Visor DXF</translation>
+        <translation>Visionneuse DXF</translation>
     </message>
     <message>
         <source>Only one drawing can be opened.</source>
-        <translation>Solo se puede abrir un dibujo.</translation>
+        <translation>Un seul dessin peut être ouvert.</translation>
     </message>
     <message>
         <source>There is no drawing to make a picture of.</source>
-        <translation>No hay ningún dibujo del que hacer una imagen.</translation>
+        <translation>Aucun dessin n’est donné pour l’image.</translation>
     </message>
 </context>
 <context>
     <name>DrawingFile</name>
     <message>
         <source>The file is empty.</source>
-        <translation>El archivo está vacío.</translation>
+        <translation>Le fichier est vide.</translation>
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Es un archivo binario. Solo se puede leer la forma de texto de DXF.</translation>
+        <translation>C’est un fichier binaire. Seule la forme texte de DXF peut être lue.</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
-        <translation>No es un dibujo DXF.</translation>
+        <translation>Ce n’est pas un dessin DXF.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>No existe ese archivo.</translation>
+        <translation>Ce fichier n’existe pas.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation>No es un archivo normal.</translation>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
         <source>The file is too large.</source>
-        <translation>El archivo es demasiado grande.</translation>
+        <translation>Le fichier est trop grand.</translation>
     </message>
 </context>
 <context>
-    <name>HostWindow</name>
+    <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;Archivo</translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation>&amp;Abrir…</translation>
+        <translation>&amp;Ouvrir…</translation>
     </message>
     <message>
         <source>&amp;Save As…</source>
-        <translation>&amp;Guardar como…</translation>
+        <translation>Enregistrer &amp;sous…</translation>
     </message>
     <message>
         <source>Export &amp;Picture…</source>
-        <translation>Exportar &amp;imagen…</translation>
+        <translation>Exporter une &amp;image…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>&amp;Editar</translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>Deshacer</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Rehacer</translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>No se puede abrir el dibujo.</translation>
+        <translation>Impossible d’ouvrir le dessin.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>No se puede leer.</translation>
+        <translation>Il ne peut pas être lu.</translation>
     </message>
     <message>
         <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Este dibujo no contiene polilíneas, por lo que no se muestra nada.</translation>
+        <translation>Ce dessin ne contient aucune polyligne : rien n’est affiché.</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation>Abrir</translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
-        <translation>Dibujos DXF (*.dxf *.DXF)</translation>
+        <translation>Dessins DXF (*.dxf *.DXF)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation>Todos los archivos (*)</translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation>Guardar como</translation>
+        <translation>Enregistrer sous</translation>
     </message>
     <message>
         <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>No se pudo escribir el dibujo en un archivo temporal. Puede que la carpeta de archivos temporales esté llena.</translation>
+        <translation>Le dessin n’a pas pu être écrit dans un fichier temporaire. Le dossier des fichiers temporaires est peut-être plein.</translation>
     </message>
     <message>
         <source>The drawing cannot be saved.</source>
-        <translation>No se puede guardar el dibujo.</translation>
+        <translation>Impossible d’enregistrer le dessin.</translation>
     </message>
     <message>
         <source>Replace the drawing that was opened?</source>
-        <translation>¿Reemplazar el dibujo que se abrió?</translation>
+        <translation>Remplacer le dessin ouvert ?</translation>
     </message>
     <message>
         <source>%1
@@ -159,46 +159,46 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores de polilíneas sueltas. Una vez que se ha borrado algo, las polilíneas cerradas pierden su lado de cierre y los arcos de las polilíneas se vuelven rectos.</translation>
+Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs de polylignes isolées. Dès que quelque chose a été effacé, les polylignes fermées perdent leur côté de fermeture et les arcs des polylignes deviennent droits.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation>Reemplazar</translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>%1 pictures (*.%2)</source>
-        <translation>Imágenes %1 (*.%2)</translation>
+        <translation>Images %1 (*.%2)</translation>
     </message>
     <message>
         <source>Export Picture</source>
-        <translation>Exportar imagen</translation>
+        <translation>Exporter une image</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>No se puede escribir la imagen.</translation>
+        <translation>Impossible d’écrire l’image.</translation>
     </message>
     <message>
         <source>No drawing</source>
-        <translation>Sin dibujo</translation>
+        <translation>Aucun dessin</translation>
     </message>
     <message>
         <source>Save the edited drawing?</source>
-        <translation>¿Guardar el dibujo editado?</translation>
+        <translation>Enregistrer le dessin modifié ?</translation>
     </message>
 </context>
 <context>
     <name>Picture</name>
     <message>
         <source>The name of a picture must end in .png, .svg or .pdf.</source>
-        <translation>El nombre de una imagen debe terminar en .png, .svg o .pdf.</translation>
+        <translation>Le nom d’une image doit se terminer par .png, .svg ou .pdf.</translation>
     </message>
     <message>
         <source>The drawing&apos;s coordinates are too large for a picture.</source>
-        <translation>Las coordenadas del dibujo son demasiado grandes para una imagen.</translation>
+        <translation>Les coordonnées du dessin sont trop grandes pour une image.</translation>
     </message>
     <message>
         <source>There is not enough memory for the picture.</source>
-        <translation>No hay memoria suficiente para la imagen.</translation>
+        <translation>Il n’y a pas assez de mémoire pour l’image.</translation>
     </message>
 </context>
 </TS>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-#include "HostWindow.h"
+#include "MainWindow.h"
 #include "ViewerParts.h"
 
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/viewer/DXFViewer.h"
-#include "tests/host/DialogRobot.h"
+#include "tests/app/DialogRobot.h"
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
@@ -49,17 +49,17 @@ const QByteArray crossDrawing =
 const QByteArray drawingWithoutPolylines =
     "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDSEC\n0\nEOF\n";
 
-class HostWindowTest : public dxftest::LoggedTest
+class MainWindowTest : public dxftest::LoggedTest
 {
 protected:
-    HostWindowTest()
-        : m_window(std::make_unique<HostWindow>())
+    MainWindowTest()
+        : m_window(std::make_unique<MainWindow>())
     {
         m_window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get(), dxftest::patienceMs));
     }
 
-    ~HostWindowTest() override
+    ~MainWindowTest() override
     {
         // A window that asks at the end is no part of what was tested.
         m_window.reset();
@@ -150,13 +150,13 @@ protected:
 
     // Outlives the window, which may ask at its end.
     DialogRobot m_robot;
-    std::unique_ptr<HostWindow> m_window;
+    std::unique_ptr<MainWindow> m_window;
 
 private:
     QTemporaryDir m_folder;
 };
 
-TEST_F(HostWindowTest, HasNothingToSaveAtFirst)
+TEST_F(MainWindowTest, HasNothingToSaveAtFirst)
 {
     EXPECT_FALSE(action("&Save As…").isEnabled());
     EXPECT_FALSE(action("Export &Picture…").isEnabled());
@@ -164,7 +164,7 @@ TEST_F(HostWindowTest, HasNothingToSaveAtFirst)
     EXPECT_FALSE(m_window->isWindowModified());
 }
 
-TEST_F(HostWindowTest, ShowsADrawingUnderItsName)
+TEST_F(MainWindowTest, ShowsADrawingUnderItsName)
 {
     open(crossFile());
 
@@ -174,14 +174,14 @@ TEST_F(HostWindowTest, ShowsADrawingUnderItsName)
     EXPECT_TRUE(action("Export &Picture…").isEnabled());
 }
 
-TEST_F(HostWindowTest, ShowsNamesThatNeedCare)
+TEST_F(MainWindowTest, ShowsNamesThatNeedCare)
 {
     open(fileWith(crossDrawing, QStringLiteral("a[*]\nb.dxf")));
 
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("a[*][*]\uFFFDb.dxf[*]"));
 }
 
-TEST_F(HostWindowTest, ShowsTheWaitCursorWhileLoading)
+TEST_F(MainWindowTest, ShowsTheWaitCursorWhileLoading)
 {
     m_window->openDrawing(crossFile());
 
@@ -190,7 +190,7 @@ TEST_F(HostWindowTest, ShowsTheWaitCursorWhileLoading)
     waitForNoCursor();
 }
 
-TEST_F(HostWindowTest, KeepsTheDrawingOnScreenWhenAnotherCannotBeRead)
+TEST_F(MainWindowTest, KeepsTheDrawingOnScreenWhenAnotherCannotBeRead)
 {
     open(crossFile());
     const auto document = shownDocument(viewer());
@@ -207,14 +207,14 @@ TEST_F(HostWindowTest, KeepsTheDrawingOnScreenWhenAnotherCannotBeRead)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(HostWindowTest, SaysThatThereIsNothingToShow)
+TEST_F(MainWindowTest, SaysThatThereIsNothingToShow)
 {
     open(fileWith(drawingWithoutPolylines, QStringLiteral("lines.dxf")));
 
     EXPECT_THAT(m_window->statusBar()->currentMessage().toStdString(), HasSubstr("no polylines"));
 }
 
-TEST_F(HostWindowTest, KeyOpensTheDrawingThatIsChosen)
+TEST_F(MainWindowTest, KeyOpensTheDrawingThatIsChosen)
 {
     m_robot.expectFileName(crossFile());
 
@@ -224,7 +224,7 @@ TEST_F(HostWindowTest, KeyOpensTheDrawingThatIsChosen)
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
 }
 
-TEST_F(HostWindowTest, MenuOpensNothingWhenNothingIsChosen)
+TEST_F(MainWindowTest, MenuOpensNothingWhenNothingIsChosen)
 {
     m_robot.expect<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
 
@@ -234,14 +234,14 @@ TEST_F(HostWindowTest, MenuOpensNothingWhenNothingIsChosen)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST_F(HostWindowTest, KeyQuits)
+TEST_F(MainWindowTest, KeyQuits)
 {
     press(Qt::Key_Q);
 
     EXPECT_FALSE(m_window->isVisible());
 }
 
-TEST_F(HostWindowTest, StartsInEditModeWhenAsked)
+TEST_F(MainWindowTest, StartsInEditModeWhenAsked)
 {
     m_window->editNextDrawing();
 
@@ -251,7 +251,7 @@ TEST_F(HostWindowTest, StartsInEditModeWhenAsked)
     EXPECT_NE(currentEditor(viewer()), nullptr);
 }
 
-TEST_F(HostWindowTest, KeysUndoAndRedoWhileEditModeIsOn)
+TEST_F(MainWindowTest, KeysUndoAndRedoWhileEditModeIsOn)
 {
     openInEditMode();
     erase();
@@ -272,7 +272,7 @@ TEST_F(HostWindowTest, KeysUndoAndRedoWhileEditModeIsOn)
     EXPECT_FALSE(action("Undo").isEnabled());
 }
 
-TEST_F(HostWindowTest, EditsOutliveEditMode)
+TEST_F(MainWindowTest, EditsOutliveEditMode)
 {
     openInEditMode();
     erase();
@@ -288,11 +288,11 @@ TEST_F(HostWindowTest, EditsOutliveEditMode)
     EXPECT_TRUE(m_window->isWindowModified());
 }
 
-TEST_F(HostWindowTest, EditModeOfAnotherWindowEndsThisOne)
+TEST_F(MainWindowTest, EditModeOfAnotherWindowEndsThisOne)
 {
     openInEditMode();
     erase();
-    HostWindow other;
+    MainWindow other;
     other.show();
     other.editNextDrawing();
 
@@ -306,14 +306,14 @@ TEST_F(HostWindowTest, EditModeOfAnotherWindowEndsThisOne)
     EXPECT_FALSE(other.isWindowModified());
 }
 
-TEST_F(HostWindowTest, ClosesWithoutAQuestionWhenNothingWasErased)
+TEST_F(MainWindowTest, ClosesWithoutAQuestionWhenNothingWasErased)
 {
     openInEditMode();
 
     EXPECT_TRUE(m_window->close());
 }
 
-TEST_F(HostWindowTest, AsksBeforeItClosesOverEdits)
+TEST_F(MainWindowTest, AsksBeforeItClosesOverEdits)
 {
     openInEditMode();
     erase();
@@ -326,7 +326,7 @@ TEST_F(HostWindowTest, AsksBeforeItClosesOverEdits)
     EXPECT_TRUE(m_window->close());
 }
 
-TEST_F(HostWindowTest, AsksBeforeItQuitsOverEdits)
+TEST_F(MainWindowTest, AsksBeforeItQuitsOverEdits)
 {
     openInEditMode();
     erase();
@@ -339,7 +339,7 @@ TEST_F(HostWindowTest, AsksBeforeItQuitsOverEdits)
     EXPECT_TRUE(m_window->close());
 }
 
-TEST_F(HostWindowTest, StaysOpenWhenTheSavingIsCalledOff)
+TEST_F(MainWindowTest, StaysOpenWhenTheSavingIsCalledOff)
 {
     openInEditMode();
     erase();
@@ -352,7 +352,7 @@ TEST_F(HostWindowTest, StaysOpenWhenTheSavingIsCalledOff)
     EXPECT_EQ(polylineCount(), 1);
 }
 
-TEST_F(HostWindowTest, SavesBeforeItCloses)
+TEST_F(MainWindowTest, SavesBeforeItCloses)
 {
     openInEditMode();
     erase();
@@ -366,7 +366,7 @@ TEST_F(HostWindowTest, SavesBeforeItCloses)
     EXPECT_EQ(kept->entities().size(), 1);
 }
 
-TEST_F(HostWindowTest, AsksBeforeAnotherDrawingTakesThePlaceOfEdits)
+TEST_F(MainWindowTest, AsksBeforeAnotherDrawingTakesThePlaceOfEdits)
 {
     openInEditMode();
     erase();
@@ -385,7 +385,7 @@ TEST_F(HostWindowTest, AsksBeforeAnotherDrawingTakesThePlaceOfEdits)
     EXPECT_EQ(polylineCount(), 2);
 }
 
-TEST_F(HostWindowTest, ProposesANewNameAndTakesIt)
+TEST_F(MainWindowTest, ProposesANewNameAndTakesIt)
 {
     openInEditMode();
     erase();
@@ -404,7 +404,7 @@ TEST_F(HostWindowTest, ProposesANewNameAndTakesIt)
     EXPECT_EQ(contentOf(proposed), viewer().getData());
 }
 
-TEST_F(HostWindowTest, SavesUnderANameWithItsSuffix)
+TEST_F(MainWindowTest, SavesUnderANameWithItsSuffix)
 {
     open(crossFile());
     m_robot.expectFileName(path(QStringLiteral("kept")));
@@ -414,7 +414,7 @@ TEST_F(HostWindowTest, SavesUnderANameWithItsSuffix)
     EXPECT_EQ(contentOf(path(QStringLiteral("kept.dxf"))), viewer().getData());
 }
 
-TEST_F(HostWindowTest, UndoAfterASaveIsAnEdit)
+TEST_F(MainWindowTest, UndoAfterASaveIsAnEdit)
 {
     openInEditMode();
     erase();
@@ -427,7 +427,7 @@ TEST_F(HostWindowTest, UndoAfterASaveIsAnEdit)
     EXPECT_TRUE(m_window->isWindowModified());
 }
 
-TEST_F(HostWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
+TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
 {
     openInEditMode();
     erase();
@@ -447,7 +447,7 @@ TEST_F(HostWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
     EXPECT_TRUE(m_window->isWindowModified());
 }
 
-TEST_F(HostWindowTest, ReplacesTheDrawingThatWasOpenedIfTold)
+TEST_F(MainWindowTest, ReplacesTheDrawingThatWasOpenedIfTold)
 {
     openInEditMode();
     erase();
@@ -468,7 +468,7 @@ TEST_F(HostWindowTest, ReplacesTheDrawingThatWasOpenedIfTold)
     EXPECT_FALSE(m_window->isWindowModified());
 }
 
-TEST_F(HostWindowTest, AFullDiskGivesABoxAndLeavesTheOldFile)
+TEST_F(MainWindowTest, AFullDiskGivesABoxAndLeavesTheOldFile)
 {
     openInEditMode();
     erase();
@@ -493,7 +493,7 @@ TEST_F(HostWindowTest, AFullDiskGivesABoxAndLeavesTheOldFile)
     EXPECT_TRUE(m_window->isWindowModified());
 }
 
-TEST_F(HostWindowTest, SavesInTheMiddleOfAStroke)
+TEST_F(MainWindowTest, SavesInTheMiddleOfAStroke)
 {
     openInEditMode();
     SceneMouse mouse(view());
@@ -510,7 +510,7 @@ TEST_F(HostWindowTest, SavesInTheMiddleOfAStroke)
     EXPECT_EQ(polylineCount(), 1);
 }
 
-TEST_F(HostWindowTest, OpensInTheMiddleOfAStroke)
+TEST_F(MainWindowTest, OpensInTheMiddleOfAStroke)
 {
     openInEditMode();
     SceneMouse mouse(view());
@@ -524,7 +524,7 @@ TEST_F(HostWindowTest, OpensInTheMiddleOfAStroke)
     EXPECT_EQ(polylineCount(), 2);
 }
 
-TEST_F(HostWindowTest, GoesInEditModeInTheMiddleOfAStroke)
+TEST_F(MainWindowTest, GoesInEditModeInTheMiddleOfAStroke)
 {
     openInEditMode();
     erase();
@@ -535,10 +535,10 @@ TEST_F(HostWindowTest, GoesInEditModeInTheMiddleOfAStroke)
     m_window.reset();
 
     EXPECT_EQ(editor, nullptr);
-    m_window = std::make_unique<HostWindow>();
+    m_window = std::make_unique<MainWindow>();
 }
 
-TEST_F(HostWindowTest, OpensADrawingThatIsDropped)
+TEST_F(MainWindowTest, OpensADrawingThatIsDropped)
 {
     QMimeData data;
     data.setUrls(
@@ -550,7 +550,7 @@ TEST_F(HostWindowTest, OpensADrawingThatIsDropped)
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
 }
 
-TEST_F(HostWindowTest, AsksBeforeADropTakesThePlaceOfEdits)
+TEST_F(MainWindowTest, AsksBeforeADropTakesThePlaceOfEdits)
 {
     openInEditMode();
     erase();
@@ -569,7 +569,7 @@ TEST_F(HostWindowTest, AsksBeforeADropTakesThePlaceOfEdits)
     EXPECT_EQ(polylineCount(), 1);
 }
 
-TEST_F(HostWindowTest, LeavesDragsOfOtherThingsAlone)
+TEST_F(MainWindowTest, LeavesDragsOfOtherThingsAlone)
 {
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(path(QStringLiteral("notes.txt")))});
@@ -582,7 +582,7 @@ TEST_F(HostWindowTest, LeavesDragsOfOtherThingsAlone)
     EXPECT_FALSE(view().viewport()->acceptDrops());
 }
 
-TEST_F(HostWindowTest, ExportsWhatIsOnScreen)
+TEST_F(MainWindowTest, ExportsWhatIsOnScreen)
 {
     openInEditMode();
     erase();
@@ -593,7 +593,7 @@ TEST_F(HostWindowTest, ExportsWhatIsOnScreen)
     EXPECT_EQ(contentOf(path(QStringLiteral("cross.svg"))).count("<polyline"), 1);
 }
 
-TEST_F(HostWindowTest, ExportsAPngUnlessToldOtherwise)
+TEST_F(MainWindowTest, ExportsAPngUnlessToldOtherwise)
 {
     open(fileWith(crossDrawing, QStringLiteral("cross.v2.dxf")));
     m_robot.expect<QFileDialog>([](QFileDialog& dialog) { acceptAsItIs(dialog); });
@@ -603,7 +603,7 @@ TEST_F(HostWindowTest, ExportsAPngUnlessToldOtherwise)
     EXPECT_FALSE(QImage(path(QStringLiteral("cross.v2.png"))).isNull());
 }
 
-TEST_F(HostWindowTest, ExportsTheKindThatIsChosen)
+TEST_F(MainWindowTest, ExportsTheKindThatIsChosen)
 {
     open(crossFile());
     m_robot.expect<QFileDialog>([this](QFileDialog& dialog) {
@@ -619,7 +619,7 @@ TEST_F(HostWindowTest, ExportsTheKindThatIsChosen)
     EXPECT_EQ(contentOf(path(QStringLiteral("chosen.svg"))).count("<polyline"), 2);
 }
 
-TEST_F(HostWindowTest, SaysWhyAPictureCannotBeExported)
+TEST_F(MainWindowTest, SaysWhyAPictureCannotBeExported)
 {
     open(crossFile());
     std::string error;

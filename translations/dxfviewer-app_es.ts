@@ -1,23 +1,23 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ru" sourcelanguage="en">
+<TS version="2.1" language="es" sourcelanguage="en">
 <context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
-        <translation>Запустить в режиме правки.</translation>
+        <translation>Iniciar en modo de edición.</translation>
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>Записать изображение чертежа в FILE (.png, .svg или .pdf) и выйти.</translation>
+        <translation>Escribir una imagen del dibujo en FILE (.png, .svg o .pdf) y salir.</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
-        <translation>Показывает чертежи DXF и стирает их части.</translation>
+        <translation>Muestra dibujos DXF y borra partes de ellos.</translation>
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>Файл .dxf, который нужно открыть.</translation>
+        <translation>Un archivo .dxf que abrir.</translation>
     </message>
     <message>
         <source>%1
@@ -29,129 +29,129 @@
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>Не удаётся открыть чертёж.</translation>
+        <translation>No se puede abrir el dibujo.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Его нельзя прочитать.</translation>
+        <translation>No se puede leer.</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Не удаётся записать изображение.</translation>
+        <translation>No se puede escribir la imagen.</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
-        <translation>Просмотр DXF</translation>
+        <translation>Visor DXF</translation>
     </message>
     <message>
         <source>Only one drawing can be opened.</source>
-        <translation>Можно открыть только один чертёж.</translation>
+        <translation>Solo se puede abrir un dibujo.</translation>
     </message>
     <message>
         <source>There is no drawing to make a picture of.</source>
-        <translation>Не указан чертёж для изображения.</translation>
+        <translation>No hay ningún dibujo del que hacer una imagen.</translation>
     </message>
 </context>
 <context>
     <name>DrawingFile</name>
     <message>
         <source>The file is empty.</source>
-        <translation>Файл пуст.</translation>
+        <translation>El archivo está vacío.</translation>
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Это двоичный файл. Читается только текстовая форма DXF.</translation>
+        <translation>Es un archivo binario. Solo se puede leer la forma de texto de DXF.</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
-        <translation>Это не чертёж DXF.</translation>
+        <translation>No es un dibujo DXF.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>Такого файла нет.</translation>
+        <translation>No existe ese archivo.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation>Это не обычный файл.</translation>
+        <translation>No es un archivo normal.</translation>
     </message>
     <message>
         <source>The file is too large.</source>
-        <translation>Файл слишком велик.</translation>
+        <translation>El archivo es demasiado grande.</translation>
     </message>
 </context>
 <context>
-    <name>HostWindow</name>
+    <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;Файл</translation>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation>&amp;Открыть…</translation>
+        <translation>&amp;Abrir…</translation>
     </message>
     <message>
         <source>&amp;Save As…</source>
-        <translation>&amp;Сохранить как…</translation>
+        <translation>&amp;Guardar como…</translation>
     </message>
     <message>
         <source>Export &amp;Picture…</source>
-        <translation>&amp;Экспорт изображения…</translation>
+        <translation>Exportar &amp;imagen…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>&amp;Выход</translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>&amp;Правка</translation>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>Отменить</translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Повторить</translation>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
-        <translation>Не удаётся открыть чертёж.</translation>
+        <translation>No se puede abrir el dibujo.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Его нельзя прочитать.</translation>
+        <translation>No se puede leer.</translation>
     </message>
     <message>
         <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>В этом чертеже нет полилиний, поэтому ничего не показано.</translation>
+        <translation>Este dibujo no contiene polilíneas, por lo que no se muestra nada.</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation>Открыть</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
-        <translation>Чертежи DXF (*.dxf *.DXF)</translation>
+        <translation>Dibujos DXF (*.dxf *.DXF)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation>Все файлы (*)</translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation>Сохранить как</translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>Не удалось записать чертёж во временный файл. Возможно, папка временных файлов заполнена.</translation>
+        <translation>No se pudo escribir el dibujo en un archivo temporal. Puede que la carpeta de archivos temporales esté llena.</translation>
     </message>
     <message>
         <source>The drawing cannot be saved.</source>
-        <translation>Не удаётся сохранить чертёж.</translation>
+        <translation>No se puede guardar el dibujo.</translation>
     </message>
     <message>
         <source>Replace the drawing that was opened?</source>
-        <translation>Заменить открытый чертёж?</translation>
+        <translation>¿Reemplazar el dibujo que se abrió?</translation>
     </message>
     <message>
         <source>%1
@@ -159,46 +159,46 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-Сохраняются только слои, типы линий и полилинии. Всё остальное, что есть в файле, теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающую сторону, а дуги полилиний становятся прямыми.</translation>
+Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores de polilíneas sueltas. Una vez que se ha borrado algo, las polilíneas cerradas pierden su lado de cierre y los arcos de las polilíneas se vuelven rectos.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation>Заменить</translation>
+        <translation>Reemplazar</translation>
     </message>
     <message>
         <source>%1 pictures (*.%2)</source>
-        <translation>Изображения %1 (*.%2)</translation>
+        <translation>Imágenes %1 (*.%2)</translation>
     </message>
     <message>
         <source>Export Picture</source>
-        <translation>Экспорт изображения</translation>
+        <translation>Exportar imagen</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Не удаётся записать изображение.</translation>
+        <translation>No se puede escribir la imagen.</translation>
     </message>
     <message>
         <source>No drawing</source>
-        <translation>Нет чертежа</translation>
+        <translation>Sin dibujo</translation>
     </message>
     <message>
         <source>Save the edited drawing?</source>
-        <translation>Сохранить изменённый чертёж?</translation>
+        <translation>¿Guardar el dibujo editado?</translation>
     </message>
 </context>
 <context>
     <name>Picture</name>
     <message>
         <source>The name of a picture must end in .png, .svg or .pdf.</source>
-        <translation>Имя изображения должно заканчиваться на .png, .svg или .pdf.</translation>
+        <translation>El nombre de una imagen debe terminar en .png, .svg o .pdf.</translation>
     </message>
     <message>
         <source>The drawing&apos;s coordinates are too large for a picture.</source>
-        <translation>Координаты чертежа слишком велики для изображения.</translation>
+        <translation>Las coordenadas del dibujo son demasiado grandes para una imagen.</translation>
     </message>
     <message>
         <source>There is not enough memory for the picture.</source>
-        <translation>Для изображения не хватает памяти.</translation>
+        <translation>No hay memoria suficiente para la imagen.</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,7 @@
 
 #include "DrawingFile.h"
 #include "FileNames.h"
-#include "HostWindow.h"
+#include "MainWindow.h"
 #include "Picture.h"
 #include "Translations.h"
 
@@ -93,7 +93,7 @@ int writePicture(const QString& drawing, const QString& picture)
 
 int showWindow(const CommandLine& commandLine)
 {
-    HostWindow window;
+    MainWindow window;
     if (commandLine.wantsEditMode())
         window.editNextDrawing();
     // Shown before the drawing is loaded: it is fitted to the window once, and the window must have
@@ -124,11 +124,11 @@ int main(int argc, char** argv)
 
     QApplication application(argc, argv);
     installTranslations(application);
-    QCoreApplication::setApplicationName(QStringLiteral("dxfviewer-host"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(DXFVIEWER_HOST_VERSION));
+    QCoreApplication::setApplicationName(QStringLiteral("dxfviewer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(DXFVIEWER_APP_VERSION));
     QGuiApplication::setApplicationDisplayName(Texts::tr("DXF Viewer"));
-    QGuiApplication::setDesktopFileName(QStringLiteral(DXFVIEWER_HOST_PROGRAM));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/dxfviewer-host.svg")));
+    QGuiApplication::setDesktopFileName(QStringLiteral(DXFVIEWER_APP_PROGRAM));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/dxfviewer.svg")));
 
     CommandLine commandLine;
     commandLine.process(QCoreApplication::arguments());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-#include "tests/host/DialogRobot.h"
+#include "tests/app/DialogRobot.h"
 
 #include <QApplication>
 #include <QFileDialog>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-#include "HostWindow.h"
+#include "MainWindow.h"
 
 #include "DrawingFile.h"
 #include "FileNames.h"
@@ -60,7 +60,7 @@ void prepareView(QGraphicsView& view)
 
 } // namespace
 
-HostWindow::HostWindow(QWidget* parent)
+MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_viewer(new DXFViewer)
 {
@@ -74,40 +74,40 @@ HostWindow::HostWindow(QWidget* parent)
     setAcceptDrops(true);
 
     // The window's own slot was connected first, so edit mode is on or off when this one runs.
-    connect(&editAction(*m_viewer), &QAction::toggled, this, &HostWindow::onEditToggled);
-    connect(&m_undoGroup, &QUndoGroup::cleanChanged, this, &HostWindow::onCleanChanged);
+    connect(&editAction(*m_viewer), &QAction::toggled, this, &MainWindow::onEditToggled);
+    connect(&m_undoGroup, &QUndoGroup::cleanChanged, this, &MainWindow::onCleanChanged);
     m_drawingDue.setSingleShot(true);
     m_drawingDue.setInterval(drawingDueMs);
-    connect(&m_drawingDue, &QTimer::timeout, this, &HostWindow::onDrawingDue);
+    connect(&m_drawingDue, &QTimer::timeout, this, &MainWindow::onDrawingDue);
     updateState();
 }
 
-HostWindow::~HostWindow()
+MainWindow::~MainWindow()
 {
     // Its stack leaves the group, so it must go first.
     delete m_viewer;
 }
 
-void HostWindow::makeFileMenu()
+void MainWindow::makeFileMenu()
 {
     // The drawing window has hidden actions of its own for Ctrl+O and Ctrl+S. Hidden, they leave
     // the keys to these.
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     QAction* open = menu->addAction(tr("&Open…"));
     open->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+O")));
-    connect(open, &QAction::triggered, this, &HostWindow::chooseDrawing);
+    connect(open, &QAction::triggered, this, &MainWindow::chooseDrawing);
     m_saveAction = menu->addAction(tr("&Save As…"));
     m_saveAction->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+S")));
-    connect(m_saveAction, &QAction::triggered, this, &HostWindow::saveAs);
+    connect(m_saveAction, &QAction::triggered, this, &MainWindow::saveAs);
     m_exportAction = menu->addAction(tr("Export &Picture…"));
-    connect(m_exportAction, &QAction::triggered, this, &HostWindow::exportPicture);
+    connect(m_exportAction, &QAction::triggered, this, &MainWindow::exportPicture);
     menu->addSeparator();
     QAction* quit = menu->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+Q")));
     connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
-void HostWindow::makeEditMenu()
+void MainWindow::makeEditMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&Edit"));
     menu->addAction(&editAction(*m_viewer));
@@ -120,7 +120,7 @@ void HostWindow::makeEditMenu()
     menu->addAction(redo);
 }
 
-void HostWindow::openDrawing(const QString& fileName)
+void MainWindow::openDrawing(const QString& fileName)
 {
     if (!mayDiscardEdits())
         return;
@@ -133,7 +133,7 @@ void HostWindow::openDrawing(const QString& fileName)
         showError(tr("The drawing cannot be opened."), fileName, reason);
 }
 
-void HostWindow::load(const QString& fileName, const QByteArray& text)
+void MainWindow::load(const QString& fileName, const QByteArray& text)
 {
     // Edit mode would go on with the old drawing until the new one is on screen.
     editAction(*m_viewer).setChecked(false);
@@ -147,7 +147,7 @@ void HostWindow::load(const QString& fileName, const QByteArray& text)
     m_drawingDue.start();
 }
 
-void HostWindow::onDrawingDue()
+void MainWindow::onDrawingDue()
 {
     m_waitCursor.reset();
     const auto document = shownDocument(*m_viewer);
@@ -169,12 +169,12 @@ void HostWindow::onDrawingDue()
     m_editsNext = false;
 }
 
-void HostWindow::editNextDrawing()
+void MainWindow::editNextDrawing()
 {
     m_editsNext = true;
 }
 
-void HostWindow::chooseDrawing()
+void MainWindow::chooseDrawing()
 {
     QFileDialog dialog(this, tr("Open"), QFileInfo(m_fileName).path());
     dialog.setFileMode(QFileDialog::ExistingFile);
@@ -184,7 +184,7 @@ void HostWindow::chooseDrawing()
         openDrawing(fileName);
 }
 
-bool HostWindow::saveAs()
+bool MainWindow::saveAs()
 {
     QFileDialog dialog(this, tr("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -195,7 +195,7 @@ bool HostWindow::saveAs()
     return !fileName.isEmpty() && mayReplace(fileName) && save(fileName);
 }
 
-bool HostWindow::save(const QString& fileName)
+bool MainWindow::save(const QString& fileName)
 {
     const QByteArray text = m_viewer->getData();
     QString reason;
@@ -218,7 +218,7 @@ bool HostWindow::save(const QString& fileName)
 }
 
 /// Asks before a file is replaced by less than it holds.
-bool HostWindow::mayReplace(const QString& fileName)
+bool MainWindow::mayReplace(const QString& fileName)
 {
     if (!isSameFile(fileName, m_richerFile))
         return true;
@@ -239,7 +239,7 @@ bool HostWindow::mayReplace(const QString& fileName)
     return box.clickedButton() == replace;
 }
 
-void HostWindow::exportPicture()
+void MainWindow::exportPicture()
 {
     const auto document = shownDocument(*m_viewer);
     if (!document)
@@ -272,7 +272,7 @@ void HostWindow::exportPicture()
         showError(tr("The picture cannot be written."), fileName, reason);
 }
 
-void HostWindow::onEditToggled(bool isOn)
+void MainWindow::onEditToggled(bool isOn)
 {
     // The old stack has left the group when edit mode ended.
     DXFEditor* editor = isOn ? currentEditor(*m_viewer) : nullptr;
@@ -282,7 +282,7 @@ void HostWindow::onEditToggled(bool isOn)
     m_undoGroup.setActiveStack(editor->stack());
 }
 
-void HostWindow::onCleanChanged(bool isClean)
+void MainWindow::onCleanChanged(bool isClean)
 {
     // Without a stack the edits made so far are there to stay.
     if (!m_undoGroup.activeStack())
@@ -291,7 +291,7 @@ void HostWindow::onCleanChanged(bool isClean)
         setWindowModified(m_hasLastingEdits || !isClean);
 }
 
-void HostWindow::updateState()
+void MainWindow::updateState()
 {
     const bool hasDrawing = !m_fileName.isEmpty();
     m_saveAction->setEnabled(hasDrawing);
@@ -305,7 +305,7 @@ void HostWindow::updateState()
 }
 
 /// Asks before unsaved edits are thrown away, and offers to save them.
-bool HostWindow::mayDiscardEdits()
+bool MainWindow::mayDiscardEdits()
 {
     if (!isWindowModified())
         return true;
@@ -324,14 +324,14 @@ bool HostWindow::mayDiscardEdits()
     }
 }
 
-QString HostWindow::chosenFile(QFileDialog& dialog)
+QString MainWindow::chosenFile(QFileDialog& dialog)
 {
     if (dialog.exec() != QDialog::Accepted)
         return QString();
     return dialog.selectedFiles().value(0);
 }
 
-void HostWindow::showError(const QString& what, const QString& fileName, const QString& reason)
+void MainWindow::showError(const QString& what, const QString& fileName, const QString& reason)
 {
     m_waitCursor.reset();
     QMessageBox box(QMessageBox::Critical, QString(), what, QMessageBox::Ok, this);
@@ -340,18 +340,18 @@ void HostWindow::showError(const QString& what, const QString& fileName, const Q
     box.exec();
 }
 
-void HostWindow::closeEvent(QCloseEvent* event)
+void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(mayDiscardEdits());
 }
 
-void HostWindow::dragEnterEvent(QDragEnterEvent* event)
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     if (!draggedDrawing(event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
-void HostWindow::dropEvent(QDropEvent* event)
+void MainWindow::dropEvent(QDropEvent* event)
 {
     const QString fileName = draggedDrawing(event->mimeData());
     if (fileName.isEmpty())
