@@ -19,6 +19,8 @@
 #include <QUndoView>
 #include <QVector>
 
+#include <utility>
+
 namespace
 {
 
@@ -122,8 +124,23 @@ void DXFViewer::load(const Source& source)
     // Held here as well: what listens to the log may load something else meanwhile.
     const auto document = QSharedPointer<DXFDocument>::create();
     m_document = document;
-    DXFReader reader(*document);
-    if (reader.load(source))
+    // Nor need the window outlive the messages.
+    const QPointer<DXFViewer> self(this);
+    const bool isRead = DXFReader(*document).load(source);
+    if (self)
+        finishLoad(isRead);
+}
+
+void DXFViewer::loadDocument(QSharedPointer<DXFDocument> document)
+{
+    const bool isRead = !document.isNull();
+    m_document = isRead ? std::move(document) : QSharedPointer<DXFDocument>::create();
+    finishLoad(isRead);
+}
+
+void DXFViewer::finishLoad(bool isRead)
+{
+    if (isRead)
         QTimer::singleShot(postLoadDelayMs, this, SLOT(postLoad()));
     else
         qDebug("Load failed");

@@ -22,10 +22,10 @@ class View;
 /**
  * A ready window that shows a DXF drawing and lets the user erase parts of it.
  *
- * The host hands a drawing in with loadData() and takes it back with getData(). The user switches
- * the action "Edit .dxf" on and sweeps the eraser; Undo and Redo then stand in the tool bar. There
- * is one edit mode in the whole process: switching it on in one window ends it in any other, and
- * so does destroying any window.
+ * The host hands a drawing in with loadData() or loadDocument() and takes it back with getData().
+ * The user switches the action "Edit .dxf" on and sweeps the eraser; Undo and Redo then stand in
+ * the tool bar. There is one edit mode in the whole process: switching it on in one window ends it
+ * in any other, and so does destroying any window.
  */
 class DXFVIEWER_EXPORT DXFViewer : public QMainWindow
 {
@@ -45,6 +45,14 @@ public:
     void loadData(const QString& fileName);
     /// The same from the text of a DXF file, up to its first zero byte.
     void loadData(const QByteArray& text);
+    /**
+     * Shows a document that the host has read itself, with any reader, in the way that loadData()
+     * shows one: getData() returns it at once, and it is on the screen 5 ms later.
+     *
+     * The window shares the document from then on: edits go into it. A null pointer is a load that
+     * failed, and the window's document is a new empty one.
+     */
+    void loadDocument(QSharedPointer<DXFDocument> document);
 
     /// The drawing with all edits as release-12 DXF: layers, line types and polylines. Empty if
     /// nothing was ever loaded or if it could not be written.
@@ -59,6 +67,7 @@ private Q_SLOTS:
 private:
     template <typename Source>
     void load(const Source& source);
+    void finishLoad(bool isRead);
     bool hasItem() const;
     void endEditingOfItem();
     void deleteItem();

@@ -549,6 +549,90 @@ TEST_F(FailedLoadTest, FolderInPlaceOfAFileFailsToo)
                            QStringLiteral("Load failed")}));
 }
 
+// Documents that the host has read
+
+class LoadDocumentTest : public DXFViewerTest
+{
+protected:
+    const QSharedPointer<DXFDocument> document = makeDocument({makePolyline({{0, 0}, {30, 40}})});
+};
+
+TEST_F(LoadDocumentTest, IsShownFromTheEventLoop)
+{
+    window->loadDocument(document);
+
+    EXPECT_THAT(itemsOf(*window), IsEmpty());
+    ASSERT_TRUE(eventually([this] { return itemsOf(*window).size() == 1; }));
+    EXPECT_EQ(shownDocument(*window), document);
+    EXPECT_THAT(linesOf(document), ElementsAre(QLineF(0, 0, 30, 40)));
+    EXPECT_EQ(sceneOf(*window).sceneRect(), QRectF(-5000, -5000, 10030, 10040));
+    EXPECT_THAT(takeDebugMessages(), IsEmpty());
+}
+
+TEST_F(LoadDocumentTest, IsShownAfterFiveMilliseconds)
+{
+    const auto before = timerIntervals();
+
+    window->loadDocument(document);
+
+    auto after = timerIntervals();
+    for (const int interval : before)
+        after.removeOne(interval);
+    EXPECT_THAT(after, ElementsAre(5));
+}
+
+TEST_F(LoadDocumentTest, CanBeTakenAtOnce)
+{
+    window->loadDocument(document);
+
+    EXPECT_EQ(window->getData().count("VERTEX"), 2);
+}
+
+TEST_F(LoadDocumentTest, ReplacesADrawingAndEndsEditMode)
+{
+    ASSERT_TRUE(loadAndShow(*window, square));
+    editActionOf(*window).setChecked(true);
+
+    window->loadDocument(document);
+    ASSERT_TRUE(eventually([this] { return shownDocument(*window) == document; }));
+
+    EXPECT_THAT(itemsOf(*window), SizeIs(1));
+    EXPECT_THAT(editorsOf(*window), IsEmpty());
+    EXPECT_FALSE(editActionOf(*window).isChecked());
+}
+
+TEST_F(LoadDocumentTest, MayBeShownTwice)
+{
+    window->loadDocument(document);
+    ASSERT_TRUE(eventually([this] { return shownDocument(*window) == document; }));
+    const QVector<int> ids = segmentIdsOf(document);
+    const auto first = itemsOf(*window).first()->lifeToken();
+
+    window->loadDocument(document);
+    ASSERT_TRUE(eventually([&] { return first.expired(); }));
+
+    EXPECT_EQ(shownDocument(*window), document);
+    EXPECT_EQ(segmentIdsOf(document), ids);
+}
+
+TEST_F(LoadDocumentTest, NullIsALoadThatFailed)
+{
+    ASSERT_TRUE(loadAndShow(*window, square));
+    editActionOf(*window).setChecked(true);
+    const auto shown = shownDocument(*window);
+    const auto timers = timerIntervals();
+    takeDebugMessages();
+
+    window->loadDocument(nullptr);
+
+    EXPECT_THAT(takeDebugMessages(), ElementsAre(QStringLiteral("Load failed")));
+    EXPECT_EQ(timerIntervals(), timers);
+    EXPECT_EQ(shownDocument(*window), shown);
+    EXPECT_THAT(editorsOf(*window), SizeIs(1));
+    EXPECT_TRUE(editActionOf(*window).isChecked());
+    EXPECT_EQ(window->getData(), emptyDrawing());
+}
+
 // Taking the drawing
 
 TEST_F(DXFViewerTest, NothingLoadedMeansNoData)
