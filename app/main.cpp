@@ -33,7 +33,7 @@ public:
         , m_picture(
               QStringLiteral("picture"),
               Texts::tr("Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit."),
-              QStringLiteral("FILE"))
+              Texts::tr("FILE"))
     {
         m_parser.setApplicationDescription(
             Texts::tr("Views DXF drawings and erases parts of them."));

@@ -7,9 +7,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 # shellcheck disable=SC2034
 {
     BUILD_PACKAGES=(g++ cmake ninja-build pkg-config libdxflib-dev)
-    QT5_PACKAGES=(qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev)
+    QT5_PACKAGES=(qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5-dev
+        qttranslations5-l10n)
     QT6_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev
-        libgl1-mesa-dev)
+        libgl1-mesa-dev qt6-translations-l10n)
     DEBIAN_PACKAGES=(file dpkg-dev fakeroot)
     TEST_PACKAGES=(libgtest-dev libgmock-dev xvfb xauth locales fonts-dejavu-core
         "${DEBIAN_PACKAGES[@]}" lintian desktop-file-utils appstream)

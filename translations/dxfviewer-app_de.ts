@@ -9,15 +9,19 @@
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>Ein Bild der Zeichnung nach FILE schreiben (.png, .svg oder .pdf) und beenden.</translation>
+        <translation>Ein Bild der Zeichnung in DATEI speichern (.png, .svg oder .pdf) und beenden.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
-        <translation>Zeigt DXF-Zeichnungen und radiert Teile davon aus.</translation>
+        <translation>Zeigt DXF-Zeichnungen an und radiert Teile davon aus.</translation>
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>Eine .dxf-Datei, die geöffnet wird.</translation>
+        <translation>Zu öffnende .dxf-Datei.</translation>
     </message>
     <message>
         <source>%1
@@ -37,7 +41,7 @@
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Das Bild kann nicht geschrieben werden.</translation>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
@@ -60,19 +64,19 @@
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Es ist eine binäre Datei. Nur die Textform von DXF kann gelesen werden.</translation>
+        <translation>Das ist eine Binärdatei. Nur DXF im Textformat (ASCII) kann gelesen werden.</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
-        <translation>Es ist keine DXF-Zeichnung.</translation>
+        <translation>Das ist keine DXF-Zeichnung.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>Es gibt keine solche Datei.</translation>
+        <translation>Die Datei existiert nicht.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation>Es ist keine gewöhnliche Datei.</translation>
+        <translation>Das ist keine reguläre Datei.</translation>
     </message>
     <message>
         <source>The file is too large.</source>
@@ -159,7 +163,7 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-Nur Layer, Linientypen und Polylinien werden gespeichert. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihre Schlusskante, und Bögen in Polylinien werden gerade.</translation>
+Nur Layer, Linientypen und Polylinien werden gespeichert. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihr schließendes Segment, und Bögen in Polylinien werden gerade.</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -175,7 +179,7 @@ Nur Layer, Linientypen und Polylinien werden gespeichert. Alles andere in der Da
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Das Bild kann nicht geschrieben werden.</translation>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>No drawing</source>

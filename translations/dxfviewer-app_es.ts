@@ -9,7 +9,11 @@
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>Escribir una imagen del dibujo en FILE (.png, .svg o .pdf) y salir.</translation>
+        <translation>Guardar una imagen del dibujo en ARCHIVO (.png, .svg o .pdf) y salir.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARCHIVO</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -17,7 +21,7 @@
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>Un archivo .dxf que abrir.</translation>
+        <translation>Archivo .dxf que se abrirá.</translation>
     </message>
     <message>
         <source>%1
@@ -37,7 +41,7 @@
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>No se puede escribir la imagen.</translation>
+        <translation>No se puede guardar la imagen.</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
@@ -60,7 +64,7 @@
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Es un archivo binario. Solo se puede leer la forma de texto de DXF.</translation>
+        <translation>Es un archivo binario. Solo se puede leer DXF en formato de texto (ASCII).</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
@@ -68,7 +72,7 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>No existe ese archivo.</translation>
+        <translation>El archivo no existe.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
@@ -151,7 +155,7 @@
     </message>
     <message>
         <source>Replace the drawing that was opened?</source>
-        <translation>¿Reemplazar el dibujo que se abrió?</translation>
+        <translation>¿Reemplazar el dibujo abierto?</translation>
     </message>
     <message>
         <source>%1
@@ -159,7 +163,7 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores de polilíneas sueltas. Una vez que se ha borrado algo, las polilíneas cerradas pierden su lado de cierre y los arcos de las polilíneas se vuelven rectos.</translation>
+Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores propios de cada polilínea. Una vez que se ha borrado algo, las polilíneas cerradas pierden su segmento de cierre y los arcos de las polilíneas se vuelven rectos.</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -175,7 +179,7 @@ Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contien
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>No se puede escribir la imagen.</translation>
+        <translation>No se puede guardar la imagen.</translation>
     </message>
     <message>
         <source>No drawing</source>

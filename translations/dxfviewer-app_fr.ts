@@ -5,11 +5,15 @@
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
-        <translation>Démarrer en mode d’édition.</translation>
+        <translation>Démarrer en mode édition.</translation>
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>Écrire une image du dessin dans FILE (.png, .svg ou .pdf) et quitter.</translation>
+        <translation>Enregistrer une image du dessin dans FICHIER (.png, .svg ou .pdf) et quitter.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>FICHIER</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -17,7 +21,7 @@
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>Un fichier .dxf à ouvrir.</translation>
+        <translation>Fichier .dxf à ouvrir.</translation>
     </message>
     <message>
         <source>%1
@@ -33,11 +37,11 @@
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Il ne peut pas être lu.</translation>
+        <translation>Impossible de le lire.</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Impossible d’écrire l’image.</translation>
+        <translation>Impossible d’enregistrer l’image.</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
@@ -60,7 +64,7 @@
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>C’est un fichier binaire. Seule la forme texte de DXF peut être lue.</translation>
+        <translation>C’est un fichier binaire. Seul le format DXF texte (ASCII) peut être lu.</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
@@ -68,7 +72,7 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>Ce fichier n’existe pas.</translation>
+        <translation>Le fichier n’existe pas.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
@@ -76,7 +80,7 @@
     </message>
     <message>
         <source>The file is too large.</source>
-        <translation>Le fichier est trop grand.</translation>
+        <translation>Le fichier est trop volumineux.</translation>
     </message>
 </context>
 <context>
@@ -95,7 +99,7 @@
     </message>
     <message>
         <source>Export &amp;Picture…</source>
-        <translation>Exporter une &amp;image…</translation>
+        <translation>Exporter en tant qu’&amp;image…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -119,7 +123,7 @@
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Il ne peut pas être lu.</translation>
+        <translation>Impossible de le lire.</translation>
     </message>
     <message>
         <source>There are no polylines in this drawing, so nothing is shown.</source>
@@ -159,7 +163,7 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs de polylignes isolées. Dès que quelque chose a été effacé, les polylignes fermées perdent leur côté de fermeture et les arcs des polylignes deviennent droits.</translation>
+Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs propres à chaque polyligne. Dès que quelque chose a été effacé, les polylignes fermées perdent leur segment de fermeture et les arcs des polylignes deviennent droits.</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -171,11 +175,11 @@ Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout 
     </message>
     <message>
         <source>Export Picture</source>
-        <translation>Exporter une image</translation>
+        <translation>Exporter en tant qu’image</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Impossible d’écrire l’image.</translation>
+        <translation>Impossible d’enregistrer l’image.</translation>
     </message>
     <message>
         <source>No drawing</source>

@@ -9,7 +9,11 @@
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>図面の画像を FILE（.png、.svg、.pdf）に書き込んで終了します。</translation>
+        <translation>図面の画像をファイル（.png、.svg、.pdf）に保存して終了します。</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -33,11 +37,11 @@
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>読み取れません。</translation>
+        <translation>読み込めません。</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>画像を書き込めません。</translation>
+        <translation>画像を保存できません。</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
@@ -60,7 +64,7 @@
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>バイナリファイルです。読み取れるのはテキスト形式の DXF だけです。</translation>
+        <translation>バイナリファイルです。読み込めるのはテキスト形式 (ASCII) の DXF だけです。</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
@@ -68,7 +72,7 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>そのファイルはありません。</translation>
+        <translation>ファイルが存在しません。</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
@@ -111,7 +115,7 @@
     </message>
     <message>
         <source>Redo</source>
-        <translation>やり直し</translation>
+        <translation>やり直す</translation>
     </message>
     <message>
         <source>The drawing cannot be opened.</source>
@@ -119,7 +123,7 @@
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>読み取れません。</translation>
+        <translation>読み込めません。</translation>
     </message>
     <message>
         <source>There are no polylines in this drawing, so nothing is shown.</source>
@@ -159,7 +163,7 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-保存されるのは画層、線種、ポリラインだけです。ファイル内のそれ以外のもの（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。一度でも消去すると、閉じたポリラインは閉じる辺を失い、ポリラインの円弧部分は直線になります。</translation>
+保存されるのは画層、線種、ポリラインだけです。ファイル内のそれ以外のもの（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。一度でも消去すると、閉じたポリラインでは閉じる線分が失われ、ポリラインの円弧部分は直線になります。</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -175,7 +179,7 @@ Only layers, line types and polylines are saved. Everything else that the file h
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>画像を書き込めません。</translation>
+        <translation>画像を保存できません。</translation>
     </message>
     <message>
         <source>No drawing</source>
@@ -190,15 +194,15 @@ Only layers, line types and polylines are saved. Everything else that the file h
     <name>Picture</name>
     <message>
         <source>The name of a picture must end in .png, .svg or .pdf.</source>
-        <translation>画像の名前は .png、.svg、.pdf のいずれかで終わる必要があります。</translation>
+        <translation>画像の拡張子は .png、.svg、.pdf のいずれかにしてください。</translation>
     </message>
     <message>
         <source>The drawing&apos;s coordinates are too large for a picture.</source>
-        <translation>図面の座標が画像には大きすぎます。</translation>
+        <translation>座標が大きすぎるため画像を作成できません。</translation>
     </message>
     <message>
         <source>There is not enough memory for the picture.</source>
-        <translation>画像用のメモリが足りません。</translation>
+        <translation>メモリ不足のため画像を作成できません。</translation>
     </message>
 </context>
 </TS>

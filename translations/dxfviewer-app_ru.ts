@@ -5,11 +5,15 @@
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
-        <translation>Запустить в режиме правки.</translation>
+        <translation>Сразу включить режим редактирования.</translation>
     </message>
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
-        <translation>Записать изображение чертежа в FILE (.png, .svg или .pdf) и выйти.</translation>
+        <translation>Сохранить изображение чертежа в ФАЙЛ (.png, .svg или .pdf) и выйти.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ФАЙЛ</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -17,7 +21,7 @@
     </message>
     <message>
         <source>A .dxf file to open.</source>
-        <translation>Файл .dxf, который нужно открыть.</translation>
+        <translation>Открываемый файл .dxf.</translation>
     </message>
     <message>
         <source>%1
@@ -33,11 +37,11 @@
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Его нельзя прочитать.</translation>
+        <translation>Не удаётся прочитать чертёж.</translation>
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Не удаётся записать изображение.</translation>
+        <translation>Не удаётся сохранить изображение.</translation>
     </message>
     <message>
         <source>DXF Viewer</source>
@@ -60,7 +64,7 @@
     </message>
     <message>
         <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Это двоичный файл. Читается только текстовая форма DXF.</translation>
+        <translation>Это двоичный файл. Поддерживается только текстовый формат (ASCII) DXF.</translation>
     </message>
     <message>
         <source>It is not a DXF drawing.</source>
@@ -68,7 +72,7 @@
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation>Такого файла нет.</translation>
+        <translation>Файл не существует.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
@@ -76,7 +80,7 @@
     </message>
     <message>
         <source>The file is too large.</source>
-        <translation>Файл слишком велик.</translation>
+        <translation>Файл слишком большой.</translation>
     </message>
 </context>
 <context>
@@ -119,7 +123,7 @@
     </message>
     <message>
         <source>It cannot be read.</source>
-        <translation>Его нельзя прочитать.</translation>
+        <translation>Не удаётся прочитать чертёж.</translation>
     </message>
     <message>
         <source>There are no polylines in this drawing, so nothing is shown.</source>
@@ -159,7 +163,7 @@
 Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>%1
 
-Сохраняются только слои, типы линий и полилинии. Всё остальное, что есть в файле, теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающую сторону, а дуги полилиний становятся прямыми.</translation>
+Сохраняются только слои, типы линий и полилинии. Всё остальное, что есть в файле, теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающий сегмент, а дуги полилиний становятся прямыми.</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -175,7 +179,7 @@ Only layers, line types and polylines are saved. Everything else that the file h
     </message>
     <message>
         <source>The picture cannot be written.</source>
-        <translation>Не удаётся записать изображение.</translation>
+        <translation>Не удаётся сохранить изображение.</translation>
     </message>
     <message>
         <source>No drawing</source>
@@ -190,7 +194,7 @@ Only layers, line types and polylines are saved. Everything else that the file h
     <name>Picture</name>
     <message>
         <source>The name of a picture must end in .png, .svg or .pdf.</source>
-        <translation>Имя изображения должно заканчиваться на .png, .svg или .pdf.</translation>
+        <translation>Имя файла изображения должно заканчиваться на .png, .svg или .pdf.</translation>
     </message>
     <message>
         <source>The drawing&apos;s coordinates are too large for a picture.</source>

@@ -41,7 +41,7 @@
     </message>
     <message>
         <source>Redo</source>
-        <translation>やり直し</translation>
+        <translation>やり直す</translation>
     </message>
 </context>
 </TS>

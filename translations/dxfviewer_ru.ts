@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Edit .dxf</source>
-        <translation>Изменить .dxf</translation>
+        <translation>Редактировать .dxf</translation>
     </message>
     <message>
         <source>Ctrl+E</source>
