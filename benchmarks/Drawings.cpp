@@ -5,7 +5,7 @@
 #include "dxfviewer/model/DXFAttributes.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFLayer.h"
-#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/Polylines.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +17,6 @@ namespace dxfbench
 namespace
 {
 
-constexpr int polylineType = 0;
 constexpr unsigned seed = 20;
 constexpr double longestStep = 20.0;
 constexpr double decimalsFactor = 1000.0;
@@ -173,9 +172,10 @@ Spans spansOf(const DXFDocument& document)
     Spans spans;
     const auto entities = document.entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
+        const DXFPolyline* polyline = dxfviewer::asPolyline(entity);
+        if (!polyline)
             continue;
-        const auto segments = static_cast<const DXFPolyline&>(*entity).segments();
+        const auto segments = polyline->segments();
         spans.emplace_back(segments.constData(), segments.constData() + segments.size());
     }
     return spans;

@@ -4,7 +4,7 @@
 
 #include "dxfviewer/edit/DeleteItems.h"
 #include "dxfviewer/model/DXFDocument.h"
-#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/Polylines.h"
 
 #include <QUndoStack>
 
@@ -50,7 +50,7 @@ double changedBytes(const DXFDocument& document, const QVector<int>& deleted)
     double bytes = 0.0;
     const auto entities = document.entities();
     for (const auto& entity : entities) {
-        const auto segments = static_cast<const DXFPolyline&>(*entity).segments();
+        const auto segments = dxfviewer::asPolyline(entity)->segments();
         const bool losesOne = std::any_of(segments.cbegin(), segments.cend(), [&](const auto& one) {
             return deleted.contains(one.id());
         });

@@ -2,7 +2,7 @@
 
 #include "fuzz/Drawing.h"
 
-#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/Polylines.h"
 
 #include <QSet>
 
@@ -17,7 +17,6 @@ namespace dxffuzz
 namespace
 {
 
-constexpr int polylineType = 0;
 // Half of the last decimal that is written, and what reading a decimal number rounds.
 constexpr double writtenPrecision = 0.6e-16;
 constexpr double relativePrecision = 1e-15;
@@ -73,10 +72,11 @@ QVector<DXFPolyline*> polylinesOf(const DXFDocument& document)
     QSet<const DXFEntity*> seen;
     const auto entities = document.entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType || seen.contains(entity.data()))
+        DXFPolyline* polyline = dxfviewer::asPolyline(entity);
+        if (!polyline || seen.contains(polyline))
             continue;
-        seen.insert(entity.data());
-        polylines.append(static_cast<DXFPolyline*>(entity.data()));
+        seen.insert(polyline);
+        polylines.append(polyline);
     }
     return polylines;
 }
@@ -86,11 +86,11 @@ QVector<Shape> shapesOf(const DXFDocument& document)
     QVector<Shape> shapes;
     const auto entities = document.entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
+        const DXFPolyline* polyline = dxfviewer::asPolyline(entity);
+        if (!polyline)
             continue;
-        const auto& polyline = static_cast<const DXFPolyline&>(*entity);
-        Shape shape{polyline.isClosed(), {}};
-        for (const DXFVertex& vertex : polyline.vertices())
+        Shape shape{polyline->isClosed(), {}};
+        for (const DXFVertex& vertex : polyline->vertices())
             shape.numbers << vertex.x() << vertex.y() << vertex.z() << vertex.bulge();
         shapes.append(shape);
     }

@@ -3,8 +3,9 @@
 #include "dxfviewer/edit/DeleteItems.h"
 
 #include "dxfviewer/model/DXFDocument.h"
-#include "dxfviewer/model/DXFPolyline.h"
 #include "dxfviewer/model/IdSet.h"
+#include "dxfviewer/model/PolylineAccess.h"
+#include "dxfviewer/model/Polylines.h"
 
 #include <QScopedValueRollback>
 
@@ -13,12 +14,12 @@
 #include <utility>
 #include <vector>
 
+using dxfviewer::asPolyline;
 using dxfviewer::IdSet;
+using dxfviewer::PolylineAccess;
 
 namespace
 {
-
-constexpr int polylineType = 0;
 
 using EntityList = QList<QSharedPointer<DXFEntity>>;
 
@@ -160,9 +161,8 @@ DeleteItems::EntityList DeleteItems::cutAll(std::vector<const DXFEntity*>& erase
     EntityList added;
     const EntityList entities = m_document->entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
-            continue;
-        if (!cut(static_cast<DXFPolyline&>(*entity), deleted, formerPieces, added))
+        DXFPolyline* polyline = asPolyline(entity);
+        if (polyline && !cut(*polyline, deleted, formerPieces, added))
             erased.push_back(entity.data());
     }
     return added;
@@ -173,11 +173,12 @@ DeleteItems::EntityList DeleteItems::cutAll(std::vector<const DXFEntity*>& erase
 bool DeleteItems::cut(DXFPolyline& polyline, const IdSet& deleted, PiecesByOrigin& formerPieces,
                       EntityList& added)
 {
-    if (polyline.m_segments.isEmpty())
+    const QVector<Segment>& all = PolylineAccess::segments(polyline);
+    if (all.isEmpty())
         return false;
-    if (losesNothing(polyline.m_segments, deleted)) {
+    if (losesNothing(all, deleted)) {
         // Its own list, so that it stays shared with the snapshot.
-        polyline.setSegments(polyline.m_segments);
+        polyline.setSegments(all);
         return true;
     }
 
@@ -197,13 +198,13 @@ QSharedPointer<DXFPolyline> DeleteItems::makePiece(DXFPolyline& cutPolyline, con
                                                    PiecesByOrigin& formerPieces)
 {
     QSharedPointer<DXFPolyline> piece(cutPolyline.clone());
-    piece->setVerticesAlong(run.begin, run.end);
+    PolylineAccess::setVerticesAlong(*piece, run.begin, run.end);
     piece->setup();
 
     const int origin = run.begin->id();
     const auto former = formerPieces.find(origin);
     if (former != formerPieces.end() && !former->isEmpty())
-        piece->takeSegmentIdsFrom(former->takeFirst());
+        PolylineAccess::takeSegmentIdsFrom(*piece, former->takeFirst());
     else
         m_pieces[origin].append(piece->segments());
     return piece;

@@ -3,7 +3,8 @@
 #include "dxfviewer/edit/RubberTool.h"
 
 #include "dxfviewer/model/DXFDocument.h"
-#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/PolylineAccess.h"
+#include "dxfviewer/model/Polylines.h"
 
 #include <QBrush>
 #include <QEvent>
@@ -18,10 +19,12 @@
 #include <cmath>
 #include <utility>
 
+using dxfviewer::asPolyline;
+using dxfviewer::PolylineAccess;
+
 namespace
 {
 
-constexpr int polylineType = 0;
 constexpr double eraserRadiusPx = 5.0;
 constexpr int deleteIntervalMs = 50;
 
@@ -113,9 +116,10 @@ QVector<int> RubberTool::itemsUnderMouse(QPointF pos) const
     const Reach reach(pos, radius);
     const auto entities = m_document->entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
+        const DXFPolyline* polyline = asPolyline(entity);
+        if (!polyline)
             continue;
-        for (const Segment& segment : static_cast<const DXFPolyline&>(*entity).m_segments) {
+        for (const Segment& segment : PolylineAccess::segments(*polyline)) {
             const QLineF line = segment.line();
             if (!reach.isFarFrom(line) && radius > distPointToSegment(pos, line))
                 ids.append(segment.id());

@@ -7,7 +7,7 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
-#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/Polylines.h"
 
 #include <QDebug>
 
@@ -18,7 +18,6 @@
 namespace
 {
 
-constexpr int polylineType = 0;
 constexpr int unknownType = -1;
 
 // Enough for the layers and colours of most drawings.
@@ -143,14 +142,11 @@ void DXFReader::addVertex(const DL_VertexData& data)
     if (!m_currentEntity)
         return;
 
-    const int type = m_currentEntity->type();
-    if (type == unknownType)
+    if (m_currentEntity->type() == unknownType)
         qDebug() << "addVertex"
                  << "Unsuported type";
-    if (type != polylineType)
-        return;
-
-    static_cast<DXFPolyline*>(m_currentEntity.data())->appendPoint(DXFAdapter::makeVertex(data));
+    if (auto* polyline = dxfviewer::asPolyline(m_currentEntity))
+        polyline->appendPoint(DXFAdapter::makeVertex(data));
 }
 
 void DXFReader::endEntity()

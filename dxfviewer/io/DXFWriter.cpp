@@ -7,7 +7,7 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
-#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/Polylines.h"
 
 #include <QDebug>
 #include <QTemporaryFile>
@@ -19,7 +19,6 @@ using dxfviewer::GroupWriter;
 namespace
 {
 
-constexpr int polylineType = 0;
 constexpr int unknownType = -1;
 
 constexpr DL_Codes::version fileVersion = DL_Codes::AC1009;
@@ -232,7 +231,7 @@ void DXFWriter::writeEntities_section()
         const int type = entity->type();
         if (type == unknownType)
             qDebug("DXFWriter:: attempted writing of unsuported entity");
-        else if (type == polylineType)
+        else if (type == dxfviewer::polylineType)
             writePolyline(entity.staticCast<DXFPolyline>());
     }
     m_writer->sectionEnd();

@@ -5,22 +5,17 @@
 #include "dxfviewer/model/DXFEntity.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
-#include "dxfviewer/model/DXFPolyline.h"
 #include "dxfviewer/model/IdSet.h"
+#include "dxfviewer/model/PolylineAccess.h"
+#include "dxfviewer/model/Polylines.h"
 #include "dxfviewer/render/DXFPaintHelper.h"
 
+using dxfviewer::asPolyline;
 using dxfviewer::IdSet;
+using dxfviewer::PolylineAccess;
 
 namespace
 {
-
-constexpr int polylineType = 0;
-
-/// The entity as a polyline, or null if it is another kind.
-DXFPolyline* asPolyline(const QSharedPointer<DXFEntity>& entity)
-{
-    return entity->type() == polylineType ? static_cast<DXFPolyline*>(entity.data()) : nullptr;
-}
 
 /// Adds a named object to its list unless it is null or its name is taken: the first one wins.
 template <typename Named>
@@ -79,7 +74,7 @@ void DXFDocument::setSelected(QVector<int> ids)
             continue;
         entity->setSelected(set.contains(entity->id()));
         if (auto* polyline = asPolyline(entity))
-            polyline->selectSegments(set);
+            PolylineAccess::selectSegments(*polyline, set);
     }
 }
 
@@ -91,7 +86,7 @@ void DXFDocument::setHovered(QVector<int> ids)
             continue;
         entity->setHovered(set.contains(entity->id()));
         if (auto* polyline = asPolyline(entity))
-            polyline->hoverSegments(set);
+            PolylineAccess::hoverSegments(*polyline, set);
     }
 }
 
@@ -99,12 +94,12 @@ QVector<int> DXFDocument::selectedIDs() const
 {
     QVector<int> ids;
     for (const auto& entity : m_entities) {
-        const DXFPolyline* polyline = entity ? asPolyline(entity) : nullptr;
+        const DXFPolyline* polyline = asPolyline(entity);
         if (!polyline)
             continue;
         if (polyline->isSelected())
             ids.append(polyline->id());
-        for (const Segment& segment : qAsConst(polyline->m_segments)) {
+        for (const Segment& segment : PolylineAccess::segments(*polyline)) {
             if (segment.isSelected())
                 ids.append(segment.id());
         }

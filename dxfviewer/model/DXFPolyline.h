@@ -12,9 +12,8 @@
 namespace dxfviewer
 {
 class IdSet;
-}
-
-class DeleteItems;
+class PolylineAccess;
+} // namespace dxfviewer
 
 /**
  * A polyline: the vertices that the file gives, and the straight segments derived from them.
@@ -81,14 +80,7 @@ public:
     void setHoveredSegments(QVector<int> ids);
 
 private:
-    // A document passes one prepared list to all of its polylines.
-    friend class DXFDocument;
-    // A redo makes the same pieces as before, with the same segment ids.
-    friend class DeleteItems;
-    // Walks over all segments, for which even a shared copy of each list is dear: it is counted in
-    // memory that the walk would otherwise only read.
-    friend class DXFGraphicsItem;
-    friend class RubberTool;
+    friend class dxfviewer::PolylineAccess;
 
     void takeSegmentIdsFrom(const QVector<Segment>& segments);
     void selectSegments(const dxfviewer::IdSet& ids);
@@ -101,7 +93,8 @@ private:
     // Whether setSegments() made the vertices and they are still those.
     bool m_verticesFollowSegments = false;
     QVector<Segment> m_segments;
-    // A second pair that nothing reads: what is painted are the values of DXFEntity.
+    // A second pair that nothing reads: what is painted are the values of DXFEntity. It is part of
+    // what a polyline is made of and stays for that reason alone.
     QColor m_ownColor;
     int m_ownLineWidth = 0;
     unsigned int m_mVertices;

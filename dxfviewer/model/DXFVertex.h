@@ -35,7 +35,8 @@ private:
     double m_x = 0.0;
     double m_y = 0.0;
     double m_z = 0.0;
-    // Set by every creator and read by none.
+    // Set by every creator and read by none. It is part of a vertex in memory and stays for that
+    // reason alone.
     [[maybe_unused]] bool m_flag = true;
     double m_bulge = 0.0;
 };

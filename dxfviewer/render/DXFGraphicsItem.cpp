@@ -3,7 +3,8 @@
 #include "dxfviewer/render/DXFGraphicsItem.h"
 
 #include "dxfviewer/model/DXFDocument.h"
-#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/model/PolylineAccess.h"
+#include "dxfviewer/model/Polylines.h"
 
 #include <QDebug>
 #include <QPainter>
@@ -11,10 +12,11 @@
 #include <array>
 #include <utility>
 
+using dxfviewer::asPolyline;
+using dxfviewer::PolylineAccess;
+
 namespace
 {
-
-constexpr int polylineType = 0;
 
 QRectF rectOf(const QLineF& line)
 {
@@ -198,9 +200,10 @@ void DXFGraphicsItem::refresh()
     Bounds bounds;
     const auto entities = m_document->entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
+        const DXFPolyline* polyline = asPolyline(entity);
+        if (!polyline)
             continue;
-        for (const Segment& segment : static_cast<const DXFPolyline&>(*entity).m_segments)
+        for (const Segment& segment : PolylineAccess::segments(*polyline))
             bounds.unite(segment.line());
     }
     m_rect = bounds.rect();
@@ -235,9 +238,10 @@ void DXFGraphicsItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /
     EntityPens pens(*painter);
     const auto entities = m_document->entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
+        const DXFPolyline* polyline = asPolyline(entity);
+        if (!polyline)
             continue;
-        const auto segments = static_cast<const DXFPolyline&>(*entity).segments();
+        const auto segments = polyline->segments();
         if (m_overridePen)
             drawSegments(*painter, segments);
         else

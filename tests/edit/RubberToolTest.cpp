@@ -860,9 +860,8 @@ protected:
     {
         const double radius = 5.0 / view.transform().m11();
         QVector<int> expected;
-        const auto entities = document->entities();
-        for (const auto& entity : entities) {
-            const auto segments = entity.staticCast<DXFPolyline>()->segments();
+        for (const DXFPolyline* polyline : polylinesOf(*document)) {
+            const auto segments = polyline->segments();
             for (const Segment& segment : segments) {
                 ++m_asked;
                 if (radius > distPointToSegment(pos, segment.line()))

@@ -10,6 +10,7 @@
 #include "dxfviewer/model/DXFLineType.h"
 #include "dxfviewer/model/DXFPolyline.h"
 #include "tests/io/CallRecorder.h"
+#include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
 
 #include <QDir>
@@ -25,9 +26,7 @@ namespace
 QStringList geometryOf(const DXFDocument& document)
 {
     QStringList lines;
-    const auto entities = document.entities();
-    for (const auto& entity : entities) {
-        const auto polyline = entity.staticCast<DXFPolyline>();
+    for (const DXFPolyline* polyline : polylinesOf(document)) {
         QString line =
             polyline->attributes()->layerName() + QLatin1Char(' ') + polyline->toString();
         for (const DXFVertex& vertex : polyline->vertices()) {
@@ -117,9 +116,7 @@ TEST_P(ExtraDrawingsTest, SavedDrawingKeepsGeometryLayersAndFlags)
         // dxflib never ends a polyline without vertices, and the format has no place for the
         // counts of a mesh in what it writes.
         DXFDocument expected;
-        const auto entities = document.entities();
-        for (const auto& entity : entities) {
-            const auto read = entity.staticCast<DXFPolyline>();
+        for (const DXFPolyline* read : polylinesOf(document)) {
             if (read->vertices().isEmpty())
                 continue;
             const auto polyline = QSharedPointer<DXFPolyline>::create(0U, 0U, read->flags());

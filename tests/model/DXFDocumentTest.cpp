@@ -611,9 +611,9 @@ void expectFlags(const DXFDocument& document, const QVector<int>& ids, FlagOf fl
         if (!entity)
             continue;
         EXPECT_EQ(((*entity).*flag)(), ids.contains(entity->id()));
-        if (entity->type() != 0)
-            continue;
-        const auto segments = static_cast<const DXFPolyline&>(*entity).segments();
+    }
+    for (const DXFPolyline* polyline : polylinesOf(document)) {
+        const auto segments = polyline->segments();
         for (const Segment& segment : segments)
             EXPECT_EQ((segment.*flag)(), ids.contains(segment.id())) << segment.id();
     }
@@ -622,13 +622,10 @@ void expectFlags(const DXFDocument& document, const QVector<int>& ids, FlagOf fl
 QVector<int> plainSelectedIds(const DXFDocument& document)
 {
     QVector<int> ids;
-    const auto entities = document.entities();
-    for (const auto& entity : entities) {
-        if (!entity || entity->type() != 0)
-            continue;
-        if (entity->isSelected())
-            ids.append(entity->id());
-        const auto segments = static_cast<const DXFPolyline&>(*entity).segments();
+    for (const DXFPolyline* polyline : polylinesOf(document)) {
+        if (polyline->isSelected())
+            ids.append(polyline->id());
+        const auto segments = polyline->segments();
         for (const Segment& segment : segments) {
             if (segment.isSelected())
                 ids.append(segment.id());

@@ -7,6 +7,7 @@
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/model/DXFPolyline.h"
 #include "dxfviewer/render/DXFGraphicsItem.h"
+#include "tests/support/Builders.h"
 
 #include <QGraphicsScene>
 #include <QSet>
@@ -118,13 +119,10 @@ QString problemOf(const DXFDocument& document)
 QString problemOfSelection(const DXFDocument& document, const QVector<int>& ids)
 {
     QVector<int> expected;
-    const auto entities = document.entities();
-    for (const auto& entity : entities) {
-        if (!entity || entity->type() != 0)
-            continue;
-        if (ids.contains(entity->id()))
-            expected.append(entity->id());
-        const auto segments = static_cast<const DXFPolyline&>(*entity).segments();
+    for (const DXFPolyline* polyline : polylinesOf(document)) {
+        if (ids.contains(polyline->id()))
+            expected.append(polyline->id());
+        const auto segments = polyline->segments();
         for (const Segment& segment : segments) {
             if (ids.contains(segment.id()))
                 expected.append(segment.id());

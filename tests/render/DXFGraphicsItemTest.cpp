@@ -745,11 +745,9 @@ protected:
         QImage picture = blankPicture();
         QPainter painter(&picture);
         prepare(painter);
-        for (const auto& entity : document.entities()) {
-            if (!entity || entity->type() != 0)
-                continue;
-            for (const Segment& segment : static_cast<const DXFPolyline&>(*entity).segments()) {
-                QPen pen = cosmeticPen(entity->color(), entity->lineWidth());
+        for (const DXFPolyline* polyline : polylinesOf(document)) {
+            for (const Segment& segment : polyline->segments()) {
+                QPen pen = cosmeticPen(polyline->color(), polyline->lineWidth());
                 if (segment.isHovered())
                     pen.setColor(Qt::darkYellow);
                 if (segment.isSelected())

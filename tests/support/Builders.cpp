@@ -2,24 +2,15 @@
 
 #include "tests/support/Builders.h"
 
+#include "dxfviewer/model/Polylines.h"
+
 namespace dxftest
 {
 
 namespace
 {
 
-constexpr int polylineType = 0;
 constexpr unsigned int closedFlag = 1;
-
-template <typename Visit>
-void visitPolylines(const QSharedPointer<DXFDocument>& document, Visit visit)
-{
-    const auto entities = document->entities();
-    for (const auto& entity : entities) {
-        if (entity && entity->type() == polylineType)
-            visit(static_cast<const DXFPolyline&>(*entity));
-    }
-}
 
 } // namespace
 
@@ -51,6 +42,17 @@ QSharedPointer<DXFDocument> makeDocument(const QList<QSharedPointer<DXFEntity>>&
     for (const auto& entity : entities)
         document->addEntity(entity);
     return document;
+}
+
+QVector<DXFPolyline*> polylinesOf(const DXFDocument& document)
+{
+    QVector<DXFPolyline*> polylines;
+    const auto entities = document.entities();
+    for (const auto& entity : entities) {
+        if (auto* polyline = dxfviewer::asPolyline(entity))
+            polylines.append(polyline);
+    }
+    return polylines;
 }
 
 QSharedPointer<DXFPolyline> polylineAt(const QSharedPointer<DXFDocument>& document, int index)
@@ -85,8 +87,8 @@ QVector<QLineF> linesOf(const DXFPolyline& polyline)
 QVector<QLineF> linesOf(const QSharedPointer<DXFDocument>& document)
 {
     QVector<QLineF> lines;
-    visitPolylines(document,
-                   [&lines](const DXFPolyline& polyline) { lines.append(linesOf(polyline)); });
+    for (const DXFPolyline* polyline : polylinesOf(*document))
+        lines.append(linesOf(*polyline));
     return lines;
 }
 
@@ -102,8 +104,8 @@ QVector<int> segmentIdsOf(const DXFPolyline& polyline)
 QVector<int> segmentIdsOf(const QSharedPointer<DXFDocument>& document)
 {
     QVector<int> ids;
-    visitPolylines(document,
-                   [&ids](const DXFPolyline& polyline) { ids.append(segmentIdsOf(polyline)); });
+    for (const DXFPolyline* polyline : polylinesOf(*document))
+        ids.append(segmentIdsOf(*polyline));
     return ids;
 }
 

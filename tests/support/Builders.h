@@ -30,6 +30,9 @@ QSharedPointer<DXFPolyline> makePolyline(const QVector<QPointF>& points, bool cl
 /// A document that is not set up yet.
 QSharedPointer<DXFDocument> makeDocument(const QList<QSharedPointer<DXFEntity>>& entities);
 
+/// The polylines of a document, one for each entry of its list.
+QVector<DXFPolyline*> polylinesOf(const DXFDocument& document);
+
 /// The entity at a place of the document's list, which must be a polyline.
 QSharedPointer<DXFPolyline> polylineAt(const QSharedPointer<DXFDocument>& document, int index);
 

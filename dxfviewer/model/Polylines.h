@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/model/DXFPolyline.h"
+
+#include <QSharedPointer>
+
+namespace dxfviewer
+{
+
+/// What DXFEntity::type() returns for a polyline.
+constexpr int polylineType = 0;
+
+/// The entity as a polyline; null if it is null or another kind.
+inline DXFPolyline* asPolyline(DXFEntity* entity)
+{
+    return entity && entity->type() == polylineType ? static_cast<DXFPolyline*>(entity) : nullptr;
+}
+
+inline DXFPolyline* asPolyline(const QSharedPointer<DXFEntity>& entity)
+{
+    return asPolyline(entity.data());
+}
+
+} // namespace dxfviewer
