@@ -68,7 +68,7 @@ bool DXFReader::load(const QString& fileName)
 bool DXFReader::load(const QByteArray& data)
 {
     const std::string_view bytes(data.constData(), static_cast<std::size_t>(data.size()));
-    const bool parsed = dxfviewer::parseText(bytes.substr(0, bytes.find('\0')), *this);
+    const bool parsed = dxfviewer::parseText(bytes, *this);
     if (!parsed)
         qDebug("DXFReader::Could not parse dxf data");
     return parsed;

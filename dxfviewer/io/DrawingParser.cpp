@@ -3,32 +3,38 @@
 #include "dxfviewer/io/DrawingParser.h"
 
 #include "dxfviewer/io/ClassicNumbers.h"
+#include "dxfviewer/io/GroupScan.h"
+#include "dxfviewer/io/IReadingSteps.h"
 #include "dxfviewer/io/TextCheck.h"
 #include "dxfviewer/io/TextRepair.h"
 
 #include <QtGlobal>
 
+#include <dl_creationinterface.h>
 #include <dl_dxf.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <istream>
 #include <memory>
+#include <optional>
 #include <sstream>
+#include <streambuf>
 #include <system_error>
-#include <vector>
+#include <utility>
 
 namespace
 {
 
 using dxfviewer::ClassicNumbers;
-using dxfviewer::TextCheck;
 
-// Small enough to stay in the processor's cache.
-constexpr std::size_t pieceLength = 1 << 17;
+// For files that do not tell their size.
+constexpr std::size_t leastRoom = 1 << 17;
 
-/// A parser for one text: it would let one drawing show up in the next.
+/// One parser per text: dxflib carries state over.
 class Parser
 {
 public:
@@ -82,85 +88,126 @@ File openRegularFile(const std::string& name)
     return File(std::fopen(name.c_str(), "rb"));
 }
 
-/// False if the text could not be copied: the stream keeps to itself that memory has run out, but
-/// dxflib refuses such a stream.
-bool parse(std::string_view text, DL_CreationInterface& receiver)
+/// Nothing if it cannot be found out.
+std::uintmax_t sizeOf(const std::string& name)
 {
-    std::stringstream stream;
-    stream.write(text.data(), static_cast<std::streamsize>(text.size()));
-    const Parser parser;
-    return parser->in(stream, &receiver);
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(std::filesystem::path(name), error);
+    return error ? 0 : size;
 }
 
-/// What dxflib does with a file's name, but the file is closed whatever is thrown, and a read error
-/// ends it. False in that case.
-bool parse(std::FILE* file, DL_CreationInterface& receiver)
+/// Text in memory that a stream reads in place.
+class TextBuffer final : public std::streambuf
 {
-    const Parser parser;
-    // A new parser is made ready for the first group by the look for one.
-    std::istringstream nothing;
-    parser->in(nothing, &receiver);
-    while (parser->readDxfGroups(file, &receiver)) {
-        if (std::ferror(file))
-            return false;
+public:
+    void show(const char* begin, const char* end)
+    {
+        // Nothing is ever put back, so nothing is written.
+        char* const text = const_cast<char*>(begin);
+        setg(text, text, text + (end - begin));
     }
-    return true;
-}
+};
 
-bool repairAndParse(std::string_view text, DL_CreationInterface& receiver)
+/// Hands dxflib the groups of a text one by one: the receiver can stop between any two, and keep
+/// groups for itself.
+class GroupFeed
 {
-    return dxfviewer::isSound(text) ? parse(text, receiver)
-                                    : parse(dxfviewer::repaired(text), receiver);
-}
-
-/// Whether dxflib can be given the file as it is. False also if it cannot be read.
-bool isSoundFile(std::FILE* file)
-{
-    std::vector<char> buffer(pieceLength);
-    std::size_t filled = 0;
-    TextCheck check;
-    for (;;) {
-        const std::size_t added =
-            std::fread(buffer.data() + filled, 1, buffer.size() - filled, file);
-        filled += added;
-        if (added == 0)
-            break;
-        const std::size_t looked = check.add({buffer.data(), filled});
-        // A buffer without a pair of lines in it holds a line that is too long.
-        if (!check.isSound() || (looked == 0 && filled == buffer.size()))
-            return false;
-        std::copy(buffer.begin() + static_cast<std::ptrdiff_t>(looked),
-                  buffer.begin() + static_cast<std::ptrdiff_t>(filled), buffer.begin());
-        filled -= looked;
+public:
+    explicit GroupFeed(DL_CreationInterface& receiver)
+        : m_receiver(receiver)
+        , m_steps(dynamic_cast<IReadingSteps*>(&receiver))
+        , m_stream(&m_buffer)
+    {
+        // A new parser is made ready for the first group by the look for one.
+        std::istringstream nothing;
+        m_parser->in(nothing, &m_receiver);
     }
-    check.addEnd({buffer.data(), filled});
-    return check.isSoundInFile() && !std::ferror(file);
+
+    void add(std::string_view text)
+    {
+        const std::size_t scanned =
+            dxfviewer::scanGroups(text, [this](std::string_view code, std::string_view value) {
+                addGroup(code, value, value.data() + value.size() + 1);
+                return true;
+            });
+        // A last value may lack its line feed or be missing. dxflib never reads a code without one.
+        const std::string_view rest = text.substr(scanned);
+        if (const std::size_t length = rest.find('\n'); length != std::string_view::npos)
+            addGroup(rest.substr(0, length), rest.substr(length + 1), text.data() + text.size());
+    }
+
+private:
+    Q_DISABLE_COPY(GroupFeed)
+
+    void addGroup(std::string_view codeLine, std::string_view valueLine, const char* end)
+    {
+        const int code = dxfviewer::toInt(codeLine);
+        m_value = dxfviewer::strippedValue(valueLine);
+        m_receiver.processCodeValuePair(static_cast<unsigned int>(code), m_value);
+        if (m_steps && m_steps->takesGroup(code, m_value))
+            return;
+        m_buffer.show(codeLine.data(), end);
+        m_parser->readDxfGroups(m_stream, &m_receiver);
+    }
+
+    DL_CreationInterface& m_receiver;
+    IReadingSteps* m_steps;
+    Parser m_parser;
+    TextBuffer m_buffer;
+    std::istream m_stream;
+    std::string m_value;
+};
+
+void parse(std::string_view text, DL_CreationInterface& receiver)
+{
+    GroupFeed feed(receiver);
+    if (dxfviewer::isSound(text))
+        feed.add(text);
+    else
+        feed.add(dxfviewer::repaired(text));
 }
 
-std::string readAll(std::FILE* file)
+/// The text that the receiver wants to be read in place of these bytes, if there is one.
+std::optional<std::string> replacementOf(std::string_view bytes, DL_CreationInterface& receiver)
 {
-    std::string text;
+    auto* steps = dynamic_cast<IReadingSteps*>(&receiver);
+    return steps ? steps->textOf(bytes) : std::nullopt;
+}
+
+bool finish(DL_CreationInterface& receiver)
+{
+    auto* steps = dynamic_cast<IReadingSteps*>(&receiver);
+    return !steps || steps->finishReading();
+}
+
+/// What is left of a file, up to a read error.
+std::string contentOf(std::FILE* file, std::uintmax_t expectedSize)
+{
+    std::string content;
     std::size_t filled = 0;
     std::size_t added = 0;
+    // One byte more, so that a file of this size needs no more room to find its end.
+    auto room = static_cast<std::size_t>(expectedSize) + 1;
     do {
-        text.resize(filled + std::max(filled, pieceLength));
-        added = std::fread(text.data() + filled, 1, text.size() - filled, file);
+        if (filled == content.size()) {
+            content.resize(std::max(room, leastRoom));
+            room = 2 * content.size();
+        }
+        added = std::fread(content.data() + filled, 1, content.size() - filled, file);
         filled += added;
     } while (added != 0);
-    text.resize(filled);
-    return text;
+    content.resize(filled);
+    return content;
 }
 
-bool checkAndParse(std::FILE* file, DL_CreationInterface& receiver)
+/// False if the file cannot be read to its end.
+bool parseContent(std::FILE* file, std::uintmax_t expectedSize, DL_CreationInterface& receiver)
 {
-    // Pieces are read into a buffer of their own.
-    const bool sound = isSoundFile(file);
-    std::rewind(file);
-    if (sound)
-        return parse(file, receiver);
-
-    const bool parsed = repairAndParse(readAll(file), receiver);
-    return parsed && std::ferror(file) == 0;
+    std::string content = contentOf(file, expectedSize);
+    if (auto replacement = replacementOf(content, receiver))
+        content = std::move(*replacement);
+    parse(content, receiver);
+    return std::ferror(file) == 0;
 }
 
 /// Runs a parse with the host's locale out of the way. False if it throws.
@@ -171,8 +218,7 @@ bool guarded(Parse parse)
         const ClassicNumbers numbers;
         return parse();
     } catch (...) {
-        // Memory has run out, or the receiver gives up. There is no third kind, and nobody to tell
-        // but the caller.
+        // Memory has run out, or the receiver gives up.
         return false;
     }
 }
@@ -186,18 +232,25 @@ bool parseFile(const std::string& name, DL_CreationInterface& receiver)
 {
     return guarded([&name, &receiver] {
         const File file = openRegularFile(name);
-        return file && checkAndParse(file.get(), receiver);
+        return file && parseContent(file.get(), sizeOf(name), receiver) && finish(receiver);
     });
 }
 
 bool parseFile(std::FILE* file, DL_CreationInterface& receiver)
 {
-    return guarded([file, &receiver] { return checkAndParse(file, receiver); });
+    return guarded(
+        [file, &receiver] { return parseContent(file, 0, receiver) && finish(receiver); });
 }
 
-bool parseText(std::string_view text, DL_CreationInterface& receiver)
+bool parseText(std::string_view bytes, DL_CreationInterface& receiver)
 {
-    return guarded([text, &receiver] { return repairAndParse(text, receiver); });
+    return guarded([bytes, &receiver] {
+        if (const auto replacement = replacementOf(bytes, receiver))
+            parse(replacement->substr(0, replacement->find('\0')), receiver);
+        else
+            parse(bytes.substr(0, bytes.find('\0')), receiver);
+        return finish(receiver);
+    });
 }
 
 } // namespace dxfviewer

@@ -18,10 +18,9 @@
 namespace dxfviewer
 {
 
-/// The longest line that the stream form of dxflib's parser survives, and the longest that its
-/// file form reads in one piece. The line feed is not counted, a carriage return is.
-constexpr std::size_t longestStreamLine = 1023;
-constexpr std::size_t longestFileLine = 1022;
+/// The longest line that dxflib's parser survives. The line feed is not counted, a carriage return
+/// is.
+constexpr std::size_t longestLine = 1023;
 
 /// The first line feed, or the end.
 inline const char* lineEnd(const char* at, const char* end)

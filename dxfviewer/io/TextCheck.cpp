@@ -34,20 +34,17 @@ void TextCheck::addEnd(std::string_view rest)
     } else {
         const std::string_view valueLine = rest.substr(codeLength + 1);
         m_sound = addGroup(codeLine, valueLine);
-        // The file form takes the value before for one that is missing.
-        m_streamOnly = valueLine.empty();
     }
 
-    m_sound = m_sound && m_longestLine <= longestStreamLine
+    m_sound = m_sound && m_longestLine <= longestLine
               && std::all_of(m_counts.begin(), m_counts.end(),
                              [](const AnnouncedCount& count) { return count.isSoundWithoutEnd(); });
-    m_streamOnly = m_streamOnly || m_longestLine > longestFileLine;
 }
 
 inline bool TextCheck::addGroup(std::string_view codeLine, std::string_view valueLine)
 {
     m_longestLine = std::max({m_longestLine, codeLine.size(), valueLine.size()});
-    if (m_longestLine > longestStreamLine)
+    if (m_longestLine > longestLine)
         return false;
 
     const int code = toInt(codeLine);

@@ -24,10 +24,7 @@ public:
     /// Looks at what add() has left of the last piece.
     void addEnd(std::string_view rest);
 
-    /// Whether the stream form of dxflib's parser may read the text.
     bool isSound() const { return m_sound; }
-    /// Whether the file form reads it, and as the stream form does.
-    bool isSoundInFile() const { return m_sound && !m_streamOnly; }
 
 private:
     bool addGroup(std::string_view codeLine, std::string_view valueLine);
@@ -38,7 +35,6 @@ private:
     RecordCounts m_counts;
     std::size_t m_longestLine = 0;
     bool m_sound = true;
-    bool m_streamOnly = false;
 };
 
 /// Whether a text is sound as a whole.

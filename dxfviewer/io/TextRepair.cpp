@@ -27,7 +27,7 @@ constexpr std::size_t spareShare = 8;
 std::string_view readablePart(std::string_view line)
 {
     const std::string_view text = line.substr(0, line.find('\0'));
-    return text.substr(0, dxfviewer::utf8Prefix(text, dxfviewer::longestStreamLine));
+    return text.substr(0, dxfviewer::utf8Prefix(text, dxfviewer::longestLine));
 }
 
 class Repair

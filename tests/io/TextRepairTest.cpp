@@ -127,29 +127,6 @@ TEST(TextRepairTest, CarriageReturnCountsAsPartOfALine)
     EXPECT_FALSE(isSound(drawingOf({{1, std::string(1023, 'c') + '\r'}})));
 }
 
-TEST(TextRepairTest, LineOf1023BytesIsOnlyForTheStreamForm)
-{
-    for (const std::size_t length : {1022U, 1023U}) {
-        const std::string text = drawingOf({{1, std::string(length, 'c')}});
-        TextCheck check;
-        check.addEnd(std::string_view(text).substr(check.add(text)));
-
-        EXPECT_TRUE(check.isSound());
-        EXPECT_EQ(check.isSoundInFile(), length == 1022);
-        EXPECT_EQ(repaired(text), text);
-    }
-}
-
-TEST(TextRepairTest, MissingLastValueIsOnlyForTheStreamForm)
-{
-    const std::string text = drawingOf({}) + "\n";
-    TextCheck check;
-    check.addEnd(std::string_view(text).substr(check.add(text)));
-
-    EXPECT_TRUE(check.isSound());
-    EXPECT_FALSE(check.isSoundInFile());
-}
-
 TEST(TextRepairTest, SoundTextChangesOnlyAtItsEnd)
 {
     const std::string text = drawingOf({{0, "LINE"}});

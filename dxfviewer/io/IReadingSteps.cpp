@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/io/IReadingSteps.h"
+
+IReadingSteps::IReadingSteps() = default;
+IReadingSteps::~IReadingSteps() = default;
