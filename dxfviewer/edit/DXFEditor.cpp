@@ -12,13 +12,19 @@
 #include <QGraphicsScene>
 #include <QPainter>
 #include <QScopedValueRollback>
-#include <QThread>
+#include <QSignalBlocker>
 
 namespace
 {
 
 constexpr double overlayMarginUnits = 50000.0;
 constexpr int undoLimit = 10;
+
+QRectF grown(const QRectF& rect)
+{
+    return rect.adjusted(-overlayMarginUnits, -overlayMarginUnits, overlayMarginUnits,
+                         overlayMarginUnits);
+}
 
 } // namespace
 
@@ -40,7 +46,7 @@ DXFEditor::DXFEditor(DXFGraphicsItem& item)
     m_stack.setUndoLimit(undoLimit);
     connect(m_tool, SIGNAL(requestDelete()), this, SLOT(onDeleteRequested()), Qt::DirectConnection);
     connect(&m_stack, SIGNAL(indexChanged(int)), this, SLOT(redrawDoc()), Qt::DirectConnection);
-    connect(&m_stack, &QUndoStack::indexChanged, this, &DXFEditor::noteStackMove);
+    connect(&m_stack, &QUndoStack::indexChanged, this, &DXFEditor::noteMove);
 }
 
 DXFEditor::~DXFEditor()
@@ -59,7 +65,7 @@ void DXFEditor::end()
     // Whoever hears of the end may ask for it again.
     if (m_isEnding)
         return;
-    if (!isStackMoving()) {
+    if (m_stackMoves == 0) {
         delete this;
         return;
     }
@@ -68,6 +74,10 @@ void DXFEditor::end()
     releaseItem();
     cleanupTool();
     leaveScene();
+    // The history is over, whoever holds the stack.
+    m_stack.setActive(false);
+    const QSignalBlocker blocker(&m_stack);
+    m_stack.clear();
 }
 
 /// After edit mode the item stays disabled.
@@ -87,27 +97,28 @@ void DXFEditor::leaveScene()
         scene()->removeItem(this);
 }
 
-/// Counts a move for as long as it may last. What Qt destroys later is destroyed in the event loop
-/// that the move came from, not in the loop of a dialog that a slot opens meanwhile.
-void DXFEditor::noteStackMove()
+/// Counts a move until the last signal that it is sure to send, and there until all other slots of
+/// that one have run: the stack goes on using itself when they return.
+void DXFEditor::noteMove()
 {
-    auto* mark = new QObject;
-    connect(mark, &QObject::destroyed, this, &DXFEditor::forgetStackMove);
-    mark->deleteLater();
-    ++m_stackMoves;
+    if (m_stackMoves++ > 0)
+        return;
+    disconnect(m_lastOfMove);
+    m_lastOfMove = connect(&m_stack, &QUndoStack::redoTextChanged, this, &DXFEditor::forgetMove);
 }
 
-void DXFEditor::forgetStackMove()
+void DXFEditor::forgetMove()
 {
-    --m_stackMoves;
-    if (m_endsAfterMoves && m_stackMoves == 0)
+    // A macro of the host's sends this signal without a move.
+    if (m_stackMoves == 0 || --m_stackMoves > 0 || !m_endsAfterMoves)
+        return;
+    QMetaObject::invokeMethod(this, &DXFEditor::deleteAfterMoves, Qt::QueuedConnection);
+}
+
+void DXFEditor::deleteAfterMoves()
+{
+    if (m_stackMoves == 0)
         delete this;
-}
-
-bool DXFEditor::isStackMoving() const
-{
-    // Without an event loop nothing says when a move is over.
-    return m_stackMoves > 0 && QThread::currentThread()->loopLevel() > 0;
 }
 
 QUndoStack* DXFEditor::stack()
@@ -117,19 +128,24 @@ QUndoStack* DXFEditor::stack()
 
 QRectF DXFEditor::boundingRect() const
 {
-    return sceneRect().adjusted(-overlayMarginUnits, -overlayMarginUnits, overlayMarginUnits,
-                                overlayMarginUnits);
+    return grown(sceneRect());
 }
 
-/// The rectangle of the item's scene. A scene without a rectangle of its own asks its items for
-/// theirs, this one among them, which then answers with what it overlays.
+/// The rectangle of the item's scene. A scene without one of its own asks its items for theirs,
+/// this one among them, and grows to hold them: there it is that of the item.
 QRectF DXFEditor::sceneRect() const
 {
+    const QRectF itemRect = itemIsAlive() ? m_item.sceneBoundingRect() : QRectF();
     const QGraphicsScene* itemScene = itemIsAlive() ? m_item.scene() : scene();
+    if (m_isAskingScene)
+        m_sceneHasNoRect = true;
     if (m_isAskingScene || !itemScene)
-        return itemIsAlive() ? m_item.sceneBoundingRect() : QRectF();
+        return itemRect;
+
     const QScopedValueRollback<bool> guard(m_isAskingScene, true);
-    return itemScene->sceneRect();
+    const QRectF rect = itemScene->sceneRect();
+    m_sceneHasNoRect = m_sceneHasNoRect && rect.contains(grown(itemRect));
+    return m_sceneHasNoRect ? itemRect : rect;
 }
 
 void DXFEditor::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,

@@ -38,12 +38,14 @@ public:
     QUndoStack* stack();
 
     /// Ends edit mode and destroys the editor. A slot of the stack's signals may bring this about,
-    /// and the stack is then in the middle of a move: the overlay leaves its scene at once, but it
-    /// and the stack live until control is back in the event loop. Destroying the editor directly
-    /// is not safe there.
+    /// and the stack is then in the middle of a move: the overlay leaves its scene at once, and the
+    /// stack its group, without any command, but both live until events are handled after the
+    /// move. Not safe there: to destroy the editor directly, and to end it from a slot that was
+    /// connected to redoTextChanged() during the same move.
     void end();
 
-    /// The scene's rectangle grown by 50000 drawing units on every side.
+    /// The scene's rectangle grown by 50000 drawing units on every side. In a scene that has no
+    /// rectangle of its own it is the item's that is grown.
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
@@ -61,18 +63,20 @@ private:
     QRectF sceneRect() const;
     void releaseItem();
     void leaveScene();
-    void noteStackMove();
-    void forgetStackMove();
-    bool isStackMoving() const;
+    void noteMove();
+    void forgetMove();
+    void deleteAfterMoves();
 
     DXFGraphicsItem& m_item;
     // Before the stack, which tells its group when it goes: what listens there may ask the scene,
     // and the scene this overlay, for rectangles.
     std::weak_ptr<const void> m_itemLife;
     mutable bool m_isAskingScene = false;
+    mutable bool m_sceneHasNoRect = false;
     bool m_isEnding = false;
     bool m_endsAfterMoves = false;
     int m_stackMoves = 0;
+    QMetaObject::Connection m_lastOfMove;
     QUndoStack m_stack;
     QPointer<ISelectionTool> m_tool;
 };

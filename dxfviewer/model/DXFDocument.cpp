@@ -113,7 +113,9 @@ void DXFDocument::setup()
         return;
 
     DXFPaintHelper paintHelper(*this);
-    for (const auto& entity : qAsConst(m_entities)) {
+    // A copy: who hears of a colour that is not supported may change the document.
+    const auto entities = m_entities;
+    for (const auto& entity : entities) {
         if (!entity)
             continue;
         entity->setLineWidth(paintHelper.lineWidth(entity));

@@ -7,6 +7,7 @@
 #include "dxfviewer/io/DXFWriter.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/render/DXFGraphicsItem.h"
+#include "dxfviewer/viewer/CurrentEditor.h"
 
 #include "ui_Viewer.h"
 
@@ -14,12 +15,14 @@
 #include <QDebug>
 #include <QGraphicsScene>
 #include <QPointer>
-#include <QScopedPointer>
 #include <QTimer>
 #include <QUndoView>
 #include <QVector>
 
+#include <memory>
 #include <utility>
+
+using dxfviewer::CurrentEditor;
 
 namespace
 {
@@ -28,45 +31,22 @@ constexpr int postLoadDelayMs = 5;
 constexpr double sceneMarginUnits = 5000.0;
 constexpr double viewMarginUnits = 10.0;
 
-// The editor belongs to its scene as well, and may be gone when the slot lets go of it.
-QPointer<DXFEditor> livingEditor;
-// Whose item it works on, or worked on: the item may be gone as well.
-const DXFViewer* editingWindow = nullptr;
+// One for the whole process, not one per window: there is one edit mode at a time. It ends when the
+// application object goes, because an editor does not survive that.
+CurrentEditor currentEditor;
+bool isEndedAtExit = false;
 
-struct EndIfAlive {
-    static void cleanup(DXFEditor* editor)
-    {
-        if (!editor || editor != livingEditor)
-            return;
-        livingEditor.clear();
-        editor->end();
-    }
-};
-
-// One slot for the whole process, not one per window: there is one edit mode at a time. It is
-// emptied when the application object goes, because an editor does not survive that.
-QScopedPointer<DXFEditor, EndIfAlive> tool;
-bool isEmptiedAtExit = false;
-
-void emptySlotAtExit()
+void endEditModeAtExit()
 {
-    isEmptiedAtExit = false;
-    tool.reset();
+    isEndedAtExit = false;
+    currentEditor.end();
 }
 
-void fillSlot(DXFEditor* editor, const DXFViewer* window)
+DXFEditor* beginEditMode(DXFGraphicsItem& item, const DXFViewer& window)
 {
-    if (!isEmptiedAtExit) {
-        qAddPostRoutine(emptySlotAtExit);
-        isEmptiedAtExit = true;
-    }
-    // The former one goes last: what listens to its end finds the slot in order.
-    DXFEditor* const former = livingEditor;
-    livingEditor = editor;
-    editingWindow = window;
-    tool.reset(editor);
-    if (former)
-        former->end();
+    if (!std::exchange(isEndedAtExit, true))
+        qAddPostRoutine(endEditModeAtExit);
+    return currentEditor.begin(item, window);
 }
 
 QRectF grown(const QRectF& rect, double margin)
@@ -103,7 +83,7 @@ DXFViewer::DXFViewer(QWidget* parent)
 
 DXFViewer::~DXFViewer()
 {
-    tool.reset();
+    currentEditor.end();
     deleteItem();
     delete m_ui;
 }
@@ -148,26 +128,41 @@ void DXFViewer::finishLoad(bool isRead)
 
 QByteArray DXFViewer::getData()
 {
-    if (!m_document)
-        return QByteArray();
-    return DXFWriter(*m_document).save();
+    const auto document = m_document;
+    return document ? DXFWriter(*document).save() : QByteArray();
 }
 
 void DXFViewer::postLoad()
 {
+    // Slots of the host's hear of each of these, and may destroy the window.
+    const QPointer<DXFViewer> self(this);
     endEditingOfItem();
-    deleteItem();
-    QGraphicsScene* scene = m_view ? m_view->scene() : nullptr;
-    if (!scene)
+    if (self)
+        deleteItem();
+    if (self && m_view && m_view->scene())
+        showDocument();
+}
+
+void DXFViewer::showDocument()
+{
+    const QPointer<DXFViewer> self(this);
+    auto item = std::make_unique<DXFGraphicsItem>();
+    // The messages of this may run an event loop, in which another drawing is shown. That one is
+    // the later one and stays.
+    item->setDocument(m_document);
+    QGraphicsScene* scene = self && m_view ? m_view->scene() : nullptr;
+    if (!scene || hasItem())
         return;
 
-    m_graphicsItem = new DXFGraphicsItem;
-    m_itemLife = m_graphicsItem->lifeToken();
-    m_graphicsItem->setDocument(m_document);
+    const QRectF bounds = item->boundingRect();
+    m_itemLife = item->lifeToken();
+    m_graphicsItem = item.release();
     scene->addItem(m_graphicsItem);
-    const QRectF bounds = m_graphicsItem->boundingRect();
+    const auto itemLife = m_itemLife;
+    const QPointer<View> view = m_view;
     scene->setSceneRect(grown(bounds, sceneMarginUnits));
-    m_view->fitInView(grown(bounds, viewMarginUnits), Qt::KeepAspectRatio);
+    if (view && !itemLife.expired())
+        view->fitInView(grown(bounds, viewMarginUnits), Qt::KeepAspectRatio);
 }
 
 bool DXFViewer::hasItem() const
@@ -177,19 +172,22 @@ bool DXFViewer::hasItem() const
 
 void DXFViewer::deleteItem()
 {
+    DXFGraphicsItem* item = std::exchange(m_graphicsItem, nullptr);
     if (hasItem())
-        delete m_graphicsItem;
-    m_graphicsItem = nullptr;
+        delete item;
 }
 
 /// Ends edit mode if it works on this window's item, which is about to go.
 void DXFViewer::endEditingOfItem()
 {
-    if (!livingEditor || editingWindow != this)
+    if (!currentEditor.isOf(*this))
         return;
+    const QPointer<DXFViewer> self(this);
     if (m_editAction)
         m_editAction->setChecked(false);
-    tool.reset();
+    // The action may have been unchecked before, or be checked again.
+    if (self && currentEditor.isOf(*this))
+        currentEditor.end();
 }
 
 void DXFViewer::on_actionOpen_dxf_triggered()
@@ -197,6 +195,7 @@ void DXFViewer::on_actionOpen_dxf_triggered()
     // There is no file dialog: from its own action the slot loads nothing, and called directly it
     // loads a fixed drawing. Both are meant.
     m_document.reset(new DXFDocument);
+    // Reads nothing. It stands for a reading of the file that a dialog would have chosen.
     const DXFReader unused(*m_document);
     const bool isFromAction = sender() == m_ui->actionOpen_dxf;
     loadData(isFromAction ? QString() : QStringLiteral("samples/floor-plan.dxf"));
@@ -204,7 +203,8 @@ void DXFViewer::on_actionOpen_dxf_triggered()
 
 void DXFViewer::on_actionSave_dxf_triggered()
 {
-    // A writer that writes nothing. That is meant: drawings are taken out with getData().
+    // Writes nothing, and is meant to: drawings are taken out with getData(). It stands for a
+    // writing to the file that a dialog would have chosen.
     if (m_document)
         const DXFWriter unused(*m_document);
 }
@@ -212,20 +212,28 @@ void DXFViewer::on_actionSave_dxf_triggered()
 void DXFViewer::on_actionEdit_dxf_toggled(bool arg1)
 {
     if (!arg1 || !hasItem()) {
-        tool.reset();
+        currentEditor.end();
         return;
     }
-    fillSlot(new DXFEditor(*m_graphicsItem), this);
-    // The end of the former editor may have brought about the end of this one.
-    if (!tool)
-        return;
-    QUndoStack* stack = tool->stack();
+    const QPointer<DXFViewer> self(this);
+    DXFEditor* editor = beginEditMode(*m_graphicsItem, *this);
+    if (self && editor)
+        offerUndo(*editor);
+}
+
+void DXFViewer::offerUndo(DXFEditor& editor)
+{
+    QUndoStack* stack = editor.stack();
+    // Children of the editor, they may go with it before they get into the tool bar.
+    const QPointer<QAction> undo(
+        stack->createUndoAction(&editor, QCoreApplication::translate("Viewer", "Undo")));
+    const QPointer<QAction> redo(
+        stack->createRedoAction(&editor, QCoreApplication::translate("Viewer", "Redo")));
+    const QPointer<QToolBar> toolBar = m_toolBar;
     if (m_undoView)
         m_undoView->setStack(stack);
-    if (!m_toolBar)
-        return;
-    m_toolBar->addAction(
-        stack->createUndoAction(tool.data(), QCoreApplication::translate("Viewer", "Undo")));
-    m_toolBar->addAction(
-        stack->createRedoAction(tool.data(), QCoreApplication::translate("Viewer", "Redo")));
+    for (const auto& action : {undo, redo}) {
+        if (toolBar && action)
+            toolBar->addAction(action);
+    }
 }

@@ -12,6 +12,7 @@
 #include <memory>
 
 class DXFDocument;
+class DXFEditor;
 class DXFGraphicsItem;
 class QAction;
 class QToolBar;
@@ -68,9 +69,11 @@ private:
     template <typename Source>
     void load(const Source& source);
     void finishLoad(bool isRead);
+    void showDocument();
     bool hasItem() const;
-    void endEditingOfItem();
     void deleteItem();
+    void endEditingOfItem();
+    void offerUndo(DXFEditor& editor);
 
     Ui_Viewer* m_ui;
     DXFGraphicsItem* m_graphicsItem = nullptr;

@@ -237,32 +237,67 @@ TEST_F(DXFEditorTest, FollowsTheScenesRectangle)
     EXPECT_EQ(editor->boundingRect(), QRectF(-49999, -49998, 100003, 100004));
 }
 
-TEST_F(DXFEditorTest, SceneWithoutARectangleOfItsOwnHasABoundedOne)
+/// An overlay in a scene that is as large as its items.
+class PlainSceneTest : public DXFEditorTest
 {
+protected:
+    PlainSceneTest()
+        : plainItem(new DXFGraphicsItem)
+    {
+        plainItem->setDocument(document);
+        plain.addItem(plainItem);
+        overlay = new DXFEditor(*plainItem);
+    }
+
+    QRectF reached() const
+    {
+        return plainItem->boundingRect().adjusted(-50000, -50000, 50000, 50000);
+    }
+
     QGraphicsScene plain;
+    DXFGraphicsItem* plainItem;
+    DXFEditor* overlay;
+};
+
+TEST_F(PlainSceneTest, OverlayCoversTheDrawingAndFarMore)
+{
+    EXPECT_EQ(overlay->boundingRect(), reached());
+    EXPECT_EQ(plain.sceneRect(), reached());
+}
+
+TEST_F(PlainSceneTest, SceneDoesNotGrowWithQuestions)
+{
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(plain.sceneRect(), reached());
+        EXPECT_EQ(overlay->boundingRect(), reached());
+    }
+}
+
+TEST_F(PlainSceneTest, SceneDoesNotGrowWithEventsAndPaintings)
+{
     QGraphicsView plainView(&plain);
-    auto* plainItem = new DXFGraphicsItem;
-    plainItem->setDocument(document);
-    plain.addItem(plainItem);
-    const DXFEditor overlay(*plainItem);
-    const QRectF reached = plainItem->boundingRect().adjusted(-50000, -50000, 50000, 50000);
-
-    EXPECT_TRUE(overlay.boundingRect().contains(reached));
-    EXPECT_TRUE(plain.sceneRect().contains(reached));
-
     plainView.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&plainView, patienceMs));
-    // The scene takes the overlay in once more when it first paints.
-    const auto stroke = [&plainView](double y) {
-        SceneMouse(plainView).drag({{0, y}, {300, y}});
-        QCoreApplication::processEvents();
-    };
-    stroke(0);
-    const QRectF settled = plain.sceneRect();
-    for (int i = 1; i < 6; ++i)
-        stroke(10.0 * i);
 
-    EXPECT_EQ(plain.sceneRect(), settled);
+    for (int i = 0; i < 6; ++i) {
+        SceneMouse(plainView).drag({{0, 10.0 * i}, {300, 10.0 * i}});
+        QCoreApplication::processEvents();
+        plainView.grab();
+    }
+
+    EXPECT_EQ(plain.sceneRect(), reached());
+    EXPECT_EQ(overlay->boundingRect(), reached());
+}
+
+TEST_F(PlainSceneTest, RectangleThatIsSetLaterIsFollowed)
+{
+    plain.sceneRect();
+    overlay->boundingRect();
+
+    plain.setSceneRect(1, 2, 3, 4);
+
+    EXPECT_EQ(overlay->boundingRect(), QRectF(-49999, -49998, 100003, 100004));
+    EXPECT_EQ(overlay->boundingRect(), QRectF(-49999, -49998, 100003, 100004));
 }
 
 // The tint that is not seen

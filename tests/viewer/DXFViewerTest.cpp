@@ -6,8 +6,10 @@
 #include "dxfviewer/render/DXFGraphicsItem.h"
 #include "dxfviewer/viewer/View.h"
 
+#include "tests/support/AtMessage.h"
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/OtherEntity.h"
 #include "tests/support/Patience.h"
 #include "tests/support/WindowParts.h"
 
@@ -631,6 +633,118 @@ TEST_F(LoadDocumentTest, NullIsALoadThatFailed)
     EXPECT_THAT(editorsOf(*window), SizeIs(1));
     EXPECT_TRUE(editActionOf(*window).isChecked());
     EXPECT_EQ(window->getData(), emptyDrawing());
+}
+
+// A host that acts from within the log
+
+class ActingLogTest : public DXFViewerTest
+{
+protected:
+    /// A drawing that cannot be set up without a message.
+    static QSharedPointer<DXFDocument> odd()
+    {
+        const auto polyline = makePolyline({{0, 0}, {30, 40}});
+        polyline->setAttributes(makeAttributes(QStringLiteral("0"), 0));
+        return makeDocument({polyline, makePolyline({{0, 0}, {60, 70}})});
+    }
+
+    bool showsOnce(const QSharedPointer<DXFDocument>& document)
+    {
+        return eventually([&] { return shownDocument(*window) == document; })
+               && itemsOf(*window).size() == 1;
+    }
+
+    static constexpr const char* oddMessage = "Color BYBLOCK not supported";
+};
+
+TEST_F(ActingLogTest, OtherLoadIsShownWhileADrawingIsSetUp)
+{
+    const auto document = odd();
+    // Once: Qt itself prints what comes while a handler is at work.
+    expectWarning(oddMessage);
+    const AtMessage other(oddMessage, [&] { EXPECT_TRUE(showsOnce(document)); });
+
+    window->loadDocument(document);
+    window->loadDocument(document);
+    ASSERT_TRUE(eventually([&] { return other.hasActed(); }));
+
+    EXPECT_TRUE(showsOnce(document));
+    EXPECT_EQ(itemsOf(*window).first()->boundingRect(), QRectF(0, 0, 60, 70));
+}
+
+TEST_F(ActingLogTest, LaterDrawingStaysWhenTheFormerOneIsSetUp)
+{
+    const auto later = makeDocument({makePolyline({{0, 0}, {1, 1}})});
+    expectWarning(oddMessage);
+    const AtMessage other(oddMessage, [&] {
+        window->loadDocument(later);
+        EXPECT_TRUE(showsOnce(later));
+        editActionOf(*window).setChecked(true);
+    });
+
+    window->loadDocument(odd());
+    ASSERT_TRUE(eventually([&] { return other.hasActed(); }));
+
+    EXPECT_TRUE(showsOnce(later));
+    EXPECT_THAT(editorsOf(*window), SizeIs(1));
+}
+
+TEST_F(ActingLogTest, DrawingIsShownAlthoughAnotherLoadFailed)
+{
+    const auto document = odd();
+    expectWarning(oddMessage);
+    const AtMessage other(oddMessage, [&] { window->loadDocument(nullptr); });
+
+    window->loadDocument(document);
+    ASSERT_TRUE(eventually([&] { return other.hasActed(); }));
+
+    EXPECT_TRUE(showsOnce(document));
+}
+
+TEST_F(ActingLogTest, WindowIsDestroyedWhileADrawingIsSetUp)
+{
+    expectWarning(oddMessage);
+    const AtMessage end(oddMessage, [this] { window.reset(); });
+
+    window->loadDocument(odd());
+
+    EXPECT_TRUE(eventually([&] { return end.hasActed(); }));
+}
+
+TEST_F(ActingLogTest, DrawingChangesWhileItIsSetUp)
+{
+    const auto document = odd();
+    expectWarning(oddMessage);
+    const AtMessage change(oddMessage, [&] {
+        for (int i = 0; i < 100; ++i)
+            document->addEntity(makePolyline({{0, 0}, {80, 90}}));
+        document->deleteEntity(document->entities().first());
+    });
+
+    window->loadDocument(document);
+
+    EXPECT_TRUE(showsOnce(document));
+}
+
+TEST_F(ActingLogTest, WindowIsDestroyedWhileADrawingIsRead)
+{
+    const AtMessage end("addLine", [this] { window.reset(); });
+
+    window->loadData(
+        QByteArray("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n0\nENDSEC\n0\nEOF\n"));
+
+    EXPECT_TRUE(end.hasActed());
+}
+
+TEST_F(ActingLogTest, OtherLoadComesWhileADrawingIsWritten)
+{
+    window->loadDocument(
+        makeDocument({QSharedPointer<OtherEntity>::create(-1), makePolyline({{0, 0}, {30, 40}})}));
+    const AtMessage other("DXFWriter:: attempted writing of unsuported entity",
+                          [this] { window->loadData(line); });
+
+    EXPECT_EQ(window->getData().count("VERTEX"), 2);
+    EXPECT_TRUE(other.hasActed());
 }
 
 // Taking the drawing

@@ -6,6 +6,7 @@
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "dxfviewer/viewer/View.h"
 
+#include "tests/support/AtMessage.h"
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
@@ -449,6 +450,42 @@ TEST_F(EditModeTest, LoadInAWindowOnTheSameSceneLeavesTheEditor)
     EXPECT_TRUE(editActionOf(*window).isChecked());
 }
 
+TEST_F(EditModeTest, WindowMayBeDestroyedWhenALoadEndsEditMode)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    QObject::connect(&editActionOf(*window), &QAction::toggled, qApp, [this] { window.reset(); });
+
+    window->loadData(otherDrawing);
+
+    EXPECT_TRUE(eventually([this] { return !window; }));
+    EXPECT_EQ(editor, nullptr);
+}
+
+TEST_F(EditModeTest, OtherWindowMayBeEditedWhenALoadEndsEditMode)
+{
+    startEditing();
+    QObject::connect(&editActionOf(*window), &QAction::toggled, &editActionOf(*second),
+                     &QAction::toggle);
+
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+
+    EXPECT_THAT(editorsOf(*second), SizeIs(1));
+}
+
+TEST_F(EditModeTest, LoadEndsEditModeAlsoWhenItIsSwitchedOnAgainMeanwhile)
+{
+    startEditing();
+    QObject::connect(&editActionOf(*window), &QAction::toggled, window.get(), [this](bool on) {
+        if (!on)
+            editActionOf(*window).setChecked(true);
+    });
+
+    ASSERT_TRUE(loadAndShow(*window, otherDrawing));
+
+    EXPECT_THAT(editorsOf(*window), IsEmpty());
+    EXPECT_THAT(addedActions(*window), IsEmpty());
+}
+
 TEST_F(EditModeTest, EditModeMayStartAgainAfterALoad)
 {
     startEditing();
@@ -666,6 +703,139 @@ TEST_F(MovingStackTest, SwitchingOnAgain)
     EXPECT_THAT(toolBarOf(*window).actions(), SizeIs(6));
 }
 
+TEST_F(MovingStackTest, SwitchingOffInALoopOfTheHostsOwn)
+{
+    const QPointer<DXFEditor> overlay = startEditing();
+    const QPointer<QUndoStack> moving = overlay->stack();
+    QObject::connect(moving, &QUndoStack::indexChanged, qApp, [&] {
+        editActionOf(*window).setChecked(false);
+        QCoreApplication::processEvents();
+        EXPECT_NE(moving, nullptr) << "it is not done with its move";
+    });
+
+    eraseFirstLine();
+
+    EXPECT_TRUE(eventually([&] { return overlay.isNull(); }));
+    EXPECT_EQ(entityCount(), 2);
+}
+
+TEST_F(MovingStackTest, SwitchingOffWhenTheHostCallsUndoInItsOwnLoop)
+{
+    const QPointer<DXFEditor> overlay = startEditing();
+    const QPointer<QUndoStack> moving = overlay->stack();
+    eraseFirstLine();
+    QObject::connect(moving, &QUndoStack::redoTextChanged, qApp, [&] {
+        editActionOf(*window).setChecked(false);
+        QCoreApplication::processEvents();
+        EXPECT_NE(moving, nullptr);
+    });
+
+    moving->undo();
+
+    EXPECT_TRUE(eventually([&] { return overlay.isNull(); }));
+    EXPECT_EQ(entityCount(), 3);
+}
+
+TEST_F(MovingStackTest, SwitchingOffWhenTheStackIsSaidToBeClean)
+{
+    const QPointer<DXFEditor> overlay = startEditing();
+    QObject::connect(overlay->stack(), &QUndoStack::cleanChanged, qApp, [&] {
+        editActionOf(*window).setChecked(false);
+        QCoreApplication::processEvents();
+    });
+
+    eraseFirstLine();
+
+    EXPECT_EQ(overlay, nullptr);
+}
+
+TEST_F(MovingStackTest, SwitchingOffInAMoveWithinAMove)
+{
+    const QPointer<DXFEditor> overlay = startEditing();
+    const QPointer<QUndoStack> moving = overlay->stack();
+    int depth = 0;
+    QObject::connect(moving, &QUndoStack::indexChanged, qApp, [&] {
+        if (depth++ == 0)
+            moving->undo();
+        else
+            editActionOf(*window).setChecked(false);
+        QCoreApplication::processEvents();
+        EXPECT_NE(moving, nullptr);
+    });
+
+    eraseFirstLine();
+
+    EXPECT_EQ(depth, 2);
+    EXPECT_TRUE(eventually([&] { return overlay.isNull(); }));
+    EXPECT_EQ(entityCount(), 3);
+}
+
+TEST_F(MovingStackTest, MoveWithinTheLastSignalOfAMoveIsCounted)
+{
+    const QPointer<DXFEditor> overlay = startEditing();
+    eraseFirstLine();
+    bool hasMoved = false;
+    QObject::connect(overlay->stack(), &QUndoStack::redoTextChanged, qApp, [&] {
+        if (!std::exchange(hasMoved, true))
+            overlay->stack()->redo();
+    });
+    overlay->stack()->undo();
+
+    editActionOf(*window).setChecked(false);
+
+    EXPECT_EQ(overlay, nullptr) << "both moves are over";
+    EXPECT_EQ(entityCount(), 2);
+}
+
+TEST_F(MovingStackTest, MacroOfTheHostIsNoMove)
+{
+    const QPointer<DXFEditor> overlay = startEditing();
+    const QPointer<QUndoStack> moving = overlay->stack();
+    eraseFirstLine();
+    moving->beginMacro(QString());
+    QObject::connect(moving, &QUndoStack::indexChanged, qApp, [&] {
+        editActionOf(*window).setChecked(false);
+        QCoreApplication::processEvents();
+        EXPECT_NE(moving, nullptr);
+    });
+
+    moving->endMacro();
+
+    EXPECT_TRUE(eventually([&] { return overlay.isNull(); }));
+}
+
+TEST_F(MovingStackTest, EndedEditorHasNothingLeftToRedo)
+{
+    QUndoGroup group;
+    endWhenTheStackMoves([&] {
+        group.addStack(stack);
+        group.setActiveStack(stack);
+        editActionOf(*window).setChecked(false);
+        EXPECT_EQ(group.activeStack(), nullptr);
+        EXPECT_EQ(stack->count(), 0);
+        group.setActiveStack(stack);
+        group.redo();
+        EXPECT_EQ(entityCount(), 3);
+    });
+
+    EXPECT_EQ(entityCount(), 3);
+}
+
+TEST_F(MovingStackTest, AfterAMoveTheEditorGoesAtOnce)
+{
+    const QPointer<DXFEditor> overlay = startEditing();
+    eraseFirstLine();
+    QEventLoop loop;
+    QTimer::singleShot(0, &loop, [&] {
+        overlay->stack()->undo();
+        editActionOf(*window).setChecked(false);
+        EXPECT_EQ(overlay, nullptr);
+        loop.quit();
+    });
+
+    loop.exec();
+}
+
 TEST_F(MovingStackTest, DestroyingTheWindow)
 {
     endWhenTheStackMoves([this] { window.reset(); });
@@ -825,6 +995,72 @@ public:
         connect(this, &QUndoGroup::activeStackChanged, this, action);
     }
 };
+
+TEST_F(MeddlingTest, EndOfTheFormerEditorDeletesTheNewOne)
+{
+    const QPointer<DXFEditor> former = startEditing();
+    QObject::connect(former, &QObject::destroyed, qApp, [this] { qDeleteAll(editorsOf(*second)); });
+
+    toggle(*second, true);
+
+    EXPECT_EQ(former, nullptr);
+    EXPECT_THAT(editorsOf(*second), IsEmpty());
+    EXPECT_THAT(addedActions(*second), IsEmpty());
+    goOn();
+}
+
+TEST_F(MeddlingTest, EndOfTheFormerEditorClearsTheSceneOfTheNewOne)
+{
+    const QPointer<DXFEditor> former = startEditing();
+    const AtEndOf end(former->stack(), [this] { sceneOf(*second).clear(); });
+
+    toggle(*second, true);
+
+    EXPECT_EQ(former, nullptr);
+    EXPECT_THAT(editorsOf(*second), IsEmpty());
+    goOn();
+}
+
+TEST_F(MeddlingTest, EndOfTheFormerEditorDestroysTheWindowOfTheNewOne)
+{
+    const QPointer<DXFEditor> former = startEditing();
+    QObject::connect(former, &QObject::destroyed, qApp, [this] { second.reset(); });
+
+    toggle(*second, true);
+
+    EXPECT_EQ(former, nullptr);
+    EXPECT_EQ(second, nullptr);
+}
+
+TEST_F(MeddlingTest, ItemIsReplacedWhileAnEditorIsMade)
+{
+    window->loadData(otherDrawing);
+    const AtMessage load("DXFEditor created ", [this] {
+        EXPECT_TRUE(eventually([this] { return entityCount() == 1; }));
+    });
+
+    editActionOf(*window).setChecked(true);
+
+    EXPECT_TRUE(load.hasActed());
+    EXPECT_THAT(editorsOf(*window), IsEmpty()) << "there is nothing left that it could edit";
+    EXPECT_THAT(addedActions(*window), IsEmpty());
+    EXPECT_THAT(takeWarnings(), SizeIs(1)) << "its tool was never made";
+    goOn();
+}
+
+TEST_F(MeddlingTest, EditModeMovesOnWhileAnEditorIsMade)
+{
+    const AtMessage toggling("DXFEditor created ",
+                             [this] { editActionOf(*second).setChecked(true); });
+
+    editActionOf(*window).setChecked(true);
+
+    EXPECT_TRUE(toggling.hasActed());
+    EXPECT_THAT(editorsOf(*window), SizeIs(1));
+    EXPECT_THAT(editorsOf(*second), IsEmpty()) << "the one that was made last is there";
+    EXPECT_THAT(addedActions(*second), IsEmpty());
+    goOn();
+}
 
 TEST_F(MeddlingTest, EndOfTheEditorMayDestroyTheWindow)
 {

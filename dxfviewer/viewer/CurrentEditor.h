@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QPointer>
+
+class DXFEditor;
+class DXFGraphicsItem;
+class QObject;
+
+namespace dxfviewer
+{
+
+/**
+ * Edit mode: at most one editor, and whose it is.
+ *
+ * The editor belongs to its scene as well and may go at any time. Its end runs slots of the host's,
+ * which may end edit mode, begin it again, or destroy what takes part in it.
+ */
+class CurrentEditor
+{
+public:
+    CurrentEditor() = default;
+    ~CurrentEditor();
+
+    /// Makes an editor over the item, which must be in a scene, and ends the former one. Null if
+    /// the new one did not survive that.
+    DXFEditor* begin(DXFGraphicsItem& item, const QObject& owner);
+    /// Ends edit mode, whosever it is.
+    void end();
+    /// Whether there is an editor and it was begun for this owner.
+    bool isOf(const QObject& owner) const;
+
+private:
+    Q_DISABLE_COPY(CurrentEditor)
+
+    QPointer<DXFEditor> m_editor;
+    // Compared only: the owner may be gone.
+    const QObject* m_owner = nullptr;
+};
+
+} // namespace dxfviewer
