@@ -2,37 +2,28 @@
 
 #include "MainWindow.h"
 
-#include "DrawingFile.h"
+#include "DrawingFiles.h"
+#include "EditHistory.h"
 #include "FileNames.h"
-#include "Picture.h"
+#include "PictureExport.h"
 #include "ViewerParts.h"
-#include "WaitCursor.h"
 
-#include <dxfviewer/edit/DXFEditor.h>
 #include <dxfviewer/model/DXFDocument.h>
 #include <dxfviewer/viewer/DXFViewer.h>
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QDir>
 #include <QDragEnterEvent>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGraphicsView>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QStatusBar>
-#include <QUndoStack>
+#include <QTimer>
 #include <QUrl>
 
 namespace
 {
-
-// The drawing window shows a drawing 5 ms after it was loaded. This is later, whatever else the
-// event loop has to do.
-constexpr int drawingDueMs = 50;
 
 constexpr QSize initialSize(1100, 800);
 
@@ -63,6 +54,8 @@ void prepareView(QGraphicsView& view)
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_viewer(new DXFViewer)
+    , m_history(new EditHistory(*m_viewer, this))
+    , m_files(new DrawingFiles(*m_viewer, *m_history, *this))
 {
     setCentralWidget(m_viewer);
     resize(initialSize);
@@ -73,34 +66,26 @@ MainWindow::MainWindow(QWidget* parent)
     prepareView(drawingView(*m_viewer));
     setAcceptDrops(true);
 
-    // The window's own slot was connected first, so edit mode is on or off when this one runs.
-    connect(&editAction(*m_viewer), &QAction::toggled, this, &MainWindow::onEditToggled);
-    connect(&m_undoGroup, &QUndoGroup::cleanChanged, this, &MainWindow::onCleanChanged);
-    m_drawingDue.setSingleShot(true);
-    m_drawingDue.setInterval(drawingDueMs);
-    connect(&m_drawingDue, &QTimer::timeout, this, &MainWindow::onDrawingDue);
-    updateState();
+    connect(m_history, &EditHistory::changed, this,
+            [this] { setWindowModified(m_history->hasUnsavedEdits()); });
+    connect(m_files, &DrawingFiles::fileNameChanged, this, &MainWindow::onFileNameChanged);
+    connect(m_files, &DrawingFiles::drawingShown, this, &MainWindow::onDrawingShown);
+    onFileNameChanged();
 }
 
 MainWindow::~MainWindow()
 {
-    // Its stack leaves the group, so it must go first.
+    // What works on it outlives it, the history of its edits above all.
     delete m_viewer;
 }
 
 void MainWindow::makeFileMenu()
 {
-    // The drawing window has hidden actions of its own for Ctrl+O and Ctrl+S. Hidden, they leave
-    // the keys to these.
     QMenu* menu = menuBar()->addMenu(tr("&File"));
-    QAction* open = menu->addAction(tr("&Open…"));
-    open->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+O")));
-    connect(open, &QAction::triggered, this, &MainWindow::chooseDrawing);
-    m_saveAction = menu->addAction(tr("&Save As…"));
-    m_saveAction->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+S")));
-    connect(m_saveAction, &QAction::triggered, this, &MainWindow::saveAs);
+    m_files->addActionsTo(*menu);
     m_exportAction = menu->addAction(tr("Export &Picture…"));
-    connect(m_exportAction, &QAction::triggered, this, &MainWindow::exportPicture);
+    connect(m_exportAction, &QAction::triggered, this,
+            [this] { exportPicture(*m_viewer, m_files->fileName(), *this); });
     menu->addSeparator();
     QAction* quit = menu->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+Q")));
@@ -109,64 +94,12 @@ void MainWindow::makeFileMenu()
 
 void MainWindow::makeEditMenu()
 {
-    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    menu->addAction(&editAction(*m_viewer));
-    menu->addSeparator();
-    QAction* undo = m_undoGroup.createUndoAction(this, tr("Undo"));
-    undo->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+Z")));
-    menu->addAction(undo);
-    QAction* redo = m_undoGroup.createRedoAction(this, tr("Redo"));
-    redo->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+Shift+Z")));
-    menu->addAction(redo);
+    m_history->addActionsTo(*menuBar()->addMenu(tr("&Edit")));
 }
 
 void MainWindow::openDrawing(const QString& fileName)
 {
-    if (!mayDiscardEdits())
-        return;
-    m_waitCursor = std::make_unique<WaitCursor>();
-    QString reason;
-    const auto text = readDrawing(fileName, reason);
-    if (text)
-        load(fileName, *text);
-    else
-        showError(tr("The drawing cannot be opened."), fileName, reason);
-}
-
-void MainWindow::load(const QString& fileName, const QByteArray& text)
-{
-    // Edit mode would go on with the old drawing until the new one is on screen.
-    editAction(*m_viewer).setChecked(false);
-    m_previousDocument = shownDocument(*m_viewer);
-    m_fileName = QFileInfo(fileName).absoluteFilePath();
-    m_richerFile = m_fileName;
-    m_hasLastingEdits = false;
-    statusBar()->clearMessage();
-    updateState();
-    m_viewer->loadData(text);
-    m_drawingDue.start();
-}
-
-void MainWindow::onDrawingDue()
-{
-    m_waitCursor.reset();
-    const auto document = shownDocument(*m_viewer);
-    const bool isShown = document != m_previousDocument;
-    m_previousDocument.reset();
-    if (!isShown) {
-        // What the window would save now is not what it shows.
-        const QString fileName = m_fileName;
-        m_fileName.clear();
-        updateState();
-        showError(tr("The drawing cannot be opened."), fileName, tr("It cannot be read."));
-        return;
-    }
-    if (document->entities().isEmpty())
-        statusBar()->showMessage(
-            tr("There are no polylines in this drawing, so nothing is shown."));
-    if (m_editsNext)
-        editAction(*m_viewer).setChecked(true);
-    m_editsNext = false;
+    m_files->open(fileName);
 }
 
 void MainWindow::editNextDrawing()
@@ -174,175 +107,32 @@ void MainWindow::editNextDrawing()
     m_editsNext = true;
 }
 
-void MainWindow::chooseDrawing()
+void MainWindow::onDrawingShown()
 {
-    QFileDialog dialog(this, tr("Open"), QFileInfo(m_fileName).path());
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setNameFilters({tr("DXF drawings (*.dxf *.DXF)"), tr("All files (*)")});
-    const QString fileName = chosenFile(dialog);
-    if (!fileName.isEmpty())
-        openDrawing(fileName);
+    if (shownDocument(*m_viewer)->entities().isEmpty())
+        statusBar()->showMessage(
+            tr("There are no polylines in this drawing, so nothing is shown."));
+    if (m_editsNext)
+        editAction(*m_viewer).setChecked(true);
+    m_editsNext = false;
 }
 
-bool MainWindow::saveAs()
+void MainWindow::onFileNameChanged()
 {
-    QFileDialog dialog(this, tr("Save As"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters({tr("DXF drawings (*.dxf *.DXF)")});
-    dialog.setDefaultSuffix(QStringLiteral("dxf"));
-    dialog.selectFile(nameForEditedCopy(m_fileName));
-    const QString fileName = chosenFile(dialog);
-    return !fileName.isEmpty() && mayReplace(fileName) && save(fileName);
-}
-
-bool MainWindow::save(const QString& fileName)
-{
-    const QByteArray text = m_viewer->getData();
-    QString reason;
-    if (text.isEmpty())
-        reason =
-            tr("The drawing could not be written to a temporary file. The folder for temporary "
-               "files may be full.");
-    if (text.isEmpty() || !writeFile(fileName, text, reason)) {
-        showError(tr("The drawing cannot be saved."), fileName, reason);
-        return false;
-    }
-    if (isSameFile(fileName, m_richerFile))
-        m_richerFile.clear();
-    m_fileName = fileName;
-    m_hasLastingEdits = false;
-    if (m_undoGroup.activeStack())
-        m_undoGroup.activeStack()->setClean();
-    updateState();
-    return true;
-}
-
-/// Asks before a file is replaced by less than it holds.
-bool MainWindow::mayReplace(const QString& fileName)
-{
-    if (!isSameFile(fileName, m_richerFile))
-        return true;
-    QMessageBox box(QMessageBox::Warning, QString(), tr("Replace the drawing that was opened?"),
-                    QMessageBox::Cancel, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(
-        tr("%1\n\nOnly layers, line types and polylines are saved. Everything else that the file "
-           "holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of "
-           "single "
-           "polylines. Once anything was erased, closed polylines lose their closing edge, and "
-           "bulges "
-           "become straight.")
-            .arg(readableName(fileName)));
-    QPushButton* replace = box.addButton(tr("Replace"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    return box.clickedButton() == replace;
-}
-
-void MainWindow::exportPicture()
-{
-    const auto document = shownDocument(*m_viewer);
-    if (!document)
-        return;
-    QStringList filters;
-    for (const QString& suffix : Picture::suffixes())
-        filters += tr("%1 pictures (*.%2)").arg(suffix.toUpper(), suffix);
-    QFileDialog dialog(this, tr("Export Picture"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilters(filters);
-    dialog.setDefaultSuffix(Picture::suffixes().constFirst());
-    connect(&dialog, &QFileDialog::filterSelected, &dialog,
-            [&dialog, &filters](const QString& filter) {
-                const auto index = filters.indexOf(filter);
-                dialog.setDefaultSuffix(Picture::suffixes().value(index));
-            });
-    const QFileInfo info(m_fileName);
-    dialog.selectFile(info.dir().filePath(info.completeBaseName() + QLatin1Char('.')
-                                          + Picture::suffixes().constFirst()));
-    const QString fileName = chosenFile(dialog);
-    if (fileName.isEmpty())
-        return;
-
-    const QBrush background = drawingView(*m_viewer).backgroundBrush();
-    QString reason;
-    m_waitCursor = std::make_unique<WaitCursor>();
-    const bool isWritten = Picture(document, background).write(fileName, reason);
-    m_waitCursor.reset();
-    if (!isWritten)
-        showError(tr("The picture cannot be written."), fileName, reason);
-}
-
-void MainWindow::onEditToggled(bool isOn)
-{
-    // The old stack has left the group when edit mode ended.
-    DXFEditor* editor = isOn ? currentEditor(*m_viewer) : nullptr;
-    if (!editor)
-        return;
-    m_undoGroup.addStack(editor->stack());
-    m_undoGroup.setActiveStack(editor->stack());
-}
-
-void MainWindow::onCleanChanged(bool isClean)
-{
-    // Without a stack the edits made so far are there to stay.
-    if (!m_undoGroup.activeStack())
-        m_hasLastingEdits = isWindowModified();
-    else
-        setWindowModified(m_hasLastingEdits || !isClean);
-}
-
-void MainWindow::updateState()
-{
-    const bool hasDrawing = !m_fileName.isEmpty();
-    m_saveAction->setEnabled(hasDrawing);
+    const QString fileName = m_files->fileName();
+    const bool hasDrawing = !fileName.isEmpty();
     m_exportAction->setEnabled(hasDrawing);
+    statusBar()->clearMessage();
     // A title has a mark of its own in brackets, so that in a name it must be doubled.
-    QString name = hasDrawing ? readableName(QFileInfo(m_fileName).fileName()) : tr("No drawing");
+    QString name = hasDrawing ? readableName(QFileInfo(fileName).fileName()) : tr("No drawing");
     setWindowTitle(name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"))
                    + QLatin1String("[*]"));
-    const QUndoStack* stack = m_undoGroup.activeStack();
-    setWindowModified(m_hasLastingEdits || (stack && !stack->isClean()));
-}
-
-/// Asks before unsaved edits are thrown away, and offers to save them.
-bool MainWindow::mayDiscardEdits()
-{
-    if (!isWindowModified())
-        return true;
-    QMessageBox box(QMessageBox::Question, QString(), tr("Save the edited drawing?"),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(readableName(QFileInfo(m_fileName).fileName()));
-    box.setDefaultButton(QMessageBox::Save);
-    switch (box.exec()) {
-    case QMessageBox::Save:
-        return saveAs();
-    case QMessageBox::Discard:
-        return true;
-    default:
-        return false;
-    }
-}
-
-QString MainWindow::chosenFile(QFileDialog& dialog)
-{
-    if (dialog.exec() != QDialog::Accepted)
-        return QString();
-    return dialog.selectedFiles().value(0);
-}
-
-void MainWindow::showError(const QString& what, const QString& fileName, const QString& reason)
-{
-    m_waitCursor.reset();
-    QMessageBox box(QMessageBox::Critical, QString(), what, QMessageBox::Ok, this);
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(readableName(fileName) + QLatin1String("\n\n") + reason);
-    box.exec();
+    setWindowModified(m_history->hasUnsavedEdits());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(mayDiscardEdits());
+    event->setAccepted(m_files->mayDiscardEdits());
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -3,22 +3,15 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QSharedPointer>
-#include <QTimer>
-#include <QUndoGroup>
 
-#include <memory>
-
-class DXFDocument;
+class DrawingFiles;
 class DXFViewer;
-class QFileDialog;
-class WaitCursor;
+class EditHistory;
 
 /**
- * A program's main window, with the drawing window in its middle: what a host has to add.
+ * The program's window: the drawing window in its middle, and around it what the program adds.
  *
- * That is a menu bar, files and questions, and the state that the drawing window does not keep:
- * which file is shown and whether it has edits that were not saved.
+ * It only puts the parts together: each of them does one job by itself.
  *
  * Two habits of the drawing window are good to know. In edit mode a drag with the left button
  * erases, with Ctrl held as well: the eraser gets the press before the view can pan. And after edit
@@ -46,39 +39,16 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private Q_SLOTS:
-    void chooseDrawing();
-    bool saveAs();
-    void exportPicture();
-    void onEditToggled(bool isOn);
-    void onCleanChanged(bool isClean);
-    void onDrawingDue();
+    void onDrawingShown();
+    void onFileNameChanged();
 
 private:
     void makeFileMenu();
     void makeEditMenu();
-    void load(const QString& fileName, const QByteArray& text);
-    bool save(const QString& fileName);
-    void updateState();
-    bool mayDiscardEdits();
-    bool mayReplace(const QString& fileName);
-    QString chosenFile(QFileDialog& dialog);
-    void showError(const QString& what, const QString& fileName, const QString& reason);
 
     DXFViewer* m_viewer;
-    // Edit mode has a stack of its own each time; the group's actions follow them.
-    QUndoGroup m_undoGroup;
-    QAction* m_saveAction = nullptr;
+    EditHistory* m_history;
+    DrawingFiles* m_files;
     QAction* m_exportAction = nullptr;
-
-    QString m_fileName;
-    // The file that was opened holds more than the window can save, until it is replaced.
-    QString m_richerFile;
-    // Edits whose stack is gone can no longer be undone, only saved.
-    bool m_hasLastingEdits = false;
-
-    // Restarted by each load: runs out when its drawing must be on screen.
-    QTimer m_drawingDue;
-    QSharedPointer<DXFDocument> m_previousDocument;
-    std::unique_ptr<WaitCursor> m_waitCursor;
     bool m_editsNext = false;
 };

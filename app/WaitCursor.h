@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// Shows the wait cursor for as long as it lives.

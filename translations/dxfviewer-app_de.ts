@@ -84,11 +84,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
+    <name>DrawingFiles</name>
     <message>
         <source>&amp;Open…</source>
         <translation>Ö&amp;ffnen …</translation>
@@ -98,36 +94,12 @@
         <translation>Speichern &amp;unter …</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
-        <translation>&amp;Bild exportieren …</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Wiederherstellen</translation>
-    </message>
-    <message>
         <source>The drawing cannot be opened.</source>
         <translation>Die Zeichnung kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
         <translation>Sie kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Diese Zeichnung enthält keine Polylinien, daher ist nichts zu sehen.</translation>
     </message>
     <message>
         <source>Open</source>
@@ -153,41 +125,43 @@
         <source>The drawing cannot be saved.</source>
         <translation>Die Zeichnung kann nicht gespeichert werden.</translation>
     </message>
+</context>
+<context>
+    <name>EditHistory</name>
     <message>
-        <source>Replace the drawing that was opened?</source>
-        <translation>Die geöffnete Zeichnung ersetzen?</translation>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>%1
-
-Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>%1
-
-Nur Layer, Linientypen und Polylinien werden gespeichert. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihr schließendes Segment, und Bögen in Polylinien werden gerade.</translation>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Ersetzen</translation>
+        <source>Export &amp;Picture…</source>
+        <translation>&amp;Bild exportieren …</translation>
     </message>
     <message>
-        <source>%1 pictures (*.%2)</source>
-        <translation>%1-Bilder (*.%2)</translation>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>Export Picture</source>
-        <translation>Bild exportieren</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
-        <source>The picture cannot be written.</source>
-        <translation>Das Bild kann nicht gespeichert werden.</translation>
+        <source>There are no polylines in this drawing, so nothing is shown.</source>
+        <translation>Diese Zeichnung enthält keine Polylinien, daher ist nichts zu sehen.</translation>
     </message>
     <message>
         <source>No drawing</source>
         <translation>Keine Zeichnung</translation>
-    </message>
-    <message>
-        <source>Save the edited drawing?</source>
-        <translation>Die bearbeitete Zeichnung speichern?</translation>
     </message>
 </context>
 <context>
@@ -203,6 +177,44 @@ Nur Layer, Linientypen und Polylinien werden gespeichert. Alles andere in der Da
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>Der Speicher reicht für das Bild nicht aus.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>%1 pictures (*.%2)</source>
+        <translation>%1-Bilder (*.%2)</translation>
+    </message>
+    <message>
+        <source>Export Picture</source>
+        <translation>Bild exportieren</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written.</source>
+        <translation>Das Bild kann nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Questions</name>
+    <message>
+        <source>Save the edited drawing?</source>
+        <translation>Die bearbeitete Zeichnung speichern?</translation>
+    </message>
+    <message>
+        <source>Replace the drawing that was opened?</source>
+        <translation>Die geöffnete Zeichnung ersetzen?</translation>
+    </message>
+    <message>
+        <source>%1
+
+Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>%1
+
+Nur Layer, Linientypen und Polylinien werden gespeichert. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihr schließendes Segment, und Bögen in Polylinien werden gerade.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
     </message>
 </context>
 </TS>

@@ -84,11 +84,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Archivo</translation>
-    </message>
+    <name>DrawingFiles</name>
     <message>
         <source>&amp;Open…</source>
         <translation>&amp;Abrir…</translation>
@@ -98,36 +94,12 @@
         <translation>&amp;Guardar como…</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
-        <translation>Exportar &amp;imagen…</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Editar</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Deshacer</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rehacer</translation>
-    </message>
-    <message>
         <source>The drawing cannot be opened.</source>
         <translation>No se puede abrir el dibujo.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
         <translation>No se puede leer.</translation>
-    </message>
-    <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Este dibujo no contiene polilíneas, por lo que no se muestra nada.</translation>
     </message>
     <message>
         <source>Open</source>
@@ -153,41 +125,43 @@
         <source>The drawing cannot be saved.</source>
         <translation>No se puede guardar el dibujo.</translation>
     </message>
+</context>
+<context>
+    <name>EditHistory</name>
     <message>
-        <source>Replace the drawing that was opened?</source>
-        <translation>¿Reemplazar el dibujo abierto?</translation>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
     </message>
     <message>
-        <source>%1
-
-Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>%1
-
-Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores propios de cada polilínea. Una vez que se ha borrado algo, las polilíneas cerradas pierden su segmento de cierre y los arcos de las polilíneas se vuelven rectos.</translation>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Reemplazar</translation>
+        <source>Export &amp;Picture…</source>
+        <translation>Exportar &amp;imagen…</translation>
     </message>
     <message>
-        <source>%1 pictures (*.%2)</source>
-        <translation>Imágenes %1 (*.%2)</translation>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
-        <source>Export Picture</source>
-        <translation>Exportar imagen</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
-        <source>The picture cannot be written.</source>
-        <translation>No se puede guardar la imagen.</translation>
+        <source>There are no polylines in this drawing, so nothing is shown.</source>
+        <translation>Este dibujo no contiene polilíneas, por lo que no se muestra nada.</translation>
     </message>
     <message>
         <source>No drawing</source>
         <translation>Sin dibujo</translation>
-    </message>
-    <message>
-        <source>Save the edited drawing?</source>
-        <translation>¿Guardar el dibujo editado?</translation>
     </message>
 </context>
 <context>
@@ -203,6 +177,44 @@ Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contien
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>No hay memoria suficiente para la imagen.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>%1 pictures (*.%2)</source>
+        <translation>Imágenes %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>Export Picture</source>
+        <translation>Exportar imagen</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written.</source>
+        <translation>No se puede guardar la imagen.</translation>
+    </message>
+</context>
+<context>
+    <name>Questions</name>
+    <message>
+        <source>Save the edited drawing?</source>
+        <translation>¿Guardar el dibujo editado?</translation>
+    </message>
+    <message>
+        <source>Replace the drawing that was opened?</source>
+        <translation>¿Reemplazar el dibujo abierto?</translation>
+    </message>
+    <message>
+        <source>%1
+
+Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>%1
+
+Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores propios de cada polilínea. Una vez que se ha borrado algo, las polilíneas cerradas pierden su segmento de cierre y los arcos de las polilíneas se vuelven rectos.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
     </message>
 </context>
 </TS>

@@ -84,11 +84,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
-    </message>
+    <name>DrawingFiles</name>
     <message>
         <source>&amp;Open…</source>
         <translation>&amp;Ouvrir…</translation>
@@ -98,36 +94,12 @@
         <translation>Enregistrer &amp;sous…</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
-        <translation>Exporter en tant qu’&amp;image…</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>É&amp;dition</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Rétablir</translation>
-    </message>
-    <message>
         <source>The drawing cannot be opened.</source>
         <translation>Impossible d’ouvrir le dessin.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
         <translation>Impossible de le lire.</translation>
-    </message>
-    <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Ce dessin ne contient aucune polyligne : rien n’est affiché.</translation>
     </message>
     <message>
         <source>Open</source>
@@ -153,41 +125,43 @@
         <source>The drawing cannot be saved.</source>
         <translation>Impossible d’enregistrer le dessin.</translation>
     </message>
+</context>
+<context>
+    <name>EditHistory</name>
     <message>
-        <source>Replace the drawing that was opened?</source>
-        <translation>Remplacer le dessin ouvert ?</translation>
+        <source>Undo</source>
+        <translation>Annuler</translation>
     </message>
     <message>
-        <source>%1
-
-Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>%1
-
-Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs propres à chaque polyligne. Dès que quelque chose a été effacé, les polylignes fermées perdent leur segment de fermeture et les arcs des polylignes deviennent droits.</translation>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Remplacer</translation>
+        <source>Export &amp;Picture…</source>
+        <translation>Exporter en tant qu’&amp;image…</translation>
     </message>
     <message>
-        <source>%1 pictures (*.%2)</source>
-        <translation>Images %1 (*.%2)</translation>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
-        <source>Export Picture</source>
-        <translation>Exporter en tant qu’image</translation>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
-        <source>The picture cannot be written.</source>
-        <translation>Impossible d’enregistrer l’image.</translation>
+        <source>There are no polylines in this drawing, so nothing is shown.</source>
+        <translation>Ce dessin ne contient aucune polyligne : rien n’est affiché.</translation>
     </message>
     <message>
         <source>No drawing</source>
         <translation>Aucun dessin</translation>
-    </message>
-    <message>
-        <source>Save the edited drawing?</source>
-        <translation>Enregistrer le dessin modifié ?</translation>
     </message>
 </context>
 <context>
@@ -203,6 +177,44 @@ Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout 
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>Il n’y a pas assez de mémoire pour l’image.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>%1 pictures (*.%2)</source>
+        <translation>Images %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>Export Picture</source>
+        <translation>Exporter en tant qu’image</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written.</source>
+        <translation>Impossible d’enregistrer l’image.</translation>
+    </message>
+</context>
+<context>
+    <name>Questions</name>
+    <message>
+        <source>Save the edited drawing?</source>
+        <translation>Enregistrer le dessin modifié ?</translation>
+    </message>
+    <message>
+        <source>Replace the drawing that was opened?</source>
+        <translation>Remplacer le dessin ouvert ?</translation>
+    </message>
+    <message>
+        <source>%1
+
+Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>%1
+
+Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs propres à chaque polyligne. Dès que quelque chose a été effacé, les polylignes fermées perdent leur segment de fermeture et les arcs des polylignes deviennent droits.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
     </message>
 </context>
 </TS>

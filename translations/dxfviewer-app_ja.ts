@@ -84,11 +84,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>&amp;File</source>
-        <translation>ファイル(&amp;F)</translation>
-    </message>
+    <name>DrawingFiles</name>
     <message>
         <source>&amp;Open…</source>
         <translation>開く(&amp;O)…</translation>
@@ -98,36 +94,12 @@
         <translation>名前を付けて保存(&amp;S)…</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
-        <translation>画像をエクスポート(&amp;P)…</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>終了(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>編集(&amp;E)</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
-    </message>
-    <message>
         <source>The drawing cannot be opened.</source>
         <translation>図面を開けません。</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
         <translation>読み込めません。</translation>
-    </message>
-    <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>この図面にはポリラインがないため、何も表示されません。</translation>
     </message>
     <message>
         <source>Open</source>
@@ -153,41 +125,43 @@
         <source>The drawing cannot be saved.</source>
         <translation>図面を保存できません。</translation>
     </message>
+</context>
+<context>
+    <name>EditHistory</name>
     <message>
-        <source>Replace the drawing that was opened?</source>
-        <translation>開いた図面を置き換えますか？</translation>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
     </message>
     <message>
-        <source>%1
-
-Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>%1
-
-保存されるのは画層、線種、ポリラインだけです。ファイル内のそれ以外のもの（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。一度でも消去すると、閉じたポリラインでは閉じる線分が失われ、ポリラインの円弧部分は直線になります。</translation>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>置き換える</translation>
+        <source>Export &amp;Picture…</source>
+        <translation>画像をエクスポート(&amp;P)…</translation>
     </message>
     <message>
-        <source>%1 pictures (*.%2)</source>
-        <translation>%1 画像 (*.%2)</translation>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
-        <source>Export Picture</source>
-        <translation>画像をエクスポート</translation>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
     </message>
     <message>
-        <source>The picture cannot be written.</source>
-        <translation>画像を保存できません。</translation>
+        <source>There are no polylines in this drawing, so nothing is shown.</source>
+        <translation>この図面にはポリラインがないため、何も表示されません。</translation>
     </message>
     <message>
         <source>No drawing</source>
         <translation>図面なし</translation>
-    </message>
-    <message>
-        <source>Save the edited drawing?</source>
-        <translation>編集した図面を保存しますか？</translation>
     </message>
 </context>
 <context>
@@ -203,6 +177,44 @@ Only layers, line types and polylines are saved. Everything else that the file h
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>メモリ不足のため画像を作成できません。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>%1 pictures (*.%2)</source>
+        <translation>%1 画像 (*.%2)</translation>
+    </message>
+    <message>
+        <source>Export Picture</source>
+        <translation>画像をエクスポート</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written.</source>
+        <translation>画像を保存できません。</translation>
+    </message>
+</context>
+<context>
+    <name>Questions</name>
+    <message>
+        <source>Save the edited drawing?</source>
+        <translation>編集した図面を保存しますか？</translation>
+    </message>
+    <message>
+        <source>Replace the drawing that was opened?</source>
+        <translation>開いた図面を置き換えますか？</translation>
+    </message>
+    <message>
+        <source>%1
+
+Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>%1
+
+保存されるのは画層、線種、ポリラインだけです。ファイル内のそれ以外のもの（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。一度でも消去すると、閉じたポリラインでは閉じる線分が失われ、ポリラインの円弧部分は直線になります。</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
     </message>
 </context>
 </TS>

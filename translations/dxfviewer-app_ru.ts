@@ -84,11 +84,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Файл</translation>
-    </message>
+    <name>DrawingFiles</name>
     <message>
         <source>&amp;Open…</source>
         <translation>&amp;Открыть…</translation>
@@ -98,36 +94,12 @@
         <translation>&amp;Сохранить как…</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
-        <translation>&amp;Экспорт изображения…</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Выход</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Правка</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Отменить</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>Повторить</translation>
-    </message>
-    <message>
         <source>The drawing cannot be opened.</source>
         <translation>Не удаётся открыть чертёж.</translation>
     </message>
     <message>
         <source>It cannot be read.</source>
         <translation>Не удаётся прочитать чертёж.</translation>
-    </message>
-    <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>В этом чертеже нет полилиний, поэтому ничего не показано.</translation>
     </message>
     <message>
         <source>Open</source>
@@ -153,41 +125,43 @@
         <source>The drawing cannot be saved.</source>
         <translation>Не удаётся сохранить чертёж.</translation>
     </message>
+</context>
+<context>
+    <name>EditHistory</name>
     <message>
-        <source>Replace the drawing that was opened?</source>
-        <translation>Заменить открытый чертёж?</translation>
+        <source>Undo</source>
+        <translation>Отменить</translation>
     </message>
     <message>
-        <source>%1
-
-Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>%1
-
-Сохраняются только слои, типы линий и полилинии. Всё остальное, что есть в файле, теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающий сегмент, а дуги полилиний становятся прямыми.</translation>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Заменить</translation>
+        <source>Export &amp;Picture…</source>
+        <translation>&amp;Экспорт изображения…</translation>
     </message>
     <message>
-        <source>%1 pictures (*.%2)</source>
-        <translation>Изображения %1 (*.%2)</translation>
+        <source>&amp;Quit</source>
+        <translation>&amp;Выход</translation>
     </message>
     <message>
-        <source>Export Picture</source>
-        <translation>Экспорт изображения</translation>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
     </message>
     <message>
-        <source>The picture cannot be written.</source>
-        <translation>Не удаётся сохранить изображение.</translation>
+        <source>There are no polylines in this drawing, so nothing is shown.</source>
+        <translation>В этом чертеже нет полилиний, поэтому ничего не показано.</translation>
     </message>
     <message>
         <source>No drawing</source>
         <translation>Нет чертежа</translation>
-    </message>
-    <message>
-        <source>Save the edited drawing?</source>
-        <translation>Сохранить изменённый чертёж?</translation>
     </message>
 </context>
 <context>
@@ -203,6 +177,44 @@ Only layers, line types and polylines are saved. Everything else that the file h
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>Для изображения не хватает памяти.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureExport</name>
+    <message>
+        <source>%1 pictures (*.%2)</source>
+        <translation>Изображения %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>Export Picture</source>
+        <translation>Экспорт изображения</translation>
+    </message>
+    <message>
+        <source>The picture cannot be written.</source>
+        <translation>Не удаётся сохранить изображение.</translation>
+    </message>
+</context>
+<context>
+    <name>Questions</name>
+    <message>
+        <source>Save the edited drawing?</source>
+        <translation>Сохранить изменённый чертёж?</translation>
+    </message>
+    <message>
+        <source>Replace the drawing that was opened?</source>
+        <translation>Заменить открытый чертёж?</translation>
+    </message>
+    <message>
+        <source>%1
+
+Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>%1
+
+Сохраняются только слои, типы линий и полилинии. Всё остальное, что есть в файле, теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающий сегмент, а дуги полилиний становятся прямыми.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "PictureExport.h"
+
+#include "Picture.h"
+#include "Questions.h"
+#include "ViewerParts.h"
+#include "WaitCursor.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGraphicsView>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PictureExport)
+};
+
+QString chosenPicture(const QString& drawingName, QWidget& window)
+{
+    QStringList filters;
+    for (const QString& suffix : Picture::suffixes())
+        filters += Texts::tr("%1 pictures (*.%2)").arg(suffix.toUpper(), suffix);
+    QFileDialog dialog(&window, Texts::tr("Export Picture"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(filters);
+    dialog.setDefaultSuffix(Picture::suffixes().constFirst());
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog, &filters](const QString& filter) {
+                         const auto index = filters.indexOf(filter);
+                         dialog.setDefaultSuffix(Picture::suffixes().value(index));
+                     });
+    const QFileInfo info(drawingName);
+    dialog.selectFile(info.dir().filePath(info.completeBaseName() + QLatin1Char('.')
+                                          + Picture::suffixes().constFirst()));
+    return chosenFile(dialog);
+}
+
+} // namespace
+
+void exportPicture(const DXFViewer& viewer, const QString& drawingName, QWidget& window)
+{
+    const auto document = shownDocument(viewer);
+    if (!document)
+        return;
+    const QString fileName = chosenPicture(drawingName, window);
+    if (fileName.isEmpty())
+        return;
+
+    const QBrush background = drawingView(viewer).backgroundBrush();
+    QString reason;
+    bool isWritten = false;
+    {
+        const WaitCursor waitCursor;
+        isWritten = Picture(document, background).write(fileName, reason);
+    }
+    if (!isWritten)
+        showError(window, Texts::tr("The picture cannot be written."), fileName, reason);
+}

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QString>
+
+class DXFViewer;
+class QWidget;
+
+/// Asks for the name of a picture file and writes what the window shows of this drawing to it.
+void exportPicture(const DXFViewer& viewer, const QString& drawingName, QWidget& window);

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "Questions.h"
+
+#include "FileNames.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Questions)
+};
+
+} // namespace
+
+EditsAnswer askAboutEdits(QWidget& window, const QString& fileName)
+{
+    QMessageBox box(QMessageBox::Question, QString(), Texts::tr("Save the edited drawing?"),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(readableName(QFileInfo(fileName).fileName()));
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return EditsAnswer::Save;
+    case QMessageBox::Discard:
+        return EditsAnswer::Discard;
+    default:
+        return EditsAnswer::Cancel;
+    }
+}
+
+bool askToReplace(QWidget& window, const QString& fileName)
+{
+    QMessageBox box(QMessageBox::Warning, QString(),
+                    Texts::tr("Replace the drawing that was opened?"), QMessageBox::Cancel,
+                    &window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        Texts::tr(
+            "%1\n\nOnly layers, line types and polylines are saved. Everything else that the file "
+            "holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of "
+            "single "
+            "polylines. Once anything was erased, closed polylines lose their closing edge, and "
+            "bulges "
+            "become straight.")
+            .arg(readableName(fileName)));
+    QPushButton* replace = box.addButton(Texts::tr("Replace"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == replace;
+}
+
+QString chosenFile(QFileDialog& dialog)
+{
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    return dialog.selectedFiles().value(0);
+}
+
+void showError(QWidget& window, const QString& what, const QString& fileName, const QString& reason)
+{
+    QMessageBox box(QMessageBox::Critical, QString(), what, QMessageBox::Ok, &window);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(readableName(fileName) + QLatin1String("\n\n") + reason);
+    box.exec();
+}

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QString>
+
+class QFileDialog;
+class QWidget;
+
+// What the program asks and tells in boxes.
+
+enum class EditsAnswer { Save, Discard, Cancel };
+
+/// Asks what to do with unsaved edits of this file.
+EditsAnswer askAboutEdits(QWidget& window, const QString& fileName);
+
+/// Asks before a file is replaced by less than it holds.
+bool askToReplace(QWidget& window, const QString& fileName);
+
+/// The file that the user chooses; empty if none.
+QString chosenFile(QFileDialog& dialog);
+
+void showError(QWidget& window, const QString& what, const QString& fileName,
+               const QString& reason);
