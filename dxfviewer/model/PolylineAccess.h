@@ -34,6 +34,12 @@ public:
         polyline.hoverSegments(ids);
     }
 
+    /// For who knows all vertices beforehand: adding them one by one takes room for more.
+    static void setVertices(DXFPolyline& polyline, const QVector<DXFVertex>& vertices)
+    {
+        polyline.m_vertices = vertices;
+    }
+
     /// Does what setSegments() does but for taking the segments: the next setup() makes new ones.
     static void setVerticesAlong(DXFPolyline& polyline, const Segment* begin, const Segment* end)
     {

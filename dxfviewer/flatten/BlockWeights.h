@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+namespace dxfviewer
+{
+
+class Drawing;
+
+/// What each block of a drawing comes to, before any of them is inserted.
+class BlockWeights
+{
+public:
+    /// Cuts the inserts by which a block would contain itself.
+    BlockWeights(Drawing& drawing, long long most);
+
+    /// The number of vertices and inserted blocks that one instance of a block makes, or the most
+    /// if it makes more. 0 if it shows nothing, however often it is inserted.
+    long long of(std::size_t block) const { return m_weights[block]; }
+    /// Whether the drawing shows the block, be it as nothing.
+    bool isReached(std::size_t block) const { return m_states[block] == State::Known; }
+
+private:
+    enum class State { New, Open, Known };
+    /// A block on the way from the drawing down to what is looked at.
+    struct Step {
+        std::size_t block;
+        std::size_t insert;
+    };
+
+    void follow(Drawing& drawing);
+    long long weightOf(const Drawing& drawing, std::size_t block) const;
+
+    long long m_most;
+    std::vector<State> m_states;
+    std::vector<long long> m_weights;
+};
+
+} // namespace dxfviewer

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/flatten/Drawing.h"
+#include "dxfviewer/flatten/Placement.h"
+
+#include <QMap>
+#include <QSharedPointer>
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+class DXFAttributes;
+class DXFDocument;
+
+namespace dxfviewer
+{
+
+class BlockWeights;
+
+/// Adds a gathered drawing to a document: every chain becomes a polyline, blocks wherever they are
+/// inserted.
+class DocumentFiller
+{
+public:
+    DocumentFiller(DXFDocument& document, Drawing& drawing);
+
+    /// False, and nothing is added, if that makes more vertices and inserted blocks than this.
+    bool fill(long long most);
+
+    /// The entities that became polylines, and those that are not shown, by their kinds. What lies
+    /// in a block counts once if the block is shown at all.
+    QMap<QString, int> shown() const { return m_shown; }
+    QMap<QString, int> skipped() const { return m_skipped; }
+
+private:
+    /// An instance of a block, as far as it has been added.
+    struct Instance {
+        std::size_t block;
+        Placement placement;
+        /// What is by-block in it.
+        std::size_t context;
+        bool isPlaced;
+        std::size_t item = 0;
+        std::size_t chain = 0;
+        long long repeated = 0;
+    };
+
+    void count(const BlockWeights& weights);
+    void add(const BlockWeights& weights);
+    bool addNext(std::vector<Instance>& way, const BlockWeights& weights);
+    void addChain(const Instance& instance, const Block::Item& item);
+    Instance inserted(const Instance& outer, const Block::Item& item, long long number);
+    QSharedPointer<DXFAttributes> attributesOf(std::size_t context, std::size_t look);
+    std::size_t contextOf(std::size_t context, std::size_t look);
+    Look resolved(std::size_t context, std::size_t look) const;
+    Look withoutLayer(const Look& look) const;
+    QString kindName(std::size_t kind) const;
+
+    DXFDocument& m_document;
+    Drawing& m_drawing;
+    QMap<QString, int> m_shown;
+    QMap<QString, int> m_skipped;
+
+    /// The looks of inserts, with nothing left to be resolved.
+    Looks m_contexts;
+    std::unordered_map<std::uint64_t, std::size_t> m_contextIds;
+    Looks m_resolved;
+    std::vector<QSharedPointer<DXFAttributes>> m_attributes;
+    std::unordered_map<std::uint64_t, QSharedPointer<DXFAttributes>> m_attributesOfLooks;
+};
+
+} // namespace dxfviewer

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/flatten/FlatteningReader.h"
+
+#include "dxfviewer/flatten/DocumentFiller.h"
+#include "dxfviewer/flatten/DrawingGatherer.h"
+
+#include <QDebug>
+
+#include <algorithm>
+
+FlatteningReader::FlatteningReader(DXFDocument& document, const FlatteningOptions& options)
+    : DXFReader(document)
+    , m_filledDocument(document)
+    , m_options(options)
+{
+    // One more of them must be a number too.
+    constexpr qint64 mostVertices = std::numeric_limits<int>::max();
+    m_options.maximalVertices = std::clamp(m_options.maximalVertices, qint64(0), mostVertices);
+}
+
+FlatteningReader::~FlatteningReader() = default;
+
+std::optional<std::string> FlatteningReader::textOf(std::string_view bytes)
+{
+    Q_UNUSED(bytes)
+    m_gatherer = std::make_unique<dxfviewer::DrawingGatherer>(m_options);
+    return std::nullopt;
+}
+
+bool FlatteningReader::takesGroup(int code, std::string_view value)
+{
+    return m_gatherer && m_gatherer->takeGroup(code, value);
+}
+
+bool FlatteningReader::finishReading()
+{
+    // Whatever happens, the next drawing begins anew.
+    const auto gatherer = std::move(m_gatherer);
+    if (!gatherer)
+        return true;
+    gatherer->finish();
+    dxfviewer::DocumentFiller filler(m_filledDocument, gatherer->drawing());
+    if (gatherer->isTooLarge() || !filler.fill(m_options.maximalVertices)) {
+        qDebug("FlatteningReader: the drawing has more than %lld vertices",
+               static_cast<long long>(m_options.maximalVertices));
+        return false;
+    }
+    m_shown = filler.shown();
+    m_skipped = filler.skipped();
+    return true;
+}

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/dxfviewer_export.h"
+#include "dxfviewer/flatten/FlatteningOptions.h"
+#include "dxfviewer/io/DXFReader.h"
+#include "dxfviewer/io/IReadingSteps.h"
+
+#include <QMap>
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace dxfviewer
+{
+class DrawingGatherer;
+}
+
+/**
+ * Fills a document with everything that can be drawn, as chains of straight segments.
+ *
+ * Lines, curves, faces, meshes, leaders and points become polylines, and so does what is inserted
+ * as a block, wherever and however often it is; a block by itself is not shown. Everything is seen
+ * from above: z is 0. What is closed ends at its first vertex, so no polyline carries flags or
+ * bulges. What is by-block has the attributes of its insert. Layers and line types are read as
+ * DXFReader reads them. Entities come in the order of the drawing and share attributes.
+ *
+ * Texts that are not UTF-8 are decoded by the drawing's code page, and binary DXF is read as well.
+ *
+ * load() is DXFReader's. It returns false, after a message on the debug channel, also if the
+ * drawing comes to more vertices than the options allow. Make a reader for each drawing.
+ *
+ * A subclass may override processCodeValuePair(), which is called for every group, to show progress
+ * or, by an exception, to stop.
+ */
+class DXFVIEWER_EXPORT FlatteningReader : public DXFReader, public IReadingSteps
+{
+public:
+    /// The document must outlive the reader.
+    explicit FlatteningReader(DXFDocument& document, const FlatteningOptions& options = {});
+    ~FlatteningReader() override;
+
+    /// The entities that became polylines, by their names in DXF ("ARC", "INSERT"). What lies in a
+    /// block counts once if the block is shown, however often. Complete after load().
+    QMap<QString, int> shown() const { return m_shown; }
+    /// The entities that are not shown, counted in the same way. Entities that are invisible or
+    /// elsewhere than in the space that is shown are not missed.
+    QMap<QString, int> skipped() const { return m_skipped; }
+
+    /// @name Steps of load()
+    /// @{
+    std::optional<std::string> textOf(std::string_view bytes) override;
+    bool takesGroup(int code, std::string_view value) override;
+    bool finishReading() override;
+    /// @}
+
+private:
+    DXFDocument& m_filledDocument;
+    FlatteningOptions m_options;
+    std::unique_ptr<dxfviewer::DrawingGatherer> m_gatherer;
+    QMap<QString, int> m_shown;
+    QMap<QString, int> m_skipped;
+};

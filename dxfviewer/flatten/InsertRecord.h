@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/flatten/Block.h"
+
+namespace dxfviewer
+{
+
+class Record;
+
+/// Whether an entity of this kind shows a block.
+bool insertsBlock(const Record& record);
+
+/// Where such an entity shows its block, which is left to be set.
+BlockInsert insertOf(const Record& record);
+
+} // namespace dxfviewer
