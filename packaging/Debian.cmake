@@ -31,9 +31,17 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/dxfviewer
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 
-# CPack runs ldconfig from a script; Debian wants the trigger.
+# CPack would run ldconfig from scripts of its own, but Debian wants the trigger. It leaves its scripts
+# out where others are named, and those that do not exist are no scripts at all.
 file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/triggers" "activate-noawait ldconfig\n")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${CMAKE_CURRENT_BINARY_DIR}/triggers")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
+    "${CMAKE_CURRENT_BINARY_DIR}/triggers"
+    "${CMAKE_CURRENT_BINARY_DIR}/symbols"
+    "${CMAKE_CURRENT_BINARY_DIR}/no-script/postinst"
+    "${CMAKE_CURRENT_BINARY_DIR}/no-script/postrm")
+
+# Each package says in its own first line what it is; CPack would put the project's before it.
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 
 set(about "It comes as a window for other programs to embed, with undo, and as the
 parts that the window is made of.")
@@ -41,7 +49,7 @@ parts that the window is made of.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_DESCRIPTION
-"Qt ${DXFVIEWER_QT_MAJOR} widgets that show and erase DXF drawings
+"Qt ${DXFVIEWER_QT_MAJOR} widgets that show and erase DXF drawings - shared library
 This library shows drawings in the DXF format and lets the user erase parts
 of them.
 ${about}")
@@ -53,18 +61,23 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION
 "Qt ${DXFVIEWER_QT_MAJOR} widgets that show and erase DXF drawings - development files
 This package holds what is needed to build programs with the library: the
-headers and the files by which CMake and pkg-config find it.
+headers, the files by which CMake and pkg-config find it, and the pages about
+embedding it.
 ${about}")
 
 set(CPACK_DEBIAN_APP_PACKAGE_NAME ${app_package})
 set(CPACK_DEBIAN_APP_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_APP_PACKAGE_DEPENDS "${library_package} ${this_version}")
 set(CPACK_DEBIAN_APP_DESCRIPTION
-"small viewer and eraser for DXF drawings (Qt ${DXFVIEWER_QT_MAJOR})
+"viewer and eraser for DXF drawings (Qt ${DXFVIEWER_QT_MAJOR})
 This program opens drawings in the DXF format, shows them, and lets the user
-erase parts of them. It is the example of how a program embeds the library.")
+erase parts of them, with undo. It saves the edited drawing, and makes pictures
+of drawings as PNG, SVG and PDF, also without a display.")
 
 find_program(GZIP gzip)
-mark_as_advanced(GZIP)
-configure_file("${CMAKE_CURRENT_SOURCE_DIR}/DebianDocs.cmake.in" DebianDocs.cmake @ONLY)
-set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_BINARY_DIR}/DebianDocs.cmake")
+find_program(DPKG_GENSYMBOLS dpkg-gensymbols)
+mark_as_advanced(GZIP DPKG_GENSYMBOLS)
+set(library_soname "libdxfviewer${DXFVIEWER_QT_SUFFIX}.so.${PROJECT_VERSION_MAJOR}")
+configure_file(debian/symbols.in symbols.in @ONLY)
+configure_file(DebianFiles.cmake.in DebianFiles.cmake @ONLY)
+set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_BINARY_DIR}/DebianFiles.cmake")

@@ -54,19 +54,29 @@ field "libdxfviewer$suffix-dev" Depends | grep -q "$library (= " ||
 field "dxfviewer$suffix" Depends | grep -q "$library (= " ||
     fail "the program does not depend on this very library"
 
-run_if_there lintian --allow-root --fail-on error "$build"/packages/*.deb
+# Three packages in a list are told apart by their first lines.
+for package in "$build"/packages/*.deb; do
+    dpkg-deb --field "$package" Description | head -n 1
+done | sort | uniq -d | grep . && fail "two packages have the same short description"
+for package in "$build"/packages/*.deb; do
+    for script in preinst postinst prerm postrm; do
+        ! dpkg-deb --info "$package" $script >/dev/null 2>&1 || fail "$package has the script $script"
+    done
+done
+dpkg-deb --info "$build/packages/${library}_"*.deb symbols |
+    grep -q '^ _ZN9DXFViewerC1E.*@Base 0\.1\.0$' || fail "$library does not list its symbols"
+
+# What is left is explained in packaging/debian.
+run_if_there lintian --allow-root --pedantic --display-info \
+    --fail-on error --fail-on warning --fail-on info --fail-on pedantic "$build"/packages/*.deb
 
 # The root holds nothing that the packages depend on: the running system lends that.
 mkdir -p "$root/var/lib/dpkg/updates" "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/triggers"
 : >"$root/var/lib/dpkg/status"
-# A script of the packages would renew the running system's table of libraries.
-mkdir -p "$build/idle"
-printf '#!/bin/sh\n' >"$build/idle/ldconfig"
-chmod +x "$build/idle/ldconfig"
 as_root=
 [ "$(id -u)" = 0 ] || as_root=fakeroot
 # dpkg asks for programs that are not in the path of every user.
-PATH=$build/idle:$PATH:/usr/sbin:/sbin $as_root dpkg --root="$root" --log=/dev/null \
+PATH=$PATH:/usr/sbin:/sbin $as_root dpkg --root="$root" --log=/dev/null \
     --force-depends --force-not-root --force-script-chrootless \
     --install "$build"/packages/*.deb
 
@@ -75,6 +85,19 @@ run_if_there appstreamcli validate --no-net "$root"/usr/share/metainfo/*.xml
 
 libraries=$(dirname "$(find "$root/usr/lib" -name "libdxfviewer$suffix.so.0")")
 program=$root/usr/bin/dxfviewer$suffix
+for binary in "$program" "$libraries/libdxfviewer$suffix.so.0"; do
+    ! readelf --dynamic "$binary" | grep -E 'RPATH|RUNPATH' || fail "$binary has a run path"
+    readelf --dynamic "$binary" | grep -q BIND_NOW || fail "$binary is not bound at its start"
+done
 LD_LIBRARY_PATH=$libraries "$program" --picture "$build/picture.svg" "$source/samples/floor-plan.dxf"
 LD_LIBRARY_PATH=$libraries LC_ALL=C.UTF-8 LANGUAGE=de "$program" --help | grep -q DXF-Zeichnungen ||
     fail "the installed program does not find its translations"
+
+# Every option has its place in the manual.
+manual=$root/usr/share/man/man1/dxfviewer$suffix.1.gz
+for option in $(LD_LIBRARY_PATH=$libraries LC_ALL=C "$program" --help | grep -o -- '  --[a-z-]*'); do
+    gunzip -c "$manual" | tr -d '\134' | grep -q -- "$option" || fail "the manual does not name $option"
+done
+for page in overview.md embedding.md examples/window/main.cpp; do
+    [ -f "$root/usr/share/doc/libdxfviewer$suffix-dev/$page" ] || fail "$page is not packed"
+done
