@@ -15,6 +15,7 @@ namespace
 
 constexpr int firstHandle = 0x20;
 constexpr int closedFlag = 1;
+constexpr int centeredFlag = 1;
 
 struct LineType {
     const char* name;
@@ -59,6 +60,12 @@ std::string group(int code, int value)
 std::string group(int code, double value)
 {
     return group(code, number(value));
+}
+
+/// A point, whose x has this code.
+std::string place(int code, double x, double y)
+{
+    return group(code, x) + group(code + 10, y);
 }
 
 std::string lineTypeRecord(const LineType& type, double scale)
@@ -113,14 +120,13 @@ Drawing::Drawing(std::vector<Layer> layers, double dashScale)
 
 void Drawing::add(const std::string& layer, const Path& path)
 {
-    m_entities += group(0, "LWPOLYLINE") + group(5, hexadecimal(++m_lastHandle))
-                  + group(100, "AcDbEntity") + group(8, layer) + group(100, "AcDbPolyline")
-                  + group(90, static_cast<int>(path.vertices.size()))
-                  + group(70, path.isClosed ? closedFlag : 0);
+    begin("LWPOLYLINE", layer, "AcDbPolyline");
+    write(group(90, static_cast<int>(path.vertices.size()))
+          + group(70, path.isClosed ? closedFlag : 0));
     for (const Vertex& vertex : path.vertices) {
-        m_entities += group(10, vertex.x) + group(20, vertex.y);
+        write(place(10, vertex.x, vertex.y));
         if (vertex.bulge != 0.0)
-            m_entities += group(42, vertex.bulge);
+            write(group(42, vertex.bulge));
     }
 }
 
@@ -128,6 +134,66 @@ void Drawing::add(const std::string& layer, const std::vector<Path>& paths)
 {
     for (const Path& path : paths)
         add(layer, path);
+}
+
+void Drawing::addLine(const std::string& layer, double x1, double y1, double x2, double y2)
+{
+    begin("LINE", layer, "AcDbLine");
+    write(place(10, x1, y1) + place(11, x2, y2));
+}
+
+void Drawing::addCircle(const std::string& layer, double x, double y, double radius)
+{
+    begin("CIRCLE", layer, "AcDbCircle");
+    write(place(10, x, y) + group(40, radius));
+}
+
+void Drawing::addArc(const std::string& layer, double x, double y, double radius, double from,
+                     double to)
+{
+    begin("ARC", layer, "AcDbCircle");
+    write(place(10, x, y) + group(40, radius) + group(100, "AcDbArc") + group(50, from)
+          + group(51, to));
+}
+
+void Drawing::addText(const std::string& layer, double x, double y, double height, double angle,
+                      const std::string& text)
+{
+    begin("TEXT", layer, "AcDbText");
+    write(place(10, x, y) + group(40, height) + group(1, text) + group(50, angle)
+          + group(72, centeredFlag) + place(11, x, y) + group(100, "AcDbText"));
+}
+
+void Drawing::addInsert(const std::string& layer, const std::string& block, double x, double y,
+                        double scale, double angle)
+{
+    begin("INSERT", layer, "AcDbBlockReference");
+    write(group(2, block) + place(10, x, y) + group(41, scale) + group(42, scale) + group(43, scale)
+          + group(50, angle));
+}
+
+void Drawing::beginBlock(const std::string& name)
+{
+    m_isInBlock = true;
+    begin("BLOCK", "0", "AcDbBlockBegin");
+    write(group(2, name) + group(70, 0) + place(10, 0, 0) + group(3, name));
+}
+
+void Drawing::endBlock()
+{
+    begin("ENDBLK", "0", "AcDbBlockEnd");
+    m_isInBlock = false;
+}
+
+void Drawing::begin(const std::string& type, const std::string& layer, const std::string& subclass)
+{
+    write(group(0, type) + group(5, hexadecimal(++m_lastHandle)) + group(100, "AcDbEntity")
+          + group(8, layer) + group(100, subclass));
+}
+
+void Drawing::write(const std::string& groups)
+{
+    (m_isInBlock ? m_blocks : m_entities) += groups;
 }
 
 std::string Drawing::text() const
@@ -138,7 +204,8 @@ std::string Drawing::text() const
     return section("HEADER", group(9, "$ACADVER") + group(1, "AC1018"))
            + section("TABLES", table("LTYPE", lineTypes(), scaledLineType)
                                    + table("LAYER", m_layers, layerRecord))
-           + section("ENTITIES", m_entities) + group(0, "EOF");
+           + (m_blocks.empty() ? "" : section("BLOCKS", m_blocks)) + section("ENTITIES", m_entities)
+           + group(0, "EOF");
 }
 
 } // namespace samples

@@ -31,7 +31,8 @@ struct Layer {
     std::string lineType = "CONTINUOUS";
 };
 
-/// A DXF drawing in the making: layers, and polylines on them.
+/// A DXF drawing in the making: layers, and entities on them. Angles are in degrees, against the
+/// clock.
 class Drawing
 {
 public:
@@ -42,13 +43,34 @@ public:
     void add(const std::string& layer, const Path& path);
     void add(const std::string& layer, const std::vector<Path>& paths);
 
+    void addLine(const std::string& layer, double x1, double y1, double x2, double y2);
+    void addCircle(const std::string& layer, double x, double y, double radius);
+    void addArc(const std::string& layer, double x, double y, double radius, double from,
+                double to);
+    /// The place is the middle of the text's base line.
+    void addText(const std::string& layer, double x, double y, double height, double angle,
+                 const std::string& text);
+    void addInsert(const std::string& layer, const std::string& block, double x, double y,
+                   double scale, double angle);
+
+    /// What is added between these two makes the block, about the origin.
+    void beginBlock(const std::string& name);
+    void endBlock();
+
     /// The drawing as the text of a DXF file.
     std::string text() const;
 
 private:
+    /// The groups that every entity begins with.
+    void begin(const std::string& type, const std::string& layer, const std::string& subclass);
+    /// Continues the entity that was begun last.
+    void write(const std::string& groups);
+
     std::vector<Layer> m_layers;
     double m_dashScale;
     std::string m_entities;
+    std::string m_blocks;
+    bool m_isInBlock = false;
     int m_lastHandle;
 };
 

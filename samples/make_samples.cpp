@@ -4,6 +4,7 @@
 //   dxfviewer_make_samples FOLDER            writes all of them into the folder
 //   dxfviewer_make_samples --compare FILE    fails if the file is not what would be written
 
+#include "BearingHousing.h"
 #include "BracketPart.h"
 #include "ContourMap.h"
 #include "FloorPlan.h"
@@ -22,6 +23,7 @@ using Maker = samples::Drawing (*)();
 const std::map<std::string, Maker>& makers()
 {
     static const std::map<std::string, Maker> all = {
+        {"bearing-housing.dxf", samples::bearingHousing},
         {"bracket-part.dxf", samples::bracketPart},
         {"contour-map.dxf", samples::contourMap},
         {"floor-plan.dxf", samples::floorPlan},

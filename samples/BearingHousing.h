@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "Drawing.h"
+
+namespace samples
+{
+
+/// A bearing in its housing, in millimetres, as a workshop draws it: of lines, arcs, circles, texts
+/// and inserted blocks, with y upwards.
+Drawing bearingHousing();
+
+} // namespace samples
