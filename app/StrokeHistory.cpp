@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "StrokeHistory.h"
+
+#include "Machine.h"
+
+#include <dxfviewer/edit/DXFEditor.h>
+#include <dxfviewer/model/DXFDocument.h>
+#include <dxfviewer/model/DXFPolyline.h>
+
+#include <QAction>
+#include <QEvent>
+#include <QGraphicsView>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int polylineType = 0;
+
+// What the library keeps without being asked.
+constexpr int fewestSteps = 10;
+// The stack keeps a list of its steps, and nobody goes back further.
+constexpr int mostSteps = 100000;
+
+// What a step keeps: a copy of each entity, which shares what did not change with the copies of
+// the steps before, and the segments of the polylines that it cuts.
+constexpr qint64 bytesPerStep = 1024;
+constexpr qint64 bytesPerEntity = 210;
+constexpr qint64 bytesPerSegment = 90;
+
+constexpr int memoryShare = 8;
+
+qint64 segmentsOfLargest(const DXFDocument& document)
+{
+    qint64 largest = 0;
+    const auto entities = document.entities();
+    for (const auto& entity : entities) {
+        if (entity && entity->type() == polylineType)
+            largest = std::max<qint64>(largest,
+                                       static_cast<const DXFPolyline&>(*entity).segments().size());
+    }
+    return largest;
+}
+
+} // namespace
+
+StrokeHistory::StrokeHistory(QGraphicsView& view, QObject* parent)
+    : StrokeHistory(view, memoryOfMachine() / memoryShare, parent)
+{
+}
+
+StrokeHistory::StrokeHistory(QGraphicsView& view, qint64 memoryBytes, QObject* parent)
+    : QObject(parent)
+    , m_memoryBytes(memoryBytes)
+    , m_undo(makeAction(tr("Undo"), {QStringLiteral("Ctrl+Z")}))
+    , m_redo(makeAction(tr("Redo"), {QStringLiteral("Ctrl+Shift+Z"), QStringLiteral("Ctrl+Y")}))
+{
+    connect(m_undo, &QAction::triggered, this, &StrokeHistory::undo);
+    connect(m_redo, &QAction::triggered, this, &StrokeHistory::redo);
+    view.viewport()->installEventFilter(this);
+    updateActions();
+}
+
+QAction* StrokeHistory::makeAction(const QString& text, const QStringList& keys)
+{
+    auto* action = new QAction(text, this);
+    QList<QKeySequence> shortcuts;
+    for (const QString& key : keys)
+        shortcuts += QKeySequence::fromString(key);
+    action->setShortcuts(shortcuts);
+    return action;
+}
+
+int StrokeHistory::stepsThatFit(qint64 memoryBytes, const DXFDocument& document)
+{
+    const qint64 perStep = bytesPerStep + bytesPerEntity * document.entities().size()
+                           + bytesPerSegment * segmentsOfLargest(document);
+    return static_cast<int>(std::clamp<qint64>(memoryBytes / perStep, fewestSteps, mostSteps));
+}
+
+void StrokeHistory::follow(DXFEditor& editor, const DXFDocument& document)
+{
+    forget();
+    m_stack = editor.stack();
+    m_stack->setUndoLimit(stepsThatFit(m_memoryBytes, document));
+    connect(m_stack, &QUndoStack::indexChanged, this, &StrokeHistory::onIndexChanged);
+    connect(m_stack, &QObject::destroyed, this, &StrokeHistory::forget);
+    // Those that the window makes for its tool bar take back single steps.
+    const auto singleSteps = editor.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QAction* action : singleSteps)
+        action->setVisible(false);
+    updateActions();
+}
+
+void StrokeHistory::forget()
+{
+    if (m_stack)
+        m_stack->disconnect(this);
+    m_stack = nullptr;
+    m_marks.clear();
+    m_dropped = 0;
+    m_place = 0;
+    m_nextStep = nullptr;
+    m_hasToldOfLoss = false;
+    updateActions();
+}
+
+bool StrokeHistory::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isPress =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+    if (isPress && static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton)
+        beginStroke();
+    return QObject::eventFilter(watched, event);
+}
+
+/// A stroke that hits nothing begins where the next one does, and leaves no mark of its own.
+void StrokeHistory::beginStroke()
+{
+    m_hasToldOfLoss = false;
+    if (!m_stack)
+        return;
+    const auto after = std::lower_bound(m_marks.begin(), m_marks.end(), current());
+    if (after == m_marks.end() || *after != current())
+        m_marks.insert(after, current());
+}
+
+void StrokeHistory::onIndexChanged(int index)
+{
+    if (isPush(index))
+        onPush(index);
+    m_place = current();
+    m_nextStep = m_stack->command(index);
+    updateActions();
+}
+
+/// Whether the stack got there because a step was added, and not by undo or redo.
+bool StrokeHistory::isPush(int index) const
+{
+    const int former = static_cast<int>(m_place - m_dropped);
+    // A full stack drops a step for each that it gets.
+    if (index == former)
+        return index > 0 && index == m_stack->count();
+    // Redo leaves the next step where it is. A push destroys it, and the new one was made before
+    // that, so it lies elsewhere in memory.
+    return index == former + 1 && m_stack->command(former) != m_nextStep;
+}
+
+void StrokeHistory::onPush(int index)
+{
+    while (!m_marks.empty() && m_marks.back() > m_place)
+        m_marks.pop_back();
+    m_dropped = m_place + 1 - index;
+    const bool isBeginningLost = !m_marks.empty() && m_marks.back() < m_dropped;
+    // The mark before the first step that is left says which stroke that belongs to.
+    while (m_marks.size() > 1 && m_marks[1] <= m_dropped)
+        m_marks.pop_front();
+    if (isBeginningLost && !m_hasToldOfLoss) {
+        m_hasToldOfLoss = true;
+        Q_EMIT beginningLost();
+    }
+}
+
+void StrokeHistory::undo()
+{
+    if (!m_stack || !m_stack->canUndo())
+        return;
+    const auto after = std::lower_bound(m_marks.begin(), m_marks.end(), current());
+    const Place mark = after == m_marks.begin() ? 0 : *(after - 1);
+    moveTo(std::max(mark, m_dropped));
+    if (mark < m_dropped)
+        Q_EMIT beginningLost();
+}
+
+void StrokeHistory::redo()
+{
+    if (!m_stack || !m_stack->canRedo())
+        return;
+    const Place end = m_dropped + m_stack->count();
+    const auto after = std::upper_bound(m_marks.begin(), m_marks.end(), current());
+    moveTo(after == m_marks.end() ? end : std::min(*after, end));
+}
+
+void StrokeHistory::moveTo(Place place)
+{
+    m_stack->setIndex(static_cast<int>(place - m_dropped));
+}
+
+StrokeHistory::Place StrokeHistory::current() const
+{
+    return m_dropped + m_stack->index();
+}
+
+void StrokeHistory::updateActions()
+{
+    m_undo->setEnabled(m_stack && m_stack->canUndo());
+    m_redo->setEnabled(m_stack && m_stack->canRedo());
+}

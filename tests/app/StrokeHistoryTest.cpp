@@ -1,0 +1,409 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "StrokeHistory.h"
+#include "ViewerParts.h"
+
+#include "dxfviewer/edit/DXFEditor.h"
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/support/Builders.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
+#include "tests/support/SceneMouse.h"
+#include "tests/support/WindowParts.h"
+
+#include <QAction>
+#include <QGraphicsView>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolBar>
+
+#include <algorithm>
+#include <random>
+
+using dxftest::SceneMouse;
+
+namespace
+{
+
+constexpr int posts = 40;
+constexpr double spacing = 10.0;
+constexpr qint64 plenty = 1LL << 30;
+
+/// The middle of a post of the fence.
+QPointF post(int index)
+{
+    return {spacing * index, 0.0};
+}
+
+/// Upright lines, one beside the other.
+QByteArray fence()
+{
+    QVector<dxftest::Chain> chains;
+    for (int index = 0; index < posts; ++index)
+        chains.append({{post(index) - QPointF(0, 20), post(index) + QPointF(0, 20)}, false});
+    return dxftest::drawingText(chains);
+}
+
+class StrokeHistoryTest : public dxftest::LoggedTest
+{
+protected:
+    explicit StrokeHistoryTest(qint64 memoryBytes = plenty)
+        : m_history(drawingView(m_viewer), memoryBytes)
+    {
+        m_viewer.show();
+        EXPECT_TRUE(dxftest::loadAndShow(m_viewer, fence()));
+        startEditing();
+    }
+
+    void startEditing()
+    {
+        editAction(m_viewer).setChecked(true);
+        m_history.follow(*currentEditor(m_viewer), *shownDocument(m_viewer));
+    }
+
+    /// The posts that still stand, from left to right.
+    QVector<int> standing() const
+    {
+        QVector<int> indices;
+        const auto lines = dxftest::linesOf(shownDocument(m_viewer));
+        for (const QLineF& line : lines)
+            indices.append(qRound(line.x1() / spacing));
+        std::sort(indices.begin(), indices.end());
+        return indices;
+    }
+
+    int count() const { return standing().size(); }
+    QUndoStack& stack() const { return *currentEditor(m_viewer)->stack(); }
+
+    /// Erases posts in one stroke, each in a step of its own.
+    void stroke(const QVector<int>& indices)
+    {
+        SceneMouse mouse(drawingView(m_viewer));
+        mouse.press(besidePosts());
+        for (int index : indices)
+            erase(mouse, index);
+        mouse.release(besidePosts());
+    }
+
+    void erase(SceneMouse& mouse, int index)
+    {
+        const int before = count();
+        mouse.move(post(index));
+        EXPECT_TRUE(dxftest::eventually([&] { return count() < before; }));
+    }
+
+    static QPointF besidePosts() { return {spacing / 2, 0.0}; }
+
+    DXFViewer m_viewer;
+    StrokeHistory m_history;
+};
+
+TEST_F(StrokeHistoryTest, UndoTakesBackAWholeStroke)
+{
+    stroke({1, 2, 3});
+    ASSERT_EQ(stack().index(), 3);
+
+    m_history.undoAction()->trigger();
+
+    EXPECT_EQ(count(), posts);
+    EXPECT_FALSE(m_history.undoAction()->isEnabled());
+    EXPECT_TRUE(m_history.redoAction()->isEnabled());
+}
+
+TEST_F(StrokeHistoryTest, RedoTakesUpAWholeStroke)
+{
+    stroke({1, 2});
+    stroke({3, 4, 5});
+    m_history.undo();
+    m_history.undo();
+    ASSERT_EQ(count(), posts);
+
+    m_history.redoAction()->trigger();
+    EXPECT_EQ(count(), posts - 2);
+    m_history.redoAction()->trigger();
+    EXPECT_EQ(count(), posts - 5);
+    EXPECT_FALSE(m_history.redoAction()->isEnabled());
+    EXPECT_TRUE(m_history.undoAction()->isEnabled());
+}
+
+TEST_F(StrokeHistoryTest, AStrokeThatHitsNothingIsNoStep)
+{
+    stroke({1, 2});
+    stroke({});
+    stroke({});
+
+    m_history.undo();
+
+    EXPECT_EQ(count(), posts);
+}
+
+TEST_F(StrokeHistoryTest, AStrokeThatHitsNothingLeavesRedo)
+{
+    stroke({1, 2});
+    stroke({3, 4});
+    m_history.undo();
+    stroke({});
+
+    m_history.redo();
+
+    EXPECT_EQ(count(), posts - 4);
+    m_history.undo();
+    EXPECT_EQ(count(), posts - 2);
+}
+
+TEST_F(StrokeHistoryTest, AStrokeAfterUndoTakesTheUndoneOnesPlace)
+{
+    stroke({1, 2});
+    stroke({3, 4});
+    m_history.undo();
+    stroke({5});
+
+    EXPECT_FALSE(m_history.redoAction()->isEnabled());
+    m_history.undo();
+    EXPECT_EQ(count(), posts - 2);
+    m_history.redo();
+    EXPECT_EQ(count(), posts - 3);
+}
+
+TEST_F(StrokeHistoryTest, UndoInTheMiddleOfAStrokeGoesBackToItsBeginning)
+{
+    stroke({1, 2});
+    SceneMouse mouse(drawingView(m_viewer));
+    mouse.press(besidePosts());
+    erase(mouse, 3);
+    erase(mouse, 4);
+
+    m_history.undo();
+    EXPECT_EQ(count(), posts - 2);
+
+    erase(mouse, 5);
+    mouse.release(besidePosts());
+    EXPECT_EQ(count(), posts - 3);
+    m_history.undo();
+    EXPECT_EQ(count(), posts - 2);
+}
+
+TEST_F(StrokeHistoryTest, StrokesBeginWithTheLeftButton)
+{
+    SceneMouse mouse(drawingView(m_viewer));
+    mouse.press(besidePosts());
+    erase(mouse, 1);
+    mouse.press(besidePosts(), Qt::MiddleButton);
+    mouse.release(besidePosts(), Qt::MiddleButton);
+    mouse.move(post(2));
+    mouse.release(besidePosts());
+    ASSERT_EQ(stack().index(), 2);
+
+    m_history.undo();
+
+    EXPECT_EQ(count(), posts);
+}
+
+TEST_F(StrokeHistoryTest, ADoubleClickBeginsAStroke)
+{
+    stroke({1});
+    SceneMouse mouse(drawingView(m_viewer));
+    mouse.doubleClick(besidePosts());
+    stroke({2});
+
+    m_history.undo();
+
+    EXPECT_EQ(count(), posts - 1);
+}
+
+TEST_F(StrokeHistoryTest, MoreThanTenStepsAreKept)
+{
+    QVector<int> many;
+    for (int index = 1; index <= 14; ++index)
+        many.append(index);
+    stroke(many);
+    ASSERT_EQ(stack().index(), 14);
+
+    m_history.undo();
+
+    EXPECT_EQ(count(), posts);
+}
+
+TEST_F(StrokeHistoryTest, SingleStepsOfTheWindowAreHidden)
+{
+    stroke({1});
+
+    const auto actions = dxftest::toolBarOf(m_viewer).actions();
+    for (const QAction* action : actions) {
+        const bool isSingleStep =
+            action->text() == QLatin1String("Undo") || action->text() == QLatin1String("Redo");
+        EXPECT_FALSE(isSingleStep && action->isVisible());
+    }
+}
+
+TEST_F(StrokeHistoryTest, TheHistoryEndsWithEditMode)
+{
+    stroke({1, 2});
+    editAction(m_viewer).setChecked(false);
+
+    EXPECT_FALSE(m_history.undoAction()->isEnabled());
+    m_history.undo();
+    m_history.redo();
+    EXPECT_EQ(count(), posts - 2);
+}
+
+TEST_F(StrokeHistoryTest, ANewPeriodOfEditModeHasAHistoryOfItsOwn)
+{
+    stroke({1, 2});
+    editAction(m_viewer).setChecked(false);
+    startEditing();
+    stroke({3});
+
+    m_history.undo();
+
+    EXPECT_EQ(count(), posts - 2);
+    EXPECT_FALSE(m_history.undoAction()->isEnabled());
+}
+
+TEST_F(StrokeHistoryTest, KeysOfBothHabits)
+{
+    EXPECT_EQ(m_history.undoAction()->shortcuts(),
+              QList<QKeySequence>{QKeySequence(QStringLiteral("Ctrl+Z"))});
+    EXPECT_TRUE(
+        m_history.redoAction()->shortcuts().contains(QKeySequence(QStringLiteral("Ctrl+Shift+Z"))));
+    EXPECT_TRUE(
+        m_history.redoAction()->shortcuts().contains(QKeySequence(QStringLiteral("Ctrl+Y"))));
+}
+
+/// Whatever the user does, the drawing is what it was after one of the strokes.
+TEST_F(StrokeHistoryTest, AnyStrokesUndosAndRedosLeadToWhatWasThere)
+{
+    std::mt19937 random(7);
+    const auto chance = [&random](int choices) {
+        return static_cast<int>(random() % static_cast<unsigned>(choices));
+    };
+    QVector<QVector<int>> history{standing()};
+    int at = 0;
+    for (int action = 0; action < 60; ++action) {
+        switch (chance(4)) {
+        case 0: {
+            QVector<int> victims = standing();
+            std::shuffle(victims.begin(), victims.end(), random);
+            victims.resize(std::min<int>(victims.size(), chance(4)));
+            stroke(victims);
+            if (victims.isEmpty())
+                break;
+            history.resize(++at);
+            history.append(standing());
+            break;
+        }
+        case 1:
+        case 2:
+            m_history.undo();
+            at = std::max(0, at - 1);
+            break;
+        default:
+            m_history.redo();
+            at = std::min<int>(at + 1, history.size() - 1);
+        }
+        ASSERT_EQ(standing(), history.at(at)) << "after action " << action;
+        ASSERT_EQ(m_history.undoAction()->isEnabled(), at > 0);
+        ASSERT_EQ(m_history.redoAction()->isEnabled(), at < history.size() - 1);
+    }
+}
+
+class ShortStrokeHistoryTest : public StrokeHistoryTest
+{
+protected:
+    ShortStrokeHistoryTest()
+        : StrokeHistoryTest(0)
+        , m_lost(&m_history, &StrokeHistory::beginningLost)
+    {
+    }
+
+    /// Posts from one to the other, both included.
+    static QVector<int> range(int from, int to)
+    {
+        QVector<int> indices;
+        for (int index = from; index <= to; ++index)
+            indices.append(index);
+        return indices;
+    }
+
+    QSignalSpy m_lost;
+};
+
+TEST_F(ShortStrokeHistoryTest, AStrokeThatIsTooLongTellsOnce)
+{
+    stroke(range(1, 10));
+    EXPECT_EQ(m_lost.count(), 0);
+
+    stroke(range(11, 22));
+
+    EXPECT_EQ(m_lost.count(), 1);
+}
+
+TEST_F(ShortStrokeHistoryTest, UndoOfAStrokeThatWasTooLongTakesBackItsEndAndTells)
+{
+    stroke(range(1, 12));
+    m_lost.clear();
+
+    m_history.undo();
+
+    EXPECT_EQ(count(), posts - 2);
+    EXPECT_EQ(m_lost.count(), 1);
+    EXPECT_FALSE(m_history.undoAction()->isEnabled());
+    m_history.redo();
+    EXPECT_EQ(count(), posts - 12);
+}
+
+TEST_F(ShortStrokeHistoryTest, OldStrokesAreDroppedAndLaterOnesStayWhole)
+{
+    stroke(range(1, 4));
+    stroke(range(5, 10));
+    stroke(range(11, 13));
+    EXPECT_EQ(m_lost.count(), 0);
+
+    m_history.undo();
+    EXPECT_EQ(count(), posts - 10);
+    m_history.undo();
+    EXPECT_EQ(count(), posts - 4);
+    EXPECT_EQ(m_lost.count(), 0);
+    m_history.undo();
+    EXPECT_EQ(count(), posts - 3);
+    EXPECT_EQ(m_lost.count(), 1);
+    EXPECT_FALSE(m_history.undoAction()->isEnabled());
+
+    for (int expected : {4, 10, 13}) {
+        m_history.redo();
+        EXPECT_EQ(count(), posts - expected);
+    }
+}
+
+TEST(StrokeMemoryTest, KeepsMoreStepsOfSmallDrawings)
+{
+    QList<QSharedPointer<DXFEntity>> many;
+    for (int index = 0; index < 10000; ++index)
+        many.append(dxftest::makePolyline({{0, 0}, {1, 1}}));
+    const auto few = dxftest::makeDocument(many.mid(0, 100));
+    const auto large = dxftest::makeDocument(many);
+    constexpr qint64 memory = 1LL << 28;
+
+    EXPECT_GT(StrokeHistory::stepsThatFit(memory, *large), 100);
+    EXPECT_GT(StrokeHistory::stepsThatFit(memory, *few),
+              20 * StrokeHistory::stepsThatFit(memory, *large));
+}
+
+TEST(StrokeMemoryTest, CountsTheSegmentsThatAStepCopies)
+{
+    const auto document =
+        dxftest::makeDocument({dxftest::makePolyline(QVector<QPointF>(100000, QPointF(1, 1)))});
+    document->setup();
+
+    EXPECT_LT(StrokeHistory::stepsThatFit(1LL << 28, *document), 100);
+}
+
+TEST(StrokeMemoryTest, NeverKeepsLessThanTheWindowDoes)
+{
+    EXPECT_EQ(StrokeHistory::stepsThatFit(0, DXFDocument()), 10);
+    EXPECT_EQ(StrokeHistory::stepsThatFit(-1, DXFDocument()), 10);
+    EXPECT_LE(StrokeHistory::stepsThatFit(1LL << 62, DXFDocument()), 100000);
+}
+
+} // namespace
