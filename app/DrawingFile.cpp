@@ -2,6 +2,9 @@
 
 #include "DrawingFile.h"
 
+#include "Cancelled.h"
+#include "ReadingWatch.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -16,6 +19,9 @@ struct Texts {
 
 // The drawing and what is read from it must fit into memory.
 constexpr qint64 largestDrawingBytes = 512LL * 1024 * 1024;
+
+// Read in pieces, between which the user may think better of it.
+constexpr qint64 pieceBytes = 1024 * 1024;
 
 constexpr const char* firstRecord = "SECTION";
 
@@ -49,6 +55,8 @@ QString whyNoDrawing(const QByteArray& content)
 {
     if (content.isEmpty())
         return Texts::tr("The file is empty.");
+    if (content.size() > largestDrawingBytes)
+        return Texts::tr("The file is too large.");
     if (content.contains('\0'))
         return Texts::tr("It is a binary file. Only the text form of DXF can be read.");
     if (!hasLine(content, firstRecord))
@@ -68,9 +76,31 @@ QString whyNotReadable(const QFileInfo& info)
     return QString();
 }
 
+/// What the file holds, which may be more by now than its size was.
+QByteArray contentOf(QFile& file, const ReadingWatch& watch)
+{
+    QByteArray content;
+    content.reserve(static_cast<int>(file.size()));
+    while (content.size() <= largestDrawingBytes) {
+        if (watch.isCancelled())
+            throw Cancelled();
+        const QByteArray piece = file.read(pieceBytes);
+        if (piece.isEmpty())
+            break;
+        content += piece;
+    }
+    return content;
+}
+
 } // namespace
 
 std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason)
+{
+    return readDrawing(fileName, reason, ReadingWatch());
+}
+
+std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason,
+                                      const ReadingWatch& watch)
 {
     // Opening a pipe or a device could wait for ever.
     reason = whyNotReadable(QFileInfo(fileName));
@@ -82,7 +112,7 @@ std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason)
         reason = file.errorString();
         return std::nullopt;
     }
-    const QByteArray content = file.readAll();
+    const QByteArray content = contentOf(file, watch);
     reason = file.error() == QFileDevice::NoError ? whyNoDrawing(content) : file.errorString();
     if (!reason.isEmpty())
         return std::nullopt;

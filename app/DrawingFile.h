@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class ReadingWatch;
+
 /**
  * Reads the text of a drawing, for DXFViewer::loadData().
  *
@@ -15,6 +17,9 @@
  * and the reason, a sentence for the user, is set.
  */
 std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason);
+/// The same for as long as the watch lets it go on: throws Cancelled if that ends.
+std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason,
+                                      const ReadingWatch& watch);
 
 /**
  * Writes a whole file, or leaves the old one as it was.

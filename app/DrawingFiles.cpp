@@ -7,15 +7,17 @@
 #include "FileNames.h"
 #include "Questions.h"
 #include "ViewerParts.h"
-#include "WaitCursor.h"
 
 #include <dxfviewer/model/DXFDocument.h>
 #include <dxfviewer/viewer/DXFViewer.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
+
+#include <utility>
 
 namespace
 {
@@ -24,6 +26,8 @@ namespace
 // event loop has to do.
 constexpr int drawingDueMs = 50;
 
+constexpr int dialogWaitMs = 100;
+
 } // namespace
 
 DrawingFiles::DrawingFiles(DXFViewer& viewer, EditHistory& history, QWidget& window)
@@ -31,10 +35,13 @@ DrawingFiles::DrawingFiles(DXFViewer& viewer, EditHistory& history, QWidget& win
     , m_viewer(viewer)
     , m_history(history)
     , m_window(window)
+    , m_recent(m_settings)
 {
     m_drawingDue.setSingleShot(true);
     m_drawingDue.setInterval(drawingDueMs);
     connect(&m_drawingDue, &QTimer::timeout, this, &DrawingFiles::onDrawingDue);
+    connect(&m_reader, &BackgroundReader::finished, this, &DrawingFiles::onRead);
+    connect(&m_recent, &RecentFiles::chosen, this, &DrawingFiles::open);
 }
 
 DrawingFiles::~DrawingFiles() = default;
@@ -43,60 +50,81 @@ void DrawingFiles::addActionsTo(QMenu& menu)
 {
     // The drawing window has hidden actions of its own for Ctrl+O and Ctrl+S. Hidden, they leave
     // the keys to these.
-    QAction* open = menu.addAction(tr("&Open…"));
-    open->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+O")));
-    connect(open, &QAction::triggered, this, &DrawingFiles::chooseDrawing);
-    m_saveAction = menu.addAction(tr("&Save As…"));
-    m_saveAction->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+S")));
-    m_saveAction->setEnabled(!m_fileName.isEmpty());
-    connect(m_saveAction, &QAction::triggered, this, &DrawingFiles::saveAs);
+    connect(addAction(menu, tr("&Open…"), "Ctrl+O"), &QAction::triggered, this,
+            &DrawingFiles::chooseDrawing);
+    m_recent.serve(*menu.addMenu(tr("Open &Recent")));
+    QAction* reload = addAction(menu, tr("Re&load"), "F5");
+    connect(reload, &QAction::triggered, this, [this] { open(m_fileName); });
+    menu.addSeparator();
+    QAction* save = addAction(menu, tr("&Save"), "Ctrl+S");
+    connect(save, &QAction::triggered, this, &DrawingFiles::save);
+    QAction* saveAs = addAction(menu, tr("Save &As…"), "Ctrl+Shift+S");
+    connect(saveAs, &QAction::triggered, this, &DrawingFiles::saveAs);
+    m_drawingActions = {reload, save, saveAs};
+    setFileName(m_fileName);
+}
+
+QAction* DrawingFiles::addAction(QMenu& menu, const QString& text, const char* key)
+{
+    QAction* action = menu.addAction(text);
+    action->setShortcut(QKeySequence::fromString(QLatin1String(key)));
+    return action;
 }
 
 void DrawingFiles::open(const QString& fileName)
 {
     if (!mayDiscardEdits())
         return;
-    m_waitCursor = std::make_unique<WaitCursor>();
-    QString reason;
-    const auto text = readDrawing(fileName, reason);
-    if (text) {
-        load(fileName, *text);
-    } else {
-        m_waitCursor.reset();
-        showError(m_window, tr("The drawing cannot be opened."), fileName, reason);
-    }
+    m_discardedRevision = m_history.revision();
+    m_reader.read(QFileInfo(fileName).absoluteFilePath());
 }
 
-void DrawingFiles::load(const QString& fileName, const QByteArray& text)
+void DrawingFiles::onRead(const QString& fileName, const DrawingRead& result)
+{
+    // Who asks for yet another drawing does not wait for this one any more.
+    if (m_reader.isReading())
+        return freeInBackground(result.document);
+    // A dialog is about the drawing that is shown, and that must not change behind it.
+    if (QApplication::activeModalWidget()) {
+        QTimer::singleShot(dialogWaitMs, this,
+                           [this, fileName, result] { onRead(fileName, result); });
+        return;
+    }
+    if (!result.document) {
+        if (!QFileInfo::exists(fileName))
+            m_recent.remove(fileName);
+        showError(m_window, tr("The drawing cannot be opened."), fileName, result.reason);
+        return;
+    }
+    // There may be edits of the time while it was being read.
+    if (m_history.revision() == m_discardedRevision || mayDiscardEdits())
+        show(fileName, result.document);
+    else
+        freeInBackground(result.document);
+}
+
+void DrawingFiles::show(const QString& fileName, const QSharedPointer<DXFDocument>& document)
 {
     // Edit mode would go on with the old drawing until the new one is on screen.
-    editAction(m_viewer).setChecked(false);
+    m_history.giveUpDrawing();
     m_previousDocument = shownDocument(m_viewer);
-    m_richerFile = QFileInfo(fileName).absoluteFilePath();
-    m_history.forgetEdits();
-    setFileName(m_richerFile);
-    m_viewer.loadData(text);
+    m_richerFile = fileName;
+    m_saved = FileMark();
+    setFileName(fileName);
+    m_recent.add(fileName);
+    m_viewer.loadDocument(document);
     m_drawingDue.start();
 }
 
 void DrawingFiles::onDrawingDue()
 {
-    m_waitCursor.reset();
-    const bool isShown = shownDocument(m_viewer) != m_previousDocument;
-    m_previousDocument.reset();
-    if (isShown) {
-        Q_EMIT drawingShown();
-        return;
-    }
-    // What the window would save now is not what it shows.
-    const QString fileName = m_fileName;
-    setFileName(QString());
-    showError(m_window, tr("The drawing cannot be opened."), fileName, tr("It cannot be read."));
+    freeInBackground(std::exchange(m_previousDocument, nullptr));
+    Q_EMIT drawingShown();
 }
 
 void DrawingFiles::chooseDrawing()
 {
-    QFileDialog dialog(&m_window, tr("Open"), QFileInfo(m_fileName).path());
+    QFileDialog dialog(&m_window, tr("Open"), folder());
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters({tr("DXF drawings (*.dxf *.DXF)"), tr("All files (*)")});
     const QString fileName = chosenFile(dialog);
@@ -104,22 +132,53 @@ void DrawingFiles::chooseDrawing()
         open(fileName);
 }
 
+/// Where the user was last.
+QString DrawingFiles::folder() const
+{
+    const QString last = m_fileName.isEmpty() ? m_recent.names().value(0) : m_fileName;
+    return QFileInfo(last).path();
+}
+
+bool DrawingFiles::save()
+{
+    if (!m_saved.isOf(m_fileName))
+        return saveAs();
+    if (m_saved.isChanged()
+        && !askToReplace(m_window, m_fileName,
+                         tr("Another program has changed it since it was saved. These changes are "
+                            "lost.")))
+        return false;
+    return write(m_fileName);
+}
+
 bool DrawingFiles::saveAs()
 {
     QFileDialog dialog(&m_window, tr("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // One question is enough, and this program's says more.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setNameFilters({tr("DXF drawings (*.dxf *.DXF)")});
     dialog.setDefaultSuffix(QStringLiteral("dxf"));
-    dialog.selectFile(nameForEditedCopy(m_fileName));
+    dialog.selectFile(m_saved.isOf(m_fileName) ? m_fileName : nameForEditedCopy(m_fileName));
     const QString fileName = chosenFile(dialog);
-    if (fileName.isEmpty())
-        return false;
-    if (isSameFile(fileName, m_richerFile) && !askToReplace(m_window, fileName))
-        return false;
-    return save(fileName);
+    return !fileName.isEmpty() && mayReplace(fileName) && write(fileName);
 }
 
-bool DrawingFiles::save(const QString& fileName)
+bool DrawingFiles::mayReplace(const QString& fileName)
+{
+    if (!QFileInfo::exists(fileName))
+        return true;
+    if (!isSameFile(fileName, m_richerFile))
+        return askToReplace(m_window, fileName, tr("What it holds now is lost."));
+    return askToReplace(
+        m_window, fileName,
+        tr("It is the drawing that was opened. Only layers, line types and polylines are saved. "
+           "Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, "
+           "blocks and the colours of single polylines. Once anything was erased, closed polylines "
+           "lose their closing edge, and bulges become straight."));
+}
+
+bool DrawingFiles::write(const QString& fileName)
 {
     const QByteArray text = m_viewer.getData();
     QString reason;
@@ -133,7 +192,9 @@ bool DrawingFiles::save(const QString& fileName)
     }
     if (isSameFile(fileName, m_richerFile))
         m_richerFile.clear();
+    m_saved = FileMark(fileName);
     m_history.noteSaved();
+    m_recent.add(fileName);
     setFileName(fileName);
     return true;
 }
@@ -144,7 +205,7 @@ bool DrawingFiles::mayDiscardEdits()
         return true;
     switch (askAboutEdits(m_window, m_fileName)) {
     case EditsAnswer::Save:
-        return saveAs();
+        return save();
     case EditsAnswer::Discard:
         return true;
     case EditsAnswer::Cancel:
@@ -156,7 +217,7 @@ bool DrawingFiles::mayDiscardEdits()
 void DrawingFiles::setFileName(const QString& fileName)
 {
     m_fileName = fileName;
-    if (m_saveAction)
-        m_saveAction->setEnabled(!fileName.isEmpty());
+    for (QAction* action : qAsConst(m_drawingActions))
+        action->setEnabled(!fileName.isEmpty());
     Q_EMIT fileNameChanged();
 }

@@ -2,12 +2,15 @@
 
 #pragma once
 
+#include "BackgroundReader.h"
+#include "FileMark.h"
+#include "RecentFiles.h"
+#include "Settings.h"
+
 #include <QObject>
 #include <QSharedPointer>
 #include <QString>
 #include <QTimer>
-
-#include <memory>
 
 class DXFDocument;
 class DXFViewer;
@@ -15,13 +18,12 @@ class EditHistory;
 class QAction;
 class QMenu;
 class QWidget;
-class WaitCursor;
 
 /**
  * The file that is shown: opening another, saving, and the questions on the way.
  *
- * The drawing window does not say when a drawing is on screen, nor which file it is from. This
- * does.
+ * A drawing is read in the background; the one that is shown stays until then. The drawing window
+ * does not say when a drawing is on screen, nor which file it is from. This does.
  */
 class DrawingFiles : public QObject
 {
@@ -32,18 +34,22 @@ public:
     DrawingFiles(DXFViewer& viewer, EditHistory& history, QWidget& window);
     ~DrawingFiles() override;
 
-    /// Adds Open and Save As.
+    /// Adds Open, Open Recent, Reload, Save and Save As.
     void addActionsTo(QMenu& menu);
 
     /// Shows the drawing, after the user has agreed to throw unsaved edits away. If it cannot be
     /// read, a box says why, and the drawing on screen stays.
     void open(const QString& fileName);
+    /// Saves where the drawing was saved before, or asks for a name the first time.
+    bool save();
     bool saveAs();
     /// Asks before unsaved edits are thrown away, and offers to save them.
     bool mayDiscardEdits();
 
     /// Empty if no drawing is shown.
     QString fileName() const { return m_fileName; }
+
+    BackgroundReader& reader() { return m_reader; }
 
 Q_SIGNALS:
     void fileNameChanged();
@@ -52,24 +58,34 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void chooseDrawing();
+    void onRead(const QString& fileName, const DrawingRead& result);
     void onDrawingDue();
 
 private:
-    void load(const QString& fileName, const QByteArray& text);
-    bool save(const QString& fileName);
+    QAction* addAction(QMenu& menu, const QString& text, const char* key);
+    void show(const QString& fileName, const QSharedPointer<DXFDocument>& document);
+    bool mayReplace(const QString& fileName);
+    bool write(const QString& fileName);
     void setFileName(const QString& fileName);
+    QString folder() const;
 
     DXFViewer& m_viewer;
     EditHistory& m_history;
     QWidget& m_window;
-    QAction* m_saveAction = nullptr;
+    BackgroundReader m_reader;
+    Settings m_settings;
+    RecentFiles m_recent;
+    QVector<QAction*> m_drawingActions;
 
     QString m_fileName;
     // The file that was opened holds more than the window can save, until it is replaced.
     QString m_richerFile;
+    // What was saved last, and is replaced without a question if nobody else has changed it.
+    FileMark m_saved;
+    // The edits that the user has agreed to throw away for the drawing that is being read.
+    int m_discardedRevision = 0;
 
     // Restarted by each load: runs out when its drawing must be on screen.
     QTimer m_drawingDue;
     QSharedPointer<DXFDocument> m_previousDocument;
-    std::unique_ptr<WaitCursor> m_waitCursor;
 };

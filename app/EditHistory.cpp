@@ -9,15 +9,29 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QScopedValueRollback>
+#include <QShortcut>
+#include <QToolBar>
 #include <QUndoStack>
 
 EditHistory::EditHistory(DXFViewer& viewer, QObject* parent)
     : QObject(parent)
     , m_viewer(viewer)
+    , m_strokes(drawingView(viewer), this)
+    , m_escape(new QShortcut(Qt::Key_Escape, &viewer))
 {
+    QAction& edit = editAction(m_viewer);
     // The window's own slot was connected first, so edit mode is on or off when this one runs.
-    connect(&editAction(m_viewer), &QAction::toggled, this, &EditHistory::onEditToggled);
+    connect(&edit, &QAction::toggled, this, &EditHistory::onEditToggled);
     connect(&m_group, &QUndoGroup::cleanChanged, this, &EditHistory::onCleanChanged);
+    connect(&m_strokes, &StrokeHistory::beginningLost, this, [this] {
+        Q_EMIT told(tr("The stroke was too long: its first part can no longer be undone."));
+    });
+    // Without edit mode the key is for others.
+    m_escape->setEnabled(false);
+    connect(m_escape, &QShortcut::activated, &edit, [&edit] { edit.setChecked(false); });
+    toolBar(m_viewer).addAction(m_strokes.undoAction());
+    toolBar(m_viewer).addAction(m_strokes.redoAction());
 }
 
 EditHistory::~EditHistory() = default;
@@ -26,12 +40,8 @@ void EditHistory::addActionsTo(QMenu& menu)
 {
     menu.addAction(&editAction(m_viewer));
     menu.addSeparator();
-    QAction* undo = m_group.createUndoAction(this, tr("Undo"));
-    undo->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+Z")));
-    menu.addAction(undo);
-    QAction* redo = m_group.createRedoAction(this, tr("Redo"));
-    redo->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+Shift+Z")));
-    menu.addAction(redo);
+    menu.addAction(m_strokes.undoAction());
+    menu.addAction(m_strokes.redoAction());
 }
 
 void EditHistory::noteSaved()
@@ -42,20 +52,37 @@ void EditHistory::noteSaved()
     update();
 }
 
-void EditHistory::forgetEdits()
+void EditHistory::giveUpDrawing()
 {
+    const QScopedValueRollback<bool> guard(m_isGivingUp, true);
+    editAction(m_viewer).setChecked(false);
     m_hasLastingEdits = false;
     update();
 }
 
 void EditHistory::onEditToggled(bool isOn)
 {
+    m_escape->setEnabled(isOn);
     // The old stack has left the group when edit mode ended.
-    DXFEditor* editor = isOn ? currentEditor(m_viewer) : nullptr;
-    if (!editor)
-        return;
-    m_group.addStack(editor->stack());
-    m_group.setActiveStack(editor->stack());
+    if (DXFEditor* editor = isOn ? currentEditor(m_viewer) : nullptr)
+        follow(*editor);
+    else if (m_hasSteps && !m_isGivingUp)
+        Q_EMIT told(tr("The edits stay in the drawing, but they can no longer be undone."));
+    m_hasSteps = false;
+}
+
+void EditHistory::follow(DXFEditor& editor)
+{
+    m_strokes.follow(editor, *shownDocument(m_viewer));
+    connect(editor.stack(), &QUndoStack::indexChanged, this, &EditHistory::onStackMoved);
+    m_group.addStack(editor.stack());
+    m_group.setActiveStack(editor.stack());
+}
+
+void EditHistory::onStackMoved()
+{
+    ++m_revision;
+    m_hasSteps = m_group.activeStack() && m_group.activeStack()->count() > 0;
 }
 
 void EditHistory::onCleanChanged(bool /*isClean*/)

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace
 {
@@ -43,7 +44,8 @@ QString nameForEditedCopy(const QString& fileName)
 {
     const QFileInfo info(fileName);
     const QDir folder = info.dir();
-    const QString base = info.completeBaseName() + QStringLiteral("-edited");
+    static const QRegularExpression mark(QStringLiteral("(-edited(-\\d+)?)+$"));
+    const QString base = info.completeBaseName().remove(mark) + QStringLiteral("-edited");
     QString name = folder.filePath(base + QStringLiteral(".dxf"));
     for (int number = 2; QFileInfo::exists(name); ++number)
         name = folder.filePath(QStringLiteral("%1-%2.dxf").arg(base).arg(number));

@@ -5,7 +5,10 @@
 #include "DrawingFiles.h"
 #include "EditHistory.h"
 #include "FileNames.h"
+#include "HelpMenu.h"
 #include "PictureExport.h"
+#include "Printing.h"
+#include "ReadingBar.h"
 #include "ViewerParts.h"
 
 #include <dxfviewer/model/DXFDocument.h>
@@ -26,6 +29,9 @@ namespace
 {
 
 constexpr QSize initialSize(1100, 800);
+
+// Long enough to be read.
+constexpr int messageMs = 8000;
 
 /// The first drawing among what is dragged; empty if there is none.
 QString draggedDrawing(const QMimeData* data)
@@ -61,13 +67,16 @@ MainWindow::MainWindow(QWidget* parent)
     resize(initialSize);
     makeFileMenu();
     makeEditMenu();
-    statusBar();
+    makeHelpMenu();
+    statusBar()->addPermanentWidget(new ReadingBar(m_files->reader()));
 
     prepareView(drawingView(*m_viewer));
     setAcceptDrops(true);
 
     connect(m_history, &EditHistory::changed, this,
             [this] { setWindowModified(m_history->hasUnsavedEdits()); });
+    connect(m_history, &EditHistory::told, this,
+            [this](const QString& sentence) { statusBar()->showMessage(sentence, messageMs); });
     connect(m_files, &DrawingFiles::fileNameChanged, this, &MainWindow::onFileNameChanged);
     connect(m_files, &DrawingFiles::drawingShown, this, &MainWindow::onDrawingShown);
     onFileNameChanged();
@@ -83,13 +92,35 @@ void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_files->addActionsTo(*menu);
-    m_exportAction = menu->addAction(tr("Export &Picture…"));
-    connect(m_exportAction, &QAction::triggered, this,
+    connect(addDrawingAction(*menu, tr("Export &Picture…")), &QAction::triggered, this,
             [this] { exportPicture(*m_viewer, m_files->fileName(), *this); });
+    menu->addSeparator();
+    QAction* print = addDrawingAction(*menu, tr("&Print…"));
+    print->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+P")));
+    connect(print, &QAction::triggered, this, [this] { printing().print(); });
+    connect(addDrawingAction(*menu, tr("Print Pre&view…")), &QAction::triggered, this,
+            [this] { printing().preview(); });
     menu->addSeparator();
     QAction* quit = menu->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+Q")));
     connect(quit, &QAction::triggered, this, &QWidget::close);
+}
+
+QAction* MainWindow::addDrawingAction(QMenu& menu, const QString& text)
+{
+    QAction* action = menu.addAction(text);
+    m_drawingActions.append(action);
+    return action;
+}
+
+Printing MainWindow::printing()
+{
+    return {shownDocument(*m_viewer), m_files->fileName(), *this};
+}
+
+void MainWindow::makeHelpMenu()
+{
+    (new HelpMenu(*this))->addActionsTo(*menuBar()->addMenu(tr("&Help")));
 }
 
 void MainWindow::makeEditMenu()
@@ -121,7 +152,8 @@ void MainWindow::onFileNameChanged()
 {
     const QString fileName = m_files->fileName();
     const bool hasDrawing = !fileName.isEmpty();
-    m_exportAction->setEnabled(hasDrawing);
+    for (QAction* action : qAsConst(m_drawingActions))
+        action->setEnabled(hasDrawing);
     statusBar()->clearMessage();
     // A title has a mark of its own in brackets, so that in a name it must be doubled.
     QString name = hasDrawing ? readableName(QFileInfo(fileName).fileName()) : tr("No drawing");
@@ -133,6 +165,8 @@ void MainWindow::onFileNameChanged()
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_files->mayDiscardEdits());
+    if (event->isAccepted())
+        m_files->reader().cancel();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -7,6 +7,8 @@
 class DrawingFiles;
 class DXFViewer;
 class EditHistory;
+class Printing;
+class QAction;
 
 /**
  * The program's window: the drawing window in its middle, and around it what the program adds.
@@ -45,10 +47,14 @@ private Q_SLOTS:
 private:
     void makeFileMenu();
     void makeEditMenu();
+    void makeHelpMenu();
+    Printing printing();
+    QAction* addDrawingAction(QMenu& menu, const QString& text);
 
     DXFViewer* m_viewer;
     EditHistory* m_history;
     DrawingFiles* m_files;
-    QAction* m_exportAction = nullptr;
+    // For which there must be a drawing.
+    QVector<QAction*> m_drawingActions;
     bool m_editsNext = false;
 };

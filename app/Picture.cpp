@@ -113,11 +113,35 @@ QSize Picture::size() const
         .toSize();
 }
 
+bool Picture::isWide() const
+{
+    return m_bounds && m_bounds->width() > m_bounds->height();
+}
+
+void Picture::paintInto(QPainter& painter, const QRectF& rect) const
+{
+    if (!m_bounds)
+        return;
+    const QSizeF all = size();
+    const double scale = std::min(rect.width() / all.width(), rect.height() / all.height());
+    painter.save();
+    painter.translate(rect.center());
+    painter.scale(scale, scale);
+    painter.translate(-all.width() / 2.0, -all.height() / 2.0);
+    paintStrokes(painter);
+    painter.restore();
+}
+
 void Picture::paint(QPainter& painter) const
+{
+    painter.fillRect(QRect(QPoint(0, 0), size()), m_background);
+    paintStrokes(painter);
+}
+
+void Picture::paintStrokes(QPainter& painter) const
 {
     const QTransform toPixels = fitted(*m_bounds, size());
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(QRect(QPoint(0, 0), size()), m_background);
     // The points are mapped here and not by the painter: the generators write few digits, which
     // is enough for pixels but not for the coordinates of a survey.
     for (const Stroke& stroke : m_strokes) {

@@ -34,6 +34,11 @@ public:
     /// reason, a sentence for the user, is set.
     bool write(const QString& fileName, QString& reason) const;
 
+    /// Whether the drawing is wider than it is high.
+    bool isWide() const;
+    /// Paints it as large as it fits into a rectangle, without ground.
+    void paintInto(QPainter& painter, const QRectF& rect) const;
+
 private:
     struct Stroke {
         QPolygonF points;
@@ -44,6 +49,7 @@ private:
     void take(const DXFDocument& document);
     QSize size() const;
     void paint(QPainter& painter) const;
+    void paintStrokes(QPainter& painter) const;
     QByteArray png() const;
     QByteArray svg() const;
     QByteArray pdf() const;

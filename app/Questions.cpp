@@ -36,21 +36,12 @@ EditsAnswer askAboutEdits(QWidget& window, const QString& fileName)
     }
 }
 
-bool askToReplace(QWidget& window, const QString& fileName)
+bool askToReplace(QWidget& window, const QString& fileName, const QString& change)
 {
-    QMessageBox box(QMessageBox::Warning, QString(),
-                    Texts::tr("Replace the drawing that was opened?"), QMessageBox::Cancel,
-                    &window);
+    QMessageBox box(QMessageBox::Warning, QString(), Texts::tr("Replace the file?"),
+                    QMessageBox::Cancel, &window);
     box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(
-        Texts::tr(
-            "%1\n\nOnly layers, line types and polylines are saved. Everything else that the file "
-            "holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of "
-            "single "
-            "polylines. Once anything was erased, closed polylines lose their closing edge, and "
-            "bulges "
-            "become straight.")
-            .arg(readableName(fileName)));
+    box.setInformativeText(readableName(fileName) + QLatin1String("\n\n") + change);
     QPushButton* replace = box.addButton(Texts::tr("Replace"), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();

@@ -14,8 +14,8 @@ enum class EditsAnswer { Save, Discard, Cancel };
 /// Asks what to do with unsaved edits of this file.
 EditsAnswer askAboutEdits(QWidget& window, const QString& fileName);
 
-/// Asks before a file is replaced by less than it holds.
-bool askToReplace(QWidget& window, const QString& fileName);
+/// Asks before a file is replaced, and says what that changes.
+bool askToReplace(QWidget& window, const QString& fileName, const QString& change);
 
 /// The file that the user chooses; empty if none.
 QString chosenFile(QFileDialog& dialog);

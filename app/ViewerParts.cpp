@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <QToolBar>
 
 QAction& editAction(const DXFViewer& viewer)
 {
@@ -19,6 +20,11 @@ QAction& editAction(const DXFViewer& viewer)
 QGraphicsView& drawingView(const DXFViewer& viewer)
 {
     return *viewer.findChild<QGraphicsView*>(QStringLiteral("graphicsView"));
+}
+
+QToolBar& toolBar(const DXFViewer& viewer)
+{
+    return *viewer.findChild<QToolBar*>(QStringLiteral("mainToolBar"));
 }
 
 DXFEditor* currentEditor(const DXFViewer& viewer)

@@ -9,6 +9,7 @@ class DXFEditor;
 class DXFViewer;
 class QAction;
 class QGraphicsView;
+class QToolBar;
 
 // What a host can reach inside the window, by the object names that its form promises and by the
 // public classes of what lies in its scene.
@@ -17,6 +18,8 @@ class QGraphicsView;
 QAction& editAction(const DXFViewer& viewer);
 
 QGraphicsView& drawingView(const DXFViewer& viewer);
+
+QToolBar& toolBar(const DXFViewer& viewer);
 
 /// The overlay that edit mode puts into the window's scene; null if the window is not in edit mode.
 /// It goes when edit mode ends, which any other window can bring about.

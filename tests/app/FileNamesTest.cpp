@@ -88,4 +88,16 @@ TEST_F(FileNamesTest, FilesThatAreNotThereAreNotTheSame)
     EXPECT_FALSE(isSameFile(QString(), QString()));
 }
 
+TEST_F(FileNamesTest, ACopyOfACopyGetsTheNextNumber)
+{
+    const QString copy = touched(QStringLiteral("plan-edited.dxf"));
+    EXPECT_EQ(QFileInfo(nameForEditedCopy(copy)).fileName(), QStringLiteral("plan-edited-2.dxf"));
+
+    const QString second = touched(QStringLiteral("plan-edited-2.dxf"));
+    EXPECT_EQ(QFileInfo(nameForEditedCopy(second)).fileName(), QStringLiteral("plan-edited-3.dxf"));
+
+    const QString old = touched(QStringLiteral("wall-edited-edited.dxf"));
+    EXPECT_EQ(QFileInfo(nameForEditedCopy(old)).fileName(), QStringLiteral("wall-edited.dxf"));
+}
+
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include "MainWindow.h"
+#include "DrawingFiles.h"
 #include "ViewerParts.h"
 
 #include "dxfviewer/edit/DXFEditor.h"
@@ -21,8 +22,10 @@
 #include <QGraphicsView>
 #include <QImage>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -96,18 +99,36 @@ protected:
         return file.readAll();
     }
 
-    /// Opens a drawing and waits until it is on screen and the wait is over.
+    DrawingFiles& files() const { return *m_window->findChild<DrawingFiles*>(); }
+
+    /// Does what makes a drawing come, and waits until it is on screen.
+    template <typename Action>
+    void waitForDrawing(Action action)
+    {
+        QSignalSpy shown(&files(), &DrawingFiles::drawingShown);
+        action();
+        EXPECT_TRUE(shown.count() > 0 || shown.wait(dxftest::patienceMs));
+    }
     void open(const QString& fileName)
     {
-        const auto before = shownDocument(viewer());
-        m_window->openDrawing(fileName);
-        EXPECT_TRUE(dxftest::eventually([&] { return shownDocument(viewer()) != before; }));
-        waitForNoCursor();
+        waitForDrawing([&] { m_window->openDrawing(fileName); });
     }
 
-    void waitForNoCursor()
+    /// Opens what cannot be read, and notes what the box says.
+    void openInVain(const QString& fileName, std::string& error)
     {
-        EXPECT_TRUE(dxftest::eventually([] { return !QApplication::overrideCursor(); }));
+        m_robot.expectError(error);
+        m_window->openDrawing(fileName);
+        EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+    }
+
+    static void chooseReplace(QMessageBox& box)
+    {
+        const auto buttons = box.buttons();
+        for (QAbstractButton* button : buttons) {
+            if (box.buttonRole(button) == QMessageBox::DestructiveRole)
+                button->click();
+        }
     }
 
     void openInEditMode()
@@ -158,7 +179,7 @@ private:
 
 TEST_F(MainWindowTest, HasNothingToSaveAtFirst)
 {
-    EXPECT_FALSE(action("&Save As…").isEnabled());
+    EXPECT_FALSE(action("Save &As…").isEnabled());
     EXPECT_FALSE(action("Export &Picture…").isEnabled());
     EXPECT_FALSE(action("Undo").isEnabled());
     EXPECT_FALSE(m_window->isWindowModified());
@@ -170,7 +191,7 @@ TEST_F(MainWindowTest, ShowsADrawingUnderItsName)
 
     EXPECT_EQ(polylineCount(), 2);
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
-    EXPECT_TRUE(action("&Save As…").isEnabled());
+    EXPECT_TRUE(action("Save &As…").isEnabled());
     EXPECT_TRUE(action("Export &Picture…").isEnabled());
 }
 
@@ -181,30 +202,19 @@ TEST_F(MainWindowTest, ShowsNamesThatNeedCare)
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("a[*][*]\uFFFDb.dxf[*]"));
 }
 
-TEST_F(MainWindowTest, ShowsTheWaitCursorWhileLoading)
-{
-    m_window->openDrawing(crossFile());
-
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    waitForNoCursor();
-}
-
 TEST_F(MainWindowTest, KeepsTheDrawingOnScreenWhenAnotherCannotBeRead)
 {
     open(crossFile());
     const auto document = shownDocument(viewer());
     std::string error;
-    m_robot.expectError(error);
 
-    m_window->openDrawing(fileWith("no drawing", QStringLiteral("bad.dxf")));
+    openInVain(fileWith("no drawing", QStringLiteral("bad.dxf")), error);
 
     EXPECT_THAT(error, HasSubstr("bad.dxf"));
     EXPECT_THAT(error, HasSubstr("It is not a DXF drawing."));
     EXPECT_EQ(shownDocument(viewer()), document);
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
     EXPECT_FALSE(viewer().getData().isEmpty());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(MainWindowTest, SaysThatThereIsNothingToShow)
@@ -230,8 +240,7 @@ TEST_F(MainWindowTest, MenuOpensNothingWhenNothingIsChosen)
 
     action("&Open…").trigger();
 
-    EXPECT_FALSE(action("&Save As…").isEnabled());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(action("Save &As…").isEnabled());
 }
 
 TEST_F(MainWindowTest, KeyQuits)
@@ -434,7 +443,6 @@ TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
     const QString fileName = crossFile();
     std::string warning;
     m_robot.expectFileName(fileName);
-    m_robot.expectButton(QMessageBox::Yes);
     m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
         warning = box.informativeText().toStdString();
         DialogRobot::click(box, QMessageBox::Cancel);
@@ -453,19 +461,271 @@ TEST_F(MainWindowTest, ReplacesTheDrawingThatWasOpenedIfTold)
     erase();
     const QString fileName = crossFile();
     m_robot.expectFileName(fileName);
-    m_robot.expectButton(QMessageBox::Yes);
-    m_robot.expect<QMessageBox>([](QMessageBox& box) {
-        const auto buttons = box.buttons();
-        for (QAbstractButton* button : buttons) {
-            if (box.buttonRole(button) == QMessageBox::DestructiveRole)
-                button->click();
-        }
-    });
+    m_robot.expect<QMessageBox>(&chooseReplace);
 
     press(Qt::Key_S);
 
     EXPECT_EQ(contentOf(fileName), viewer().getData());
     EXPECT_FALSE(m_window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, SavesACopyAgainWithoutAQuestion)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
+    press(Qt::Key_S);
+    SceneMouse(view()).drag({{-50, 0}, {-50, 1}});
+    ASSERT_TRUE(m_window->isWindowModified());
+
+    press(Qt::Key_S);
+
+    EXPECT_FALSE(m_window->isWindowModified());
+    EXPECT_EQ(contentOf(path(QStringLiteral("kept.dxf"))), viewer().getData());
+}
+
+TEST_F(MainWindowTest, SavesAgainWhenTheCopyHasVanished)
+{
+    openInEditMode();
+    erase();
+    const QString kept = path(QStringLiteral("kept.dxf"));
+    m_robot.expectFileName(kept);
+    press(Qt::Key_S);
+    ASSERT_TRUE(QFile::remove(kept));
+
+    press(Qt::Key_S);
+
+    EXPECT_EQ(contentOf(kept), viewer().getData());
+}
+
+TEST_F(MainWindowTest, AsksBeforeItReplacesWhatAnotherProgramHasSaved)
+{
+    openInEditMode();
+    erase();
+    const QString kept = path(QStringLiteral("kept.dxf"));
+    m_robot.expectFileName(kept);
+    press(Qt::Key_S);
+    fileWith("of another program", QStringLiteral("kept.dxf"));
+
+    std::string warning;
+    m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
+        warning = box.informativeText().toStdString();
+        DialogRobot::click(box, QMessageBox::Cancel);
+    });
+    press(Qt::Key_S);
+    EXPECT_THAT(warning, HasSubstr("Another program has changed it"));
+    EXPECT_EQ(contentOf(kept), "of another program");
+
+    m_robot.expect<QMessageBox>(&chooseReplace);
+    press(Qt::Key_S);
+    EXPECT_EQ(contentOf(kept), viewer().getData());
+}
+
+TEST_F(MainWindowTest, TheOtherKeyAsksForAnotherName)
+{
+    openInEditMode();
+    m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
+    press(Qt::Key_S);
+    m_robot.expectFileName(path(QStringLiteral("other.dxf")));
+
+    press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+
+    EXPECT_EQ(contentOf(path(QStringLiteral("other.dxf"))), viewer().getData());
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("other.dxf[*]"));
+}
+
+TEST_F(MainWindowTest, AsksOnceBeforeItReplacesAnotherFile)
+{
+    open(crossFile());
+    const QString old = fileWith("old", QStringLiteral("old.dxf"));
+    m_robot.expectFileName(old);
+    m_robot.expectButton(QMessageBox::Cancel);
+    press(Qt::Key_S);
+    EXPECT_EQ(contentOf(old), "old");
+
+    m_robot.expectFileName(path(QStringLiteral("old")));
+    m_robot.expect<QMessageBox>(&chooseReplace);
+    press(Qt::Key_S);
+    EXPECT_EQ(contentOf(old), viewer().getData());
+}
+
+TEST_F(MainWindowTest, ReloadsTheFileAsItIsNow)
+{
+    openInEditMode();
+    fileWith(crossDrawing.left(crossDrawing.lastIndexOf("0\nLWPOLYLINE")) + "0\nENDSEC\n0\nEOF\n",
+             QStringLiteral("cross.dxf"));
+
+    waitForDrawing([this] { press(Qt::Key_F5, Qt::NoModifier); });
+
+    EXPECT_EQ(polylineCount(), 1);
+    EXPECT_FALSE(edit().isChecked());
+}
+
+TEST_F(MainWindowTest, AsksBeforeItReloadsOverEdits)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectButton(QMessageBox::Cancel);
+    press(Qt::Key_F5, Qt::NoModifier);
+    EXPECT_FALSE(files().reader().isReading());
+
+    m_robot.expectButton(QMessageBox::Discard);
+    waitForDrawing([this] { press(Qt::Key_F5, Qt::NoModifier); });
+    EXPECT_EQ(polylineCount(), 2);
+    EXPECT_FALSE(m_window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, AReloadOfAFileThatHasVanishedLosesNothing)
+{
+    openInEditMode();
+    erase();
+    ASSERT_TRUE(QFile::remove(path(QStringLiteral("cross.dxf"))));
+    m_robot.expectButton(QMessageBox::Discard);
+    std::string error;
+    m_robot.expectError(error);
+
+    press(Qt::Key_F5, Qt::NoModifier);
+    EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+
+    EXPECT_THAT(error, HasSubstr("There is no such file."));
+    EXPECT_EQ(polylineCount(), 1);
+    EXPECT_TRUE(m_window->isWindowModified());
+    EXPECT_TRUE(edit().isChecked());
+}
+
+TEST_F(MainWindowTest, AsksAboutEditsThatWereMadeWhileADrawingWasRead)
+{
+    openInEditMode();
+    m_window->openDrawing(fileWith(crossDrawing, QStringLiteral("other.dxf")));
+    erase();
+    bool isAnswered = false;
+    m_robot.expect<QMessageBox>([&isAnswered](QMessageBox& box) {
+        DialogRobot::click(box, QMessageBox::Cancel);
+        isAnswered = true;
+    });
+
+    EXPECT_TRUE(dxftest::eventually([&isAnswered] { return isAnswered; }));
+
+    EXPECT_EQ(polylineCount(), 1);
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+    EXPECT_TRUE(edit().isChecked());
+}
+
+TEST_F(MainWindowTest, ADrawingDoesNotComeBehindADialog)
+{
+    open(crossFile());
+    const QString other = fileWith(crossDrawing, QStringLiteral("other.dxf"));
+    m_robot.expect<QFileDialog>([&](QFileDialog& dialog) {
+        m_window->openDrawing(other);
+        EXPECT_TRUE(dxftest::eventually([this] { return !files().reader().isReading(); }));
+        EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+        dialog.reject();
+    });
+
+    waitForDrawing([this] { press(Qt::Key_S); });
+
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("other.dxf[*]"));
+}
+
+TEST_F(MainWindowTest, TheSecondOfTwoDrawingsIsShown)
+{
+    waitForDrawing([this] {
+        m_window->openDrawing(crossFile());
+        m_window->openDrawing(fileWith(crossDrawing, QStringLiteral("second.dxf")));
+    });
+
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("second.dxf[*]"));
+}
+
+TEST_F(MainWindowTest, ClosesWhileADrawingIsRead)
+{
+    m_window->openDrawing(crossFile());
+
+    EXPECT_TRUE(m_window->close());
+    EXPECT_FALSE(files().reader().isReading());
+    m_window.reset();
+}
+
+TEST_F(MainWindowTest, OffersTheDrawingsThatWereOpened)
+{
+    open(crossFile());
+    open(fileWith(crossDrawing, QStringLiteral("other.dxf")));
+    QMenu* recent = action("Open &Recent").menu();
+    Q_EMIT recent->aboutToShow();
+    QAction* first = recent->actions().value(1);
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->text(), path(QStringLiteral("cross.dxf")));
+
+    waitForDrawing([first] { first->trigger(); });
+
+    EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
+}
+
+TEST_F(MainWindowTest, ForgetsARecentDrawingThatHasVanished)
+{
+    const QString fileName = crossFile();
+    open(fileName);
+    ASSERT_TRUE(QFile::remove(fileName));
+    std::string error;
+    openInVain(fileName, error);
+
+    QMenu* recent = action("Open &Recent").menu();
+    Q_EMIT recent->aboutToShow();
+
+    EXPECT_NE(recent->actions().constFirst()->text(), fileName);
+}
+
+TEST_F(MainWindowTest, EscapeLeavesEditModeAndTellsWhatStays)
+{
+    openInEditMode();
+    erase();
+
+    press(Qt::Key_Escape, Qt::NoModifier);
+
+    EXPECT_FALSE(edit().isChecked());
+    EXPECT_EQ(currentEditor(viewer()), nullptr);
+    EXPECT_THAT(m_window->statusBar()->currentMessage().toStdString(),
+                HasSubstr("The edits stay in the drawing"));
+    EXPECT_EQ(polylineCount(), 1);
+}
+
+TEST_F(MainWindowTest, LeavingEditModeWithoutAHistoryTellsNothing)
+{
+    openInEditMode();
+
+    press(Qt::Key_Escape, Qt::NoModifier);
+    edit().setChecked(true);
+    edit().setChecked(false);
+
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().isEmpty());
+}
+
+TEST_F(MainWindowTest, AnotherDrawingTellsNothingOfTheEditsThatAreGone)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectButton(QMessageBox::Discard);
+
+    open(fileWith(crossDrawing, QStringLiteral("other.dxf")));
+
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().isEmpty());
+}
+
+TEST_F(MainWindowTest, KeysUndoAndRedoWholeStrokes)
+{
+    openInEditMode();
+    SceneMouse mouse(view());
+    mouse.press({50, 60});
+    mouse.move({50, 61});
+    EXPECT_TRUE(dxftest::eventually([this] { return polylineCount() == 1; }));
+    mouse.move({-50, 0});
+    mouse.release({-50, 0});
+    ASSERT_EQ(polylineCount(), 0);
+
+    press(Qt::Key_Z);
+    EXPECT_EQ(polylineCount(), 2);
+    press(Qt::Key_Y);
+    EXPECT_EQ(polylineCount(), 0);
 }
 
 TEST_F(MainWindowTest, AFullDiskGivesABoxAndLeavesTheOldFile)
@@ -475,7 +735,7 @@ TEST_F(MainWindowTest, AFullDiskGivesABoxAndLeavesTheOldFile)
     const QString fileName = fileWith("old", QStringLiteral("old.dxf"));
     std::string error;
     m_robot.expectFileName(fileName);
-    m_robot.expectButton(QMessageBox::Yes);
+    m_robot.expect<QMessageBox>(&chooseReplace);
     m_robot.expectError(error);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     rlimit usual{};

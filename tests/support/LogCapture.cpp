@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <mutex>
 #include <utility>
 
 namespace dxftest
@@ -23,6 +24,13 @@ bool isPlatformWarning(const QString& text)
 {
     return std::any_of(platformWarnings.begin(), platformWarnings.end(),
                        [&text](const char* known) { return text == QLatin1String(known); });
+}
+
+/// Drawings may be read in other threads, which have messages as well.
+std::mutex& recordMutex()
+{
+    static std::mutex mutex;
+    return mutex;
 }
 
 /// Whether a message has a category, and not one of Qt's own.
@@ -51,16 +59,19 @@ LogCapture::~LogCapture()
 
 QStringList LogCapture::takeDebugMessages()
 {
+    const std::lock_guard lock(recordMutex());
     return std::exchange(m_debugMessages, QStringList());
 }
 
 QStringList LogCapture::takeWarnings()
 {
+    const std::lock_guard lock(recordMutex());
     return std::exchange(m_warnings, QStringList());
 }
 
 void LogCapture::handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
+    const std::lock_guard lock(recordMutex());
     s_innermost->record(type, context, text);
 }
 

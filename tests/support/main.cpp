@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,6 +17,12 @@ void choosePlatform()
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+/// Nor do they read or change what anybody's programs remember; nor those that they start.
+void useSettingsOfOurOwn(const QTemporaryDir& folder)
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -24,6 +32,8 @@ int main(int argc, char** argv)
         return RUN_ALL_TESTS();
 
     choosePlatform();
+    const QTemporaryDir settings;
+    useSettingsOfOurOwn(settings);
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

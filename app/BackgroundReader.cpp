@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "BackgroundReader.h"
+
+#include "ReadingWatch.h"
+
+#include <dxfviewer/model/DXFDocument.h>
+
+#include <QThread>
+#include <QThreadPool>
+
+#include <utility>
+
+namespace
+{
+
+// Often enough for a bar that moves, and nothing beside the reading.
+constexpr int progressIntervalMs = 50;
+
+} // namespace
+
+/// What the thread works on. The watch is for both threads; the rest is the reading thread's until
+/// it has ended.
+struct BackgroundReader::Job {
+    QString fileName;
+    ReadingWatch watch;
+    DrawingRead result;
+};
+
+BackgroundReader::BackgroundReader(QObject* parent)
+    : QObject(parent)
+{
+    m_progressTimer.setInterval(progressIntervalMs);
+    connect(&m_progressTimer, &QTimer::timeout, this,
+            [this] { Q_EMIT progressed(m_job->watch.share()); });
+}
+
+BackgroundReader::~BackgroundReader()
+{
+    stop();
+    if (!m_thread)
+        return;
+    m_thread->disconnect(this);
+    m_thread->wait();
+    delete m_thread;
+}
+
+void BackgroundReader::read(const QString& fileName)
+{
+    stop();
+    m_fileName = fileName;
+    // Two reads at once would get into each other's way: reading sets the locale aside. The next
+    // one begins when the thread of the former has ended.
+    if (!m_thread)
+        start();
+    Q_EMIT readingChanged();
+}
+
+void BackgroundReader::cancel()
+{
+    if (!isReading())
+        return;
+    stop();
+    Q_EMIT readingChanged();
+}
+
+void BackgroundReader::stop()
+{
+    m_progressTimer.stop();
+    m_fileName.clear();
+    if (m_job)
+        m_job->watch.cancel();
+}
+
+void BackgroundReader::start()
+{
+    m_job = std::make_shared<Job>();
+    m_job->fileName = m_fileName;
+    m_thread =
+        QThread::create([job = m_job] { job->result = readDocument(job->fileName, job->watch); });
+    connect(m_thread, &QThread::finished, this, &BackgroundReader::onThreadFinished);
+    m_thread->start(QThread::LowPriority);
+    m_progressTimer.start();
+}
+
+void BackgroundReader::onThreadFinished()
+{
+    m_thread->wait();
+    std::exchange(m_thread, nullptr)->deleteLater();
+    const auto job = std::exchange(m_job, nullptr);
+    if (job->watch.isCancelled()) {
+        freeInBackground(std::move(job->result.document));
+        if (isReading())
+            start();
+        return;
+    }
+    m_progressTimer.stop();
+    m_fileName.clear();
+    Q_EMIT readingChanged();
+    Q_EMIT finished(job->fileName, job->result);
+}
+
+void freeInBackground(QSharedPointer<DXFDocument> document)
+{
+    if (!document)
+        return;
+    QThreadPool::globalInstance()->start([held = std::move(document)]() mutable { held.reset(); });
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "DrawingRead.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+class QThread;
+
+/**
+ * Reads drawings in a thread of its own, one at a time.
+ *
+ * A second drawing takes the place of one that is still being read. Destroying the reader ends the
+ * thread first.
+ */
+class BackgroundReader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit BackgroundReader(QObject* parent = nullptr);
+    ~BackgroundReader() override;
+
+    /// Begins to read a file, and throws away what is being read.
+    void read(const QString& fileName);
+    /// Throws away what is being read. Nothing is told of it any more.
+    void cancel();
+
+    bool isReading() const { return !m_fileName.isEmpty(); }
+    /// The file that is being read; empty if none is.
+    QString fileName() const { return m_fileName; }
+
+Q_SIGNALS:
+    /// A read begins or ends, for whatever reason.
+    void readingChanged();
+    /// How much of the file has been read, from 0 to 1, some times in a second.
+    void progressed(double share);
+    /// The file has been read, or cannot be.
+    void finished(const QString& fileName, const DrawingRead& result);
+
+private:
+    struct Job;
+
+    void start();
+    void stop();
+    void onThreadFinished();
+
+    QString m_fileName;
+    std::shared_ptr<Job> m_job;
+    QThread* m_thread = nullptr;
+    QTimer m_progressTimer;
+};
+
+/// Lets go of a drawing in another thread: freeing a large one takes its time.
+void freeInBackground(QSharedPointer<DXFDocument> document);

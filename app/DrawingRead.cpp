@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "DrawingRead.h"
+
+#include "Cancelled.h"
+#include "DrawingFile.h"
+#include "ReadingPlace.h"
+#include "ReadingWatch.h"
+
+#include <dxfviewer/io/DXFReader.h>
+#include <dxfviewer/model/DXFDocument.h>
+
+#include <QCoreApplication>
+
+#include <new>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(DrawingRead)
+};
+
+/// A reader that tells where it is, and stops when it is told to.
+template <typename Reader>
+class WatchedReader : public Reader
+{
+public:
+    template <typename... Arguments>
+    explicit WatchedReader(ReadingPlace& place, Arguments&&... arguments)
+        : Reader(std::forward<Arguments>(arguments)...)
+        , m_place(place)
+    {
+    }
+
+    void processCodeValuePair(unsigned int code, const std::string& value) override
+    {
+        m_place.noteGroup(value.size());
+        Reader::processCodeValuePair(code, value);
+    }
+
+private:
+    ReadingPlace& m_place;
+};
+
+DrawingRead parsed(const QByteArray& content, ReadingWatch& watch)
+{
+    DrawingRead result;
+    result.document = QSharedPointer<DXFDocument>::create();
+    ReadingPlace place(content, watch);
+    WatchedReader<DXFReader> reader(place, *result.document);
+    if (!reader.load(content)) {
+        result.document.reset();
+        result.reason = Texts::tr("It cannot be read.");
+    }
+    return result;
+}
+
+} // namespace
+
+DrawingRead readDocument(const QString& fileName, ReadingWatch& watch)
+{
+    DrawingRead result;
+    try {
+        if (const auto content = readDrawing(fileName, result.reason, watch))
+            result = parsed(*content, watch);
+    } catch (const Cancelled&) {
+        return DrawingRead();
+    } catch (const std::bad_alloc&) {
+        result.reason = Texts::tr("There is not enough memory for the drawing.");
+    }
+    if (watch.isCancelled())
+        result = DrawingRead();
+    return result;
+}

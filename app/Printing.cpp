@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "Printing.h"
+
+#include "Picture.h"
+#include "Questions.h"
+#include "WaitCursor.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+
+namespace
+{
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Printing)
+};
+
+/// How a document ends that was written whole.
+const QByteArray endOfDocument = "%%EOF";
+constexpr qint64 longestEnd = 64;
+
+void prepare(QPrinter& printer, const Picture& picture, const QString& fileName)
+{
+    printer.setDocName(QFileInfo(fileName).completeBaseName());
+    printer.setCreator(QCoreApplication::applicationName());
+    printer.setPageOrientation(picture.isWide() ? QPageLayout::Landscape : QPageLayout::Portrait);
+}
+
+/// False if the printer takes no page.
+bool paintPage(QPrinter& printer, const Picture& picture)
+{
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return false;
+    picture.paintInto(painter,
+                      QRectF(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size()));
+    return painter.end() && printer.printerState() != QPrinter::Error;
+}
+
+/// Whether the file that was printed to is there to its end: nobody tells of a disk that is full.
+bool isWhole(const QString& fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    file.seek(qMax<qint64>(0, file.size() - longestEnd));
+    return file.readAll().trimmed().endsWith(endOfDocument);
+}
+
+} // namespace
+
+Printing::Printing(const QSharedPointer<DXFDocument>& document, const QString& fileName,
+                   QWidget& window)
+    : m_document(document)
+    , m_fileName(fileName)
+    , m_window(window)
+{
+}
+
+void Printing::print() const
+{
+    QPrinter printer(QPrinter::HighResolution);
+    const Picture picture(m_document, Qt::white);
+    prepare(printer, picture, m_fileName);
+    QPrintDialog dialog(&printer, &m_window);
+    dialog.setWindowTitle(Texts::tr("Print"));
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+
+    const bool isPrinted = [&] {
+        const WaitCursor wait;
+        return paintPage(printer, picture);
+    }();
+    const QString file = printer.outputFileName();
+    if (!isPrinted)
+        showError(m_window, Texts::tr("The drawing cannot be printed."), m_fileName,
+                  file.isEmpty() ? Texts::tr("The printer does not take it.")
+                                 : Texts::tr("%1 cannot be written.").arg(file));
+    else if (!file.isEmpty() && !isWhole(file))
+        showError(m_window, Texts::tr("The drawing cannot be printed."), m_fileName,
+                  Texts::tr("%1 could not be written to its end. The disk may be full.").arg(file));
+}
+
+void Printing::preview() const
+{
+    QPrinter printer(QPrinter::HighResolution);
+    const Picture picture(m_document, Qt::white);
+    prepare(printer, picture, m_fileName);
+    QPrintPreviewDialog dialog(&printer, &m_window);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     [&picture](QPrinter* page) { paintPage(*page, picture); });
+    dialog.exec();
+}

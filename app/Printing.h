@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QSharedPointer>
+#include <QString>
+
+class DXFDocument;
+class QWidget;
+
+/**
+ * Puts a whole drawing on one page: fitted, the right way up, on white.
+ *
+ * A page lies as the drawing does, along or across, unless the user turns it.
+ */
+class Printing
+{
+public:
+    /// The name is that of the drawing's file. Dialogs and boxes belong to the window.
+    Printing(const QSharedPointer<DXFDocument>& document, const QString& fileName, QWidget& window);
+
+    /// Asks for the printer, and prints.
+    void print() const;
+    /// Shows the page, from where it can be printed.
+    void preview() const;
+
+private:
+    QSharedPointer<DXFDocument> m_document;
+    QString m_fileName;
+    QWidget& m_window;
+};

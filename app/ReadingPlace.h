@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QByteArray>
+
+#include <cstddef>
+
+class ReadingWatch;
+
+/**
+ * How far a reader is in a drawing, told by the groups that it is given.
+ *
+ * Each of them is two lines of the text. Where the text is none, or is repaired while it is read,
+ * the place is an estimate.
+ */
+class ReadingPlace
+{
+public:
+    /// Both must outlive it.
+    ReadingPlace(const QByteArray& content, ReadingWatch& watch);
+
+    /// Tells the watch now and then. Throws Cancelled, which ends the read, if that is wanted.
+    void noteGroup(std::size_t valueLength);
+
+    /// How much has been read, from 0 to 1.
+    double share() const;
+
+private:
+    const char* afterLine(const char* at) const;
+
+    const QByteArray& m_content;
+    ReadingWatch& m_watch;
+    const bool m_isText;
+    const char* m_at;
+    const char* m_end;
+    int m_groups = 0;
+};

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+class QMenu;
+class QSettings;
+
+/**
+ * The drawings that were opened last, the newest first, and the menu that offers them.
+ *
+ * They are remembered at once, so that windows and programs that run side by side know of each
+ * other's.
+ */
+class RecentFiles : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int most = 10;
+
+    /// The settings must outlive it.
+    explicit RecentFiles(QSettings& settings, QObject* parent = nullptr);
+
+    QStringList names() const;
+    void add(const QString& fileName);
+    void remove(const QString& fileName);
+    void clear();
+
+    /// Fills the menu each time it comes up.
+    void serve(QMenu& menu);
+
+Q_SIGNALS:
+    void chosen(const QString& fileName);
+
+private:
+    void fill(QMenu& menu);
+    void write(const QStringList& names);
+
+    QSettings& m_settings;
+};

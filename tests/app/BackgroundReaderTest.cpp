@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "BackgroundReader.h"
+
+#include "dxfviewer/model/DXFDocument.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
+#include "tests/support/WindowParts.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <memory>
+#include <random>
+
+namespace
+{
+
+// Long enough that the reader can be met in the middle.
+constexpr int manyPolylines = 60000;
+
+QByteArray drawingOf(int polylines)
+{
+    static const QByteArray polyline =
+        "0\nLWPOLYLINE\n8\n0\n90\n2\n70\n0\n10\n0\n20\n0\n10\n9\n20\n9\n";
+    return "0\nSECTION\n2\nENTITIES\n" + polyline.repeated(polylines) + "0\nENDSEC\n0\nEOF\n";
+}
+
+class BackgroundReaderTest : public dxftest::LoggedTest
+{
+protected:
+    BackgroundReaderTest()
+    {
+        QObject::connect(&m_reader, &BackgroundReader::progressed,
+                         [this](double share) { m_shares.append(share); });
+        QObject::connect(&m_reader, &BackgroundReader::finished,
+                         [this](const QString& fileName, const DrawingRead& result) {
+                             m_finished.append(fileName);
+                             m_result = result;
+                         });
+    }
+
+    QString fileWith(const QByteArray& content, const QString& name) const
+    {
+        QFile file(m_folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        EXPECT_EQ(file.write(content), content.size());
+        return file.fileName();
+    }
+    QString smallFile() const { return fileWith(drawingOf(2), QStringLiteral("small.dxf")); }
+    QString largeFile() const
+    {
+        return fileWith(drawingOf(manyPolylines), QStringLiteral("large.dxf"));
+    }
+
+    bool waitForEnd()
+    {
+        return dxftest::eventually([this] { return !m_finished.isEmpty(); });
+    }
+    bool waitForTheMiddle()
+    {
+        return dxftest::eventually([this] {
+            return !m_shares.isEmpty() && m_shares.constLast() > 0.0 && m_shares.constLast() < 1.0;
+        });
+    }
+
+    const QTemporaryDir m_folder;
+    BackgroundReader m_reader;
+    QVector<double> m_shares;
+    QStringList m_finished;
+    DrawingRead m_result;
+};
+
+TEST_F(BackgroundReaderTest, ReadsADrawing)
+{
+    const QString fileName = smallFile();
+
+    m_reader.read(fileName);
+    EXPECT_TRUE(m_reader.isReading());
+    EXPECT_EQ(m_reader.fileName(), fileName);
+    ASSERT_TRUE(waitForEnd());
+
+    EXPECT_FALSE(m_reader.isReading());
+    EXPECT_EQ(m_finished, QStringList{fileName});
+    ASSERT_NE(m_result.document, nullptr);
+    EXPECT_EQ(m_result.document->entities().size(), 2);
+}
+
+TEST_F(BackgroundReaderTest, TellsHowMuchHasBeenRead)
+{
+    m_reader.read(largeFile());
+    ASSERT_TRUE(waitForTheMiddle());
+    ASSERT_TRUE(waitForEnd());
+
+    EXPECT_TRUE(std::is_sorted(m_shares.cbegin(), m_shares.cend()));
+    EXPECT_LE(m_shares.constLast(), 1.0);
+    EXPECT_EQ(m_result.document->entities().size(), manyPolylines);
+}
+
+TEST_F(BackgroundReaderTest, SaysWhyAFileCannotBeRead)
+{
+    m_reader.read(m_folder.filePath(QStringLiteral("nothing.dxf")));
+    ASSERT_TRUE(waitForEnd());
+
+    EXPECT_EQ(m_result.document, nullptr);
+    EXPECT_EQ(m_result.reason, QStringLiteral("There is no such file."));
+}
+
+TEST_F(BackgroundReaderTest, WhatIsCancelledIsNotHeardOfAgain)
+{
+    m_reader.read(largeFile());
+    ASSERT_TRUE(waitForTheMiddle());
+
+    m_reader.cancel();
+    EXPECT_FALSE(m_reader.isReading());
+    const int heard = m_shares.size();
+    const QString next = smallFile();
+    m_reader.read(next);
+    ASSERT_TRUE(waitForEnd());
+
+    EXPECT_EQ(m_finished, QStringList{next});
+    const bool isNew = std::all_of(m_shares.cbegin() + heard, m_shares.cend(),
+                                   [this](double share) { return share == 0.0 || share == 1.0; });
+    EXPECT_TRUE(isNew);
+}
+
+TEST_F(BackgroundReaderTest, TheSecondTakesThePlaceOfTheFirst)
+{
+    m_reader.read(largeFile());
+    ASSERT_TRUE(waitForTheMiddle());
+
+    const QString second = smallFile();
+    m_reader.read(second);
+    EXPECT_EQ(m_reader.fileName(), second);
+    ASSERT_TRUE(waitForEnd());
+
+    EXPECT_EQ(m_finished, QStringList{second});
+    EXPECT_EQ(m_result.document->entities().size(), 2);
+}
+
+TEST_F(BackgroundReaderTest, CancelWithoutAReadDoesNothing)
+{
+    m_reader.cancel();
+    m_reader.read(smallFile());
+    ASSERT_TRUE(waitForEnd());
+    m_reader.cancel();
+
+    EXPECT_EQ(m_finished.size(), 1);
+}
+
+TEST_F(BackgroundReaderTest, AReaderThatGoesEndsItsRead)
+{
+    auto reader = std::make_unique<BackgroundReader>();
+    bool isMiddle = false;
+    QObject::connect(reader.get(), &BackgroundReader::progressed,
+                     [&isMiddle](double share) { isMiddle = share > 0.0; });
+    QObject::connect(reader.get(), &BackgroundReader::finished,
+                     [] { ADD_FAILURE() << "nobody waits for this"; });
+    reader->read(largeFile());
+    ASSERT_TRUE(dxftest::eventually([&isMiddle] { return isMiddle; }));
+
+    reader.reset();
+}
+
+/// Above all for the sanitizers.
+TEST_F(BackgroundReaderTest, AnySequenceOfReadsAndCancelsEndsWithTheLastRead)
+{
+    const QStringList files{smallFile(), fileWith(drawingOf(2000), QStringLiteral("middle.dxf")),
+                            largeFile(), fileWith("no drawing", QStringLiteral("bad.dxf"))};
+    std::mt19937 random(3);
+    for (int step = 0; step < 100; ++step) {
+        if (random() % 4 == 0)
+            m_reader.cancel();
+        else
+            m_reader.read(files.at(static_cast<int>(random() % 4U)));
+        for (auto turns = random() % 3; turns > 0; --turns)
+            QCoreApplication::processEvents();
+    }
+    m_finished.clear();
+
+    m_reader.read(files.constFirst());
+    EXPECT_TRUE(dxftest::eventually([&] { return !m_reader.isReading(); }));
+
+    EXPECT_EQ(m_finished.last(), files.constFirst());
+    EXPECT_EQ(m_result.document->entities().size(), 2);
+}
+
+TEST_F(BackgroundReaderTest, ADrawingIsFreedElsewhere)
+{
+    auto document = DXFDocument::load(drawingOf(2));
+    const QWeakPointer<DXFDocument> weak(document);
+
+    freeInBackground(std::move(document));
+
+    EXPECT_TRUE(dxftest::eventually([&weak] { return weak.isNull(); }));
+    freeInBackground(nullptr);
+}
+
+} // namespace

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "Printing.h"
+#include "Picture.h"
+
+#include "dxfviewer/model/DXFDocument.h"
+#include "tests/app/DialogRobot.h"
+#include "tests/support/Builders.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
+
+#include <QFile>
+#include <QImage>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+using testing::HasSubstr;
+
+namespace
+{
+
+/// Wide, and with its only upright line on the left.
+QSharedPointer<DXFDocument> wideDrawing()
+{
+    return dxftest::makeDocument(
+        {dxftest::makePolyline({{0, 0}, {400, 0}}), dxftest::makePolyline({{0, 0}, {0, 100}})});
+}
+
+QRect inkOf(const QImage& page)
+{
+    QRect ink;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            if (page.pixelColor(x, y).lightness() < 250)
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+class PrintingTest : public dxftest::LoggedTest
+{
+protected:
+    PrintingTest() { m_window.show(); }
+
+    Printing printing(const QSharedPointer<DXFDocument>& document)
+    {
+        return {document, QStringLiteral("/drawings/plan.dxf"), m_window};
+    }
+
+    QString file() const { return m_folder.filePath(QStringLiteral("plan.pdf")); }
+    QByteArray content() const
+    {
+        QFile written(file());
+        return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
+    }
+
+    /// Prints to the file when the dialog comes.
+    void expectDialog()
+    {
+        m_robot.expect<QPrintDialog>([this](QPrintDialog& dialog) {
+            dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(file());
+            static_cast<QDialog&>(dialog).accept();
+        });
+    }
+
+    const QTemporaryDir m_folder;
+    dxftest::DialogRobot m_robot;
+    QWidget m_window;
+};
+
+TEST_F(PrintingTest, ADrawingFillsThePage)
+{
+    const Picture picture(wideDrawing(), Qt::white);
+    QImage page(600, 400, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+
+    picture.paintInto(painter, QRectF(0, 0, 600, 400));
+    painter.end();
+
+    const QRect ink = inkOf(page);
+    EXPECT_GT(ink.width(), 550);
+    EXPECT_LT(ink.width(), 600);
+    EXPECT_NEAR(ink.center().x(), 300, 2);
+    EXPECT_NEAR(ink.center().y(), 200, 2);
+    EXPECT_NEAR(ink.height() * 4, ink.width(), 8);
+}
+
+TEST_F(PrintingTest, APageLiesAsTheDrawingDoes)
+{
+    EXPECT_TRUE(Picture(wideDrawing(), Qt::white).isWide());
+    EXPECT_FALSE(
+        Picture(dxftest::makeDocument({dxftest::makePolyline({{0, 0}, {1, 9}})}), Qt::white)
+            .isWide());
+}
+
+TEST_F(PrintingTest, PrintsOnePage)
+{
+    expectDialog();
+
+    printing(wideDrawing()).print();
+
+    EXPECT_THAT(content().toStdString(), HasSubstr("%PDF"));
+    EXPECT_EQ(content().count("/Type /Page\n"), 1);
+}
+
+TEST_F(PrintingTest, PrintsNothingIfItIsCalledOff)
+{
+    m_robot.expect<QPrintDialog>([](QPrintDialog& dialog) { dialog.reject(); });
+
+    printing(wideDrawing()).print();
+
+    EXPECT_FALSE(QFile::exists(file()));
+}
+
+TEST_F(PrintingTest, ADrawingWithoutAnythingIsAnEmptyPage)
+{
+    expectDialog();
+
+    printing(dxftest::makeDocument({})).print();
+
+    EXPECT_EQ(content().count("/Type /Page\n"), 1);
+}
+
+TEST_F(PrintingTest, AFullDiskGivesABox)
+{
+    std::string error;
+    expectDialog();
+    m_robot.expectError(error);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    const rlimit nothing{1, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &nothing), 0);
+
+    printing(wideDrawing()).print();
+
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_THAT(error, HasSubstr("The drawing cannot be printed."));
+    EXPECT_THAT(error, HasSubstr("The disk may be full."));
+}
+
+TEST_F(PrintingTest, ShowsOnePageBeforeItIsPrinted)
+{
+    int pages = 0;
+    m_robot.expect<QPrintPreviewDialog>([&pages](QPrintPreviewDialog& dialog) {
+        auto* preview = dialog.findChild<QPrintPreviewWidget*>();
+        EXPECT_TRUE(dxftest::eventually([preview] { return preview->pageCount() > 0; }));
+        pages = preview->pageCount();
+        dialog.reject();
+    });
+
+    printing(wideDrawing()).preview();
+
+    EXPECT_EQ(pages, 1);
+}
+
+} // namespace

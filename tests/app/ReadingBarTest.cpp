@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "ReadingBar.h"
+#include "BackgroundReader.h"
+
+#include "dxfviewer/model/DXFDocument.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QLabel>
+#include <QMainWindow>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+// Long enough that the reader can be met in the middle.
+constexpr int manyPolylines = 60000;
+
+class ReadingBarTest : public dxftest::LoggedTest
+{
+protected:
+    ReadingBarTest()
+    {
+        m_window.statusBar()->addPermanentWidget(m_bar);
+        m_window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_window, dxftest::patienceMs));
+        QFile file(m_folder.filePath(QStringLiteral("large.dxf")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("0\nSECTION\n2\nENTITIES\n");
+        file.write(
+            QByteArray("0\nLWPOLYLINE\n8\n0\n90\n1\n10\n0\n20\n0\n").repeated(manyPolylines));
+        m_reader.read(file.fileName());
+    }
+
+    int value() const { return m_bar->findChild<QProgressBar*>()->value(); }
+    bool waitForTheMiddle()
+    {
+        return dxftest::eventually([this] { return m_bar->isVisible() && value() > 0; });
+    }
+
+    const QTemporaryDir m_folder;
+    BackgroundReader m_reader;
+    QMainWindow m_window;
+    ReadingBar* m_bar = new ReadingBar(m_reader);
+};
+
+TEST_F(ReadingBarTest, ShowsWhatIsReadAndHowFarItIs)
+{
+    EXPECT_FALSE(m_bar->isVisible());
+    ASSERT_TRUE(waitForTheMiddle());
+
+    EXPECT_LE(value(), 100);
+    EXPECT_EQ(m_bar->findChild<QLabel*>()->text(), QStringLiteral("Reading large.dxf"));
+    EXPECT_TRUE(dxftest::eventually([this] { return !m_bar->isVisible(); }));
+    EXPECT_FALSE(m_reader.isReading());
+}
+
+TEST_F(ReadingBarTest, TheButtonCallsTheReadOff)
+{
+    ASSERT_TRUE(waitForTheMiddle());
+
+    QTest::mouseClick(m_bar->findChild<QAbstractButton*>(), Qt::LeftButton);
+
+    EXPECT_FALSE(m_reader.isReading());
+    EXPECT_FALSE(m_bar->isVisible());
+}
+
+} // namespace

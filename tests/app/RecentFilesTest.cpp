@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "RecentFiles.h"
+
+#include "tests/support/LoggedTest.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QMenu>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace
+{
+
+class RecentFilesTest : public dxftest::LoggedTest
+{
+protected:
+    RecentFilesTest() { m_recent.serve(m_menu); }
+
+    QString path(const QString& name) const { return m_folder.filePath(name); }
+    QString numbered(int number) const { return path(QStringLiteral("%1.dxf").arg(number)); }
+
+    /// What the menu offers when it is opened.
+    QStringList offered()
+    {
+        Q_EMIT m_menu.aboutToShow();
+        QStringList texts;
+        const auto actions = m_menu.actions();
+        for (const QAction* action : actions)
+            texts.append(action->text());
+        return texts;
+    }
+
+    void store(const QVariant& value)
+    {
+        m_settings.setValue(QStringLiteral("recentDrawings"), value);
+    }
+
+    const QTemporaryDir m_folder;
+    QSettings m_settings{m_folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
+    RecentFiles m_recent{m_settings};
+    QMenu m_menu;
+};
+
+TEST_F(RecentFilesTest, TheNewestComesFirst)
+{
+    m_recent.add(numbered(1));
+    m_recent.add(numbered(2));
+
+    EXPECT_EQ(m_recent.names(), (QStringList{numbered(2), numbered(1)}));
+}
+
+TEST_F(RecentFilesTest, EachDrawingStandsThereOnce)
+{
+    m_recent.add(numbered(1));
+    m_recent.add(numbered(2));
+    m_recent.add(numbered(1));
+
+    EXPECT_EQ(m_recent.names(), (QStringList{numbered(1), numbered(2)}));
+}
+
+TEST_F(RecentFilesTest, TwoNamesOfAFileAreOneDrawing)
+{
+    QFile file(numbered(1));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(file.link(numbered(2)));
+    m_recent.add(numbered(1));
+    m_recent.add(numbered(2));
+
+    EXPECT_EQ(m_recent.names(), QStringList{numbered(2)});
+}
+
+TEST_F(RecentFilesTest, TheFolderThatTheProgramWasStartedInDoesNotMatter)
+{
+    m_recent.add(QStringLiteral("plan.dxf"));
+
+    EXPECT_EQ(m_recent.names(), QStringList{QDir::current().filePath(QStringLiteral("plan.dxf"))});
+}
+
+TEST_F(RecentFilesTest, TenAreKept)
+{
+    for (int number = 1; number <= 12; ++number)
+        m_recent.add(numbered(number));
+
+    EXPECT_EQ(m_recent.names().size(), 10);
+    EXPECT_EQ(m_recent.names().constFirst(), numbered(12));
+    EXPECT_EQ(m_recent.names().constLast(), numbered(3));
+}
+
+TEST_F(RecentFilesTest, TheyOutliveTheProgram)
+{
+    m_recent.add(numbered(1));
+
+    QSettings settings(m_settings.fileName(), QSettings::IniFormat);
+    EXPECT_EQ(RecentFiles(settings).names(), QStringList{numbered(1)});
+}
+
+TEST_F(RecentFilesTest, ProgramsSideBySideKeepEachOthers)
+{
+    QSettings settings(m_settings.fileName(), QSettings::IniFormat);
+    RecentFiles other(settings);
+    m_recent.add(numbered(1));
+    other.add(numbered(2));
+    m_recent.add(numbered(3));
+
+    EXPECT_EQ(other.names(), (QStringList{numbered(3), numbered(2), numbered(1)}));
+}
+
+TEST_F(RecentFilesTest, OneCanBeTakenOut)
+{
+    m_recent.add(numbered(1));
+    m_recent.add(numbered(2));
+    m_recent.remove(numbered(2));
+
+    EXPECT_EQ(m_recent.names(), QStringList{numbered(1)});
+}
+
+TEST_F(RecentFilesTest, NonsenseIsPassedOver)
+{
+    store(QStringList{QString(), QStringLiteral("relative.dxf"),
+                      QStringLiteral("/a*b.dxf").replace(QLatin1Char('*'), QChar(0)),
+                      QString(100000, QLatin1Char('/')), numbered(1)});
+    EXPECT_EQ(m_recent.names(), QStringList{numbered(1)});
+
+    store(QByteArray("\xff\x00\x01", 3));
+    EXPECT_EQ(m_recent.names(), QStringList());
+
+    store(QVariantMap{{QStringLiteral("a"), 1}});
+    EXPECT_EQ(m_recent.names(), QStringList());
+
+    m_recent.add(numbered(2));
+    EXPECT_EQ(m_recent.names(), QStringList{numbered(2)});
+}
+
+TEST_F(RecentFilesTest, SettingsThatCannotBeWrittenDoNoHarm)
+{
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    const rlimit nothing{1, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &nothing), 0);
+
+    m_recent.add(numbered(1));
+
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(m_recent.names(), QStringList{numbered(1)});
+}
+
+TEST_F(RecentFilesTest, TheMenuOffersThem)
+{
+    m_recent.add(path(QStringLiteral("walls & doors.dxf")));
+    m_recent.add(numbered(1));
+    QSignalSpy chosen(&m_recent, &RecentFiles::chosen);
+
+    const QStringList texts = offered();
+    m_menu.actions().constFirst()->trigger();
+
+    EXPECT_EQ(texts.value(0), numbered(1));
+    EXPECT_EQ(texts.value(1), path(QStringLiteral("walls && doors.dxf")));
+    EXPECT_EQ(chosen.value(0).value(0).toString(), numbered(1));
+}
+
+TEST_F(RecentFilesTest, TheMenuClearsTheList)
+{
+    m_recent.add(numbered(1));
+    ASSERT_EQ(offered().constLast(), QStringLiteral("Clear List"));
+
+    m_menu.actions().constLast()->trigger();
+
+    EXPECT_EQ(m_recent.names(), QStringList());
+    EXPECT_EQ(offered().size(), 1);
+    EXPECT_FALSE(m_menu.actions().constFirst()->isEnabled());
+}
+
+} // namespace
