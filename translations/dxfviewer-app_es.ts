@@ -90,16 +90,8 @@
         <translation>&amp;Abrir…</translation>
     </message>
     <message>
-        <source>&amp;Save As…</source>
-        <translation>&amp;Guardar como…</translation>
-    </message>
-    <message>
         <source>The drawing cannot be opened.</source>
         <translation>No se puede abrir el dibujo.</translation>
-    </message>
-    <message>
-        <source>It cannot be read.</source>
-        <translation>No se puede leer.</translation>
     </message>
     <message>
         <source>Open</source>
@@ -125,16 +117,106 @@
         <source>The drawing cannot be saved.</source>
         <translation>No se puede guardar el dibujo.</translation>
     </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Abrir &amp;reciente</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Re&amp;cargar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar &amp;como…</translation>
+    </message>
+    <message>
+        <source>Another program has changed it since it was saved. These changes are lost.</source>
+        <translation>Otro programa lo ha modificado desde que se guardó. Esos cambios se perderán.</translation>
+    </message>
+    <message>
+        <source>What it holds now is lost.</source>
+        <translation>Su contenido actual se perderá.</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>Es el dibujo que se abrió. Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores de polilíneas individuales. En cuanto se borra algo, las polilíneas cerradas pierden su lado de cierre y los segmentos curvos se vuelven rectos.</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingRead</name>
+    <message>
+        <source>It cannot be read.</source>
+        <translation>No se puede leer.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the drawing.</source>
+        <translation>No hay memoria suficiente para el dibujo.</translation>
+    </message>
 </context>
 <context>
     <name>EditHistory</name>
     <message>
-        <source>Undo</source>
-        <translation>Deshacer</translation>
+        <source>The stroke was too long: its first part can no longer be undone.</source>
+        <translation>El trazo fue demasiado largo: su primera parte ya no se puede deshacer.</translation>
     </message>
     <message>
-        <source>Redo</source>
-        <translation>Rehacer</translation>
+        <source>The edits stay in the drawing, but they can no longer be undone.</source>
+        <translation>Los cambios permanecen en el dibujo, pero ya no se pueden deshacer.</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
+    <message>
+        <source>How to &amp;Erase</source>
+        <translation>Cómo &amp;borrar</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>How to Erase</source>
+        <translation>Cómo borrar</translation>
+    </message>
+    <message>
+        <source>Switch “Edit .dxf” on (Ctrl+E), hold the left button and sweep over the lines. What comes under the round eraser is erased, piece by piece: a piece reaches from one corner to the next.</source>
+        <translation>Active «Editar .dxf» (Ctrl+E), mantenga pulsado el botón izquierdo y pase por encima de las líneas. Lo que queda bajo la goma redonda se borra tramo a tramo: un tramo va de una esquina a la siguiente.</translation>
+    </message>
+    <message>
+        <source>Zoom in first where lines are close: the eraser has the same size at every zoom. Ctrl and the wheel zoom, the middle button moves the drawing.</source>
+        <translation>Donde las líneas estén juntas, amplíe primero: la goma tiene el mismo tamaño con cualquier ampliación. Ctrl y la rueda amplían, el botón central mueve el dibujo.</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z takes a whole stroke back, Ctrl+Y takes it up again.</source>
+        <translation>Ctrl+Z deshace un trazo entero, Ctrl+Y lo rehace.</translation>
+    </message>
+    <message>
+        <source>Escape ends erasing. The edits stay, but they can no longer be undone then.</source>
+        <translation>Escape termina el borrado. Los cambios permanecen, pero entonces ya no se pueden deshacer.</translation>
+    </message>
+    <message>
+        <source>Ctrl+S saves. The first time it asks for a name, so that the drawing that was opened stays as it is.</source>
+        <translation>Ctrl+S guarda. La primera vez pide un nombre, para que el dibujo abierto quede como está.</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Acerca de %1</translation>
+    </message>
+    <message>
+        <source>Views DXF drawings and erases parts of them.</source>
+        <translation>Muestra dibujos DXF y borra partes de ellos.</translation>
+    </message>
+    <message>
+        <source>Qt %1, dxflib %2</source>
+        <translation>Qt %1, dxflib %2</translation>
+    </message>
+    <message>
+        <source>Licence: GNU General Public License, version 2 or later. It comes without any warranty.</source>
+        <translation>Licencia: GNU General Public License, versión 2 o posterior. El programa se ofrece sin ninguna garantía.</translation>
     </message>
 </context>
 <context>
@@ -162,6 +244,18 @@
     <message>
         <source>No drawing</source>
         <translation>Sin dibujo</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>Im&amp;primir…</translation>
+    </message>
+    <message>
+        <source>Print Pre&amp;view…</source>
+        <translation>&amp;Vista previa de impresión…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
     </message>
 </context>
 <context>
@@ -195,26 +289,70 @@
     </message>
 </context>
 <context>
+    <name>Printing</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>The drawing cannot be printed.</source>
+        <translation>No se puede imprimir el dibujo.</translation>
+    </message>
+    <message>
+        <source>The printer does not take it.</source>
+        <translation>La impresora no lo acepta.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>No se puede escribir %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be written to its end. The disk may be full.</source>
+        <translation>%1 no se pudo escribir hasta el final. Puede que el disco esté lleno.</translation>
+    </message>
+</context>
+<context>
     <name>Questions</name>
     <message>
         <source>Save the edited drawing?</source>
         <translation>¿Guardar el dibujo editado?</translation>
     </message>
     <message>
-        <source>Replace the drawing that was opened?</source>
-        <translation>¿Reemplazar el dibujo abierto?</translation>
-    </message>
-    <message>
-        <source>%1
-
-Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>%1
-
-Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores propios de cada polilínea. Una vez que se ha borrado algo, las polilíneas cerradas pierden su segmento de cierre y los arcos de las polilíneas se vuelven rectos.</translation>
-    </message>
-    <message>
         <source>Replace</source>
         <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>¿Reemplazar el archivo?</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingBar</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>Leyendo %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFiles</name>
+    <message>
+        <source>No drawing was opened yet</source>
+        <translation>Aún no se ha abierto ningún dibujo</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>Borrar la lista</translation>
+    </message>
+</context>
+<context>
+    <name>StrokeHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
     </message>
 </context>
 </TS>

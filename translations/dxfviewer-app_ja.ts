@@ -90,16 +90,8 @@
         <translation>開く(&amp;O)…</translation>
     </message>
     <message>
-        <source>&amp;Save As…</source>
-        <translation>名前を付けて保存(&amp;S)…</translation>
-    </message>
-    <message>
         <source>The drawing cannot be opened.</source>
         <translation>図面を開けません。</translation>
-    </message>
-    <message>
-        <source>It cannot be read.</source>
-        <translation>読み込めません。</translation>
     </message>
     <message>
         <source>Open</source>
@@ -125,16 +117,106 @@
         <source>The drawing cannot be saved.</source>
         <translation>図面を保存できません。</translation>
     </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近使ったファイル(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>再読み込み(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Another program has changed it since it was saved. These changes are lost.</source>
+        <translation>保存した後に別のプログラムが変更しました。その変更は失われます。</translation>
+    </message>
+    <message>
+        <source>What it holds now is lost.</source>
+        <translation>現在の内容は失われます。</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>開いた図面そのものです。保存されるのは画層、線種、ポリラインだけです。ファイルの他の内容(線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色)は失われます。何かを消すと、閉じたポリラインは閉じる辺を失い、ふくらみは直線になります。</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingRead</name>
+    <message>
+        <source>It cannot be read.</source>
+        <translation>読み込めません。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the drawing.</source>
+        <translation>図面のためのメモリが足りません。</translation>
+    </message>
 </context>
 <context>
     <name>EditHistory</name>
     <message>
-        <source>Undo</source>
-        <translation>元に戻す</translation>
+        <source>The stroke was too long: its first part can no longer be undone.</source>
+        <translation>ストロークが長すぎました。最初の部分は元に戻せません。</translation>
     </message>
     <message>
-        <source>Redo</source>
-        <translation>やり直す</translation>
+        <source>The edits stay in the drawing, but they can no longer be undone.</source>
+        <translation>編集内容は図面に残りますが、元に戻すことはできません。</translation>
+    </message>
+</context>
+<context>
+    <name>HelpMenu</name>
+    <message>
+        <source>How to &amp;Erase</source>
+        <translation>消し方(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>このアプリケーションについて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>How to Erase</source>
+        <translation>消し方</translation>
+    </message>
+    <message>
+        <source>Switch “Edit .dxf” on (Ctrl+E), hold the left button and sweep over the lines. What comes under the round eraser is erased, piece by piece: a piece reaches from one corner to the next.</source>
+        <translation>「.dxf を編集」をオンにし(Ctrl+E)、左ボタンを押したまま線の上をなぞります。丸い消しゴムの下に入ったものが一区間ずつ消えます。一区間は角から次の角までです。</translation>
+    </message>
+    <message>
+        <source>Zoom in first where lines are close: the eraser has the same size at every zoom. Ctrl and the wheel zoom, the middle button moves the drawing.</source>
+        <translation>線が込み入った所では先に拡大してください。消しゴムの大きさはどの倍率でも同じです。Ctrl とホイールで拡大・縮小し、中ボタンで図面を動かします。</translation>
+    </message>
+    <message>
+        <source>Ctrl+Z takes a whole stroke back, Ctrl+Y takes it up again.</source>
+        <translation>Ctrl+Z で一回のストローク全体を元に戻し、Ctrl+Y でやり直します。</translation>
+    </message>
+    <message>
+        <source>Escape ends erasing. The edits stay, but they can no longer be undone then.</source>
+        <translation>Esc で消去を終えます。編集内容は残りますが、以後は元に戻せません。</translation>
+    </message>
+    <message>
+        <source>Ctrl+S saves. The first time it asks for a name, so that the drawing that was opened stays as it is.</source>
+        <translation>Ctrl+S で保存します。初回は名前を尋ねるので、開いた図面はそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>%1 について</translation>
+    </message>
+    <message>
+        <source>Views DXF drawings and erases parts of them.</source>
+        <translation>DXF 図面を表示し、その一部を消去します。</translation>
+    </message>
+    <message>
+        <source>Qt %1, dxflib %2</source>
+        <translation>Qt %1, dxflib %2</translation>
+    </message>
+    <message>
+        <source>Licence: GNU General Public License, version 2 or later. It comes without any warranty.</source>
+        <translation>ライセンス: GNU General Public License バージョン 2 以降。いかなる保証もありません。</translation>
     </message>
 </context>
 <context>
@@ -162,6 +244,18 @@
     <message>
         <source>No drawing</source>
         <translation>図面なし</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>印刷(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Print Pre&amp;view…</source>
+        <translation>印刷プレビュー(&amp;V)…</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -195,26 +289,70 @@
     </message>
 </context>
 <context>
+    <name>Printing</name>
+    <message>
+        <source>Print</source>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>The drawing cannot be printed.</source>
+        <translation>図面を印刷できません。</translation>
+    </message>
+    <message>
+        <source>The printer does not take it.</source>
+        <translation>プリンターが受け付けません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 に書き込めません。</translation>
+    </message>
+    <message>
+        <source>%1 could not be written to its end. The disk may be full.</source>
+        <translation>%1 を最後まで書き込めませんでした。ディスクがいっぱいかもしれません。</translation>
+    </message>
+</context>
+<context>
     <name>Questions</name>
     <message>
         <source>Save the edited drawing?</source>
         <translation>編集した図面を保存しますか？</translation>
     </message>
     <message>
-        <source>Replace the drawing that was opened?</source>
-        <translation>開いた図面を置き換えますか？</translation>
-    </message>
-    <message>
-        <source>%1
-
-Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>%1
-
-保存されるのは画層、線種、ポリラインだけです。ファイル内のそれ以外のもの（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。一度でも消去すると、閉じたポリラインでは閉じる線分が失われ、ポリラインの円弧部分は直線になります。</translation>
-    </message>
-    <message>
         <source>Replace</source>
         <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Replace the file?</source>
+        <translation>ファイルを置き換えますか?</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingBar</name>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 を読み込み中</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFiles</name>
+    <message>
+        <source>No drawing was opened yet</source>
+        <translation>まだ図面を開いていません</translation>
+    </message>
+    <message>
+        <source>Clear List</source>
+        <translation>リストを消去</translation>
+    </message>
+</context>
+<context>
+    <name>StrokeHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
     </message>
 </context>
 </TS>
