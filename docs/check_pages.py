@@ -5,9 +5,9 @@ usage: docs/check_pages.py [--update]
 
 A block of code on a page follows a comment that names its source:
 
-    <!-- from docs/snippets/embedding.cpp: first window -->
+    <!-- from docs/snippets/Save.cpp: save -->
 
-In the source, the region stands between two lines that end in [first window]. Without a region the
+In the source, the region stands between two lines that end in [save]. Without a region the
 whole file is meant. --update copies the code to the pages.
 """
 
@@ -24,6 +24,7 @@ BLOCK = re.compile(
     r"(?:<!-- from (?P<file>[^:\s]+)(?:: (?P<region>[^>]+?))? -->\n)?"
     r"^```(?P<language>\w*)\n(?P<code>.*?)^```$", re.MULTILINE | re.DOTALL)
 LINK = re.compile(r"\]\((?!\w+:)([^)#\s]+)")
+HEADERS = re.compile(r"set\(public_headers\n(.*?)\)", re.DOTALL)
 
 
 def source_of(name, region):
@@ -50,6 +51,17 @@ def problems_of(page, text):
             yield f"{page}: {link[1]} does not exist"
 
 
+def missing_headers():
+    """The public headers that the table of the interface leaves out, or lists in vain."""
+    source = (ROOT / "dxfviewer/CMakeLists.txt").read_text(encoding="utf-8")
+    public = set(HEADERS.search(source)[1].split())
+    page = (ROOT / "docs/interface.md").read_text(encoding="utf-8")
+    listed = set(re.findall(r"^\| `(\S+\.h)` \|", page, re.MULTILINE))
+    for header in sorted(public ^ listed):
+        where = "does not list" if header in public else "lists a header that is not public:"
+        yield f"docs/interface.md {where} {header}"
+
+
 def updated(text):
     def renew(block):
         if not block["file"]:
@@ -62,7 +74,7 @@ def updated(text):
 
 
 def main():
-    pages = sorted({*ROOT.glob("*.md"), *ROOT.glob("docs/**/*.md"), *ROOT.glob("examples/**/*.md")})
+    pages = sorted({*ROOT.glob("*.md"), *ROOT.glob("docs/**/*.md")})
     status = 0
     for path in pages:
         if "--update" in sys.argv[1:]:
@@ -70,6 +82,9 @@ def main():
         for problem in problems_of(path.relative_to(ROOT), path.read_text(encoding="utf-8")):
             print(problem, file=sys.stderr)
             status = 1
+    for problem in missing_headers():
+        print(problem, file=sys.stderr)
+        status = 1
     return status
 
 

@@ -12,6 +12,7 @@ class QUndoStack;
 // The code on the page for hosts, and what the tests need of it.
 
 bool isShowable(const QByteArray& text);
+bool showEverything(DXFViewer& viewer, const QString& fileName, QStringList& skipped);
 bool save(DXFViewer& viewer, const QString& fileName);
 QUndoStack* editStack(const DXFViewer& viewer);
 void addEditActions(DXFViewer& viewer, QMenu& menu);

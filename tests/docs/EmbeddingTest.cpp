@@ -20,6 +20,7 @@ namespace
 {
 
 using ::testing::Contains;
+using ::testing::ElementsAre;
 
 const QByteArray drawing = QByteArrayLiteral("0\nSECTION\n2\nENTITIES\n"
                                              "0\nPOLYLINE\n8\n0\n66\n1\n"
@@ -46,6 +47,25 @@ TEST_F(EmbeddingTest, TellsADrawingFromAnotherText)
 {
     EXPECT_TRUE(isShowable(drawing));
     EXPECT_FALSE(isShowable(QByteArray("no drawing")));
+}
+
+TEST_F(EmbeddingTest, ShowsWhatTheWindowItselfLeavesOut)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("line.dxf"));
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0\nSECTION\n2\nENTITIES\n"
+               "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n0\n"
+               "0\nRAY\n8\n0\n10\n0\n20\n0\n11\n1\n21\n0\n"
+               "0\nENDSEC\n0\nEOF\n");
+    file.close();
+    QStringList skipped;
+
+    ASSERT_TRUE(showEverything(m_viewer, name, skipped));
+
+    EXPECT_TRUE(m_viewer.getData().contains("POLYLINE"));
+    EXPECT_THAT(skipped, ElementsAre(QStringLiteral("RAY")));
 }
 
 TEST_F(EmbeddingTest, SavesWhatTheWindowHolds)

@@ -26,5 +26,6 @@ if [ ! -f "$translations/dxfviewer_de.qm" ]; then
 fi
 
 # shellcheck disable=SC2046 # the flags are many words
-"$compiler" -std=c++17 -fPIC "$source" -o "$program" $(pkg-config --cflags --libs "$package")
-LD_LIBRARY_PATH="$folder" "$program"
+"$compiler" -std=c++17 -fPIC "$source" -o "$program" $(pkg-config --cflags --libs "$package") \
+    -Wl,-rpath,"$folder"
+"$program"
