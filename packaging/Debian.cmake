@@ -4,10 +4,12 @@
 set(library_package libdxfviewer${PROJECT_VERSION_MAJOR})
 set(development_package libdxfviewer-dev)
 set(qt_development_package qtbase5-dev)
+set(qt_translations_package qttranslations5-l10n)
 if(DXFVIEWER_QT_SUFFIX)
     set(library_package libdxfviewer${DXFVIEWER_QT_SUFFIX}-${PROJECT_VERSION_MAJOR})
     set(development_package libdxfviewer${DXFVIEWER_QT_SUFFIX}-dev)
     set(qt_development_package qt${DXFVIEWER_QT_MAJOR}-base-dev)
+    set(qt_translations_package qt${DXFVIEWER_QT_MAJOR}-translations-l10n)
 endif()
 set(app_package dxfviewer${DXFVIEWER_QT_SUFFIX})
 
@@ -68,6 +70,8 @@ ${about}")
 set(CPACK_DEBIAN_APP_PACKAGE_NAME ${app_package})
 set(CPACK_DEBIAN_APP_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_APP_PACKAGE_DEPENDS "${library_package} ${this_version}")
+# Without Qt's own texts, boxes are half English.
+set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS "${qt_translations_package}")
 set(CPACK_DEBIAN_APP_DESCRIPTION
 "viewer and eraser for DXF drawings (Qt ${DXFVIEWER_QT_MAJOR})
 This program opens drawings in the DXF format, shows them, and lets the user

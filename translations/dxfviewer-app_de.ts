@@ -131,7 +131,7 @@
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation>Speichern &amp;unter…</translation>
+        <translation>Speichern &amp;unter …</translation>
     </message>
     <message>
         <source>Another program has changed it since it was saved. These changes are lost.</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>Es ist die geöffnete Zeichnung. Gespeichert werden nur Layer, Linientypen und Polylinien. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihre schließende Kante, und Bogensegmente werden gerade.</translation>
+        <translation>Das ist die geöffnete Zeichnung. Gespeichert werden nur Layer, Linientypen und Polylinien. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihr schließendes Segment, und Bogensegmente werden gerade.</translation>
     </message>
 </context>
 <context>
@@ -247,11 +247,11 @@
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation>&amp;Drucken…</translation>
+        <translation>&amp;Drucken …</translation>
     </message>
     <message>
         <source>Print Pre&amp;view…</source>
-        <translation>Druck&amp;vorschau…</translation>
+        <translation>Druck&amp;vorschau …</translation>
     </message>
     <message>
         <source>&amp;Help</source>

@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>Es el dibujo que se abrió. Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores de polilíneas individuales. En cuanto se borra algo, las polilíneas cerradas pierden su lado de cierre y los segmentos curvos se vuelven rectos.</translation>
+        <translation>Es el dibujo abierto. Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores propios de cada polilínea. En cuanto se borra algo, las polilíneas cerradas pierden su segmento de cierre y los segmentos curvos se vuelven rectos.</translation>
     </message>
 </context>
 <context>

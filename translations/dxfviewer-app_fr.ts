@@ -143,14 +143,14 @@
     </message>
     <message>
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>C’est le dessin qui a été ouvert. Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs propres aux polylignes. Dès que quelque chose est effacé, les polylignes fermées perdent leur côté de fermeture et les segments courbes deviennent droits.</translation>
+        <translation>C’est le dessin qui a été ouvert. Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs propres à chaque polyligne. Dès que quelque chose est effacé, les polylignes fermées perdent leur segment de fermeture et les segments courbes deviennent droits.</translation>
     </message>
 </context>
 <context>
     <name>DrawingRead</name>
     <message>
         <source>It cannot be read.</source>
-        <translation>Il est illisible.</translation>
+        <translation>Impossible de le lire.</translation>
     </message>
     <message>
         <source>There is not enough memory for the drawing.</source>
@@ -296,7 +296,7 @@
     </message>
     <message>
         <source>The drawing cannot be printed.</source>
-        <translation>Le dessin ne peut pas être imprimé.</translation>
+        <translation>Impossible d’imprimer le dessin.</translation>
     </message>
     <message>
         <source>The printer does not take it.</source>
@@ -304,7 +304,7 @@
     </message>
     <message>
         <source>%1 cannot be written.</source>
-        <translation>%1 ne peut pas être écrit.</translation>
+        <translation>Impossible d’écrire %1.</translation>
     </message>
     <message>
         <source>%1 could not be written to its end. The disk may be full.</source>

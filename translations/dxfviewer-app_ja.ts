@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>開いた図面そのものです。保存されるのは画層、線種、ポリラインだけです。ファイルの他の内容(線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色)は失われます。何かを消すと、閉じたポリラインは閉じる辺を失い、ふくらみは直線になります。</translation>
+        <translation>開いた図面そのものです。保存されるのは画層、線種、ポリラインだけです。ファイルの他の内容（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。何かを消すと、閉じたポリラインでは閉じる線分が失われ、ポリラインの円弧部分は直線になります。</translation>
     </message>
 </context>
 <context>
@@ -154,7 +154,7 @@
     </message>
     <message>
         <source>There is not enough memory for the drawing.</source>
-        <translation>図面のためのメモリが足りません。</translation>
+        <translation>メモリ不足のため図面を読み込めません。</translation>
     </message>
 </context>
 <context>
@@ -323,7 +323,7 @@
     </message>
     <message>
         <source>Replace the file?</source>
-        <translation>ファイルを置き換えますか?</translation>
+        <translation>ファイルを置き換えますか？</translation>
     </message>
 </context>
 <context>

@@ -143,14 +143,14 @@
     </message>
     <message>
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>Это открытый чертёж. Сохраняются только слои, типы линий и полилинии. Всё остальное содержимое файла теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающее ребро, а дуговые сегменты становятся прямыми.</translation>
+        <translation>Это открытый чертёж. Сохраняются только слои, типы линий и полилинии. Всё остальное содержимое файла теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающий сегмент, а дуговые сегменты становятся прямыми.</translation>
     </message>
 </context>
 <context>
     <name>DrawingRead</name>
     <message>
         <source>It cannot be read.</source>
-        <translation>Его невозможно прочитать.</translation>
+        <translation>Не удаётся прочитать чертёж.</translation>
     </message>
     <message>
         <source>There is not enough memory for the drawing.</source>
