@@ -18,7 +18,7 @@ namespace
 {
 
 // Long enough that the reader can be met in the middle.
-constexpr int manyPolylines = 60000;
+constexpr int manyPolylines = 150000;
 
 QByteArray drawingOf(int polylines)
 {
@@ -58,9 +58,18 @@ protected:
     {
         return dxftest::eventually([this] { return !m_finished.isEmpty(); });
     }
-    bool waitForTheMiddle()
+
+    /// Begins to read a large drawing, and comes back in the middle of that. On a machine that has
+    /// other things to do, the end may come first: then it begins anew.
+    bool readToTheMiddle()
     {
-        return dxftest::eventually([this] {
+        const QString fileName = largeFile();
+        return dxftest::eventually([&] {
+            if (!m_reader.isReading()) {
+                m_shares.clear();
+                m_finished.clear();
+                m_reader.read(fileName);
+            }
             return !m_shares.isEmpty() && m_shares.constLast() > 0.0 && m_shares.constLast() < 1.0;
         });
     }
@@ -89,8 +98,7 @@ TEST_F(BackgroundReaderTest, ReadsADrawing)
 
 TEST_F(BackgroundReaderTest, TellsHowMuchHasBeenRead)
 {
-    m_reader.read(largeFile());
-    ASSERT_TRUE(waitForTheMiddle());
+    ASSERT_TRUE(readToTheMiddle());
     ASSERT_TRUE(waitForEnd());
 
     EXPECT_TRUE(std::is_sorted(m_shares.cbegin(), m_shares.cend()));
@@ -109,8 +117,7 @@ TEST_F(BackgroundReaderTest, SaysWhyAFileCannotBeRead)
 
 TEST_F(BackgroundReaderTest, WhatIsCancelledIsNotHeardOfAgain)
 {
-    m_reader.read(largeFile());
-    ASSERT_TRUE(waitForTheMiddle());
+    ASSERT_TRUE(readToTheMiddle());
 
     m_reader.cancel();
     EXPECT_FALSE(m_reader.isReading());
@@ -127,8 +134,7 @@ TEST_F(BackgroundReaderTest, WhatIsCancelledIsNotHeardOfAgain)
 
 TEST_F(BackgroundReaderTest, TheSecondTakesThePlaceOfTheFirst)
 {
-    m_reader.read(largeFile());
-    ASSERT_TRUE(waitForTheMiddle());
+    ASSERT_TRUE(readToTheMiddle());
 
     const QString second = smallFile();
     m_reader.read(second);
@@ -152,15 +158,12 @@ TEST_F(BackgroundReaderTest, CancelWithoutAReadDoesNothing)
 TEST_F(BackgroundReaderTest, AReaderThatGoesEndsItsRead)
 {
     auto reader = std::make_unique<BackgroundReader>();
-    bool isMiddle = false;
-    QObject::connect(reader.get(), &BackgroundReader::progressed,
-                     [&isMiddle](double share) { isMiddle = share > 0.0; });
     QObject::connect(reader.get(), &BackgroundReader::finished,
                      [] { ADD_FAILURE() << "nobody waits for this"; });
     reader->read(largeFile());
-    ASSERT_TRUE(dxftest::eventually([&isMiddle] { return isMiddle; }));
 
     reader.reset();
+    QCoreApplication::processEvents();
 }
 
 /// Above all for the sanitizers.

@@ -20,7 +20,7 @@ namespace
 {
 
 // Long enough that the reader can be met in the middle.
-constexpr int manyPolylines = 60000;
+constexpr int manyPolylines = 150000;
 
 class ReadingBarTest : public dxftest::LoggedTest
 {
@@ -35,16 +35,25 @@ protected:
         file.write("0\nSECTION\n2\nENTITIES\n");
         file.write(
             QByteArray("0\nLWPOLYLINE\n8\n0\n90\n1\n10\n0\n20\n0\n").repeated(manyPolylines));
-        m_reader.read(file.fileName());
+        m_fileName = file.fileName();
     }
 
     int value() const { return m_bar->findChild<QProgressBar*>()->value(); }
-    bool waitForTheMiddle()
+    /// Begins to read, and comes back when the bar shows that. On a machine that has other things
+    /// to do, the end may come first: then it begins anew.
+    bool readToTheMiddle()
     {
-        return dxftest::eventually([this] { return m_bar->isVisible() && value() > 0; });
+        return dxftest::eventually([this] {
+            if (!m_reader.isReading()) {
+                m_reader.read(m_fileName);
+                EXPECT_FALSE(m_bar->isVisible());
+            }
+            return m_bar->isVisible() && value() > 0;
+        });
     }
 
     const QTemporaryDir m_folder;
+    QString m_fileName;
     BackgroundReader m_reader;
     QMainWindow m_window;
     ReadingBar* m_bar = new ReadingBar(m_reader);
@@ -53,7 +62,7 @@ protected:
 TEST_F(ReadingBarTest, ShowsWhatIsReadAndHowFarItIs)
 {
     EXPECT_FALSE(m_bar->isVisible());
-    ASSERT_TRUE(waitForTheMiddle());
+    ASSERT_TRUE(readToTheMiddle());
 
     EXPECT_LE(value(), 100);
     EXPECT_EQ(m_bar->findChild<QLabel*>()->text(), QStringLiteral("Reading large.dxf"));
@@ -63,7 +72,7 @@ TEST_F(ReadingBarTest, ShowsWhatIsReadAndHowFarItIs)
 
 TEST_F(ReadingBarTest, TheButtonCallsTheReadOff)
 {
-    ASSERT_TRUE(waitForTheMiddle());
+    ASSERT_TRUE(readToTheMiddle());
 
     QTest::mouseClick(m_bar->findChild<QAbstractButton*>(), Qt::LeftButton);
 
