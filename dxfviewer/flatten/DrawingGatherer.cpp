@@ -5,6 +5,7 @@
 #include "dxfviewer/flatten/Curves.h"
 #include "dxfviewer/flatten/EntityShapes.h"
 #include "dxfviewer/flatten/InsertRecord.h"
+#include "dxfviewer/flatten/TextShapes.h"
 
 #include <algorithm>
 #include <array>
@@ -62,6 +63,8 @@ DrawingGatherer::DrawingGatherer(const FlatteningOptions& options)
     : m_options(options)
     , m_longestStep(longestStepOf(options))
 {
+    if (m_options.showsTexts && TextOutlines::areAvailable())
+        m_outlines.emplace(m_options.fontFamily);
 }
 
 bool DrawingGatherer::takeGroup(int code, std::string_view value)
@@ -179,7 +182,7 @@ void DrawingGatherer::addEntity()
         return;
     }
     addShapes(kind, look, [this](Chains& chains, const Fineness& fineness) {
-        return appendEntity(chains, m_record, fineness);
+        return append(chains, fineness);
     });
 }
 
@@ -219,6 +222,13 @@ void DrawingGatherer::addShapes(std::size_t kind, std::size_t look, Append appen
         ++block().shown[kind];
     m_pointCount += after.points - before.points;
     m_isTooLarge = m_isTooLarge || m_pointCount > most;
+}
+
+/// Appends the chains of the record. False if it is not shown.
+bool DrawingGatherer::append(Chains& chains, const Fineness& fineness) const
+{
+    return m_outlines && isText(m_record) ? appendText(chains, m_record, fineness, *m_outlines)
+                                          : appendEntity(chains, m_record, fineness);
 }
 
 /// In a block the flag of paper space means nothing: the block is shown where it is inserted.

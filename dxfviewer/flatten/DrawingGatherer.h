@@ -7,6 +7,7 @@
 #include "dxfviewer/flatten/FlatteningOptions.h"
 #include "dxfviewer/flatten/PolylineShapes.h"
 #include "dxfviewer/flatten/Record.h"
+#include "dxfviewer/flatten/TextOutlines.h"
 
 #include <cstddef>
 #include <optional>
@@ -56,12 +57,15 @@ private:
     void addInsert(std::size_t kind, std::size_t look);
     template <typename Append>
     void addShapes(std::size_t kind, std::size_t look, Append append);
+    bool append(Chains& chains, const Fineness& fineness) const;
     bool isShown(const Appearance& appearance) const;
     void skip(std::size_t kind);
     Block& block() { return m_drawing.block(m_block); }
 
     FlatteningOptions m_options;
     double m_longestStep;
+    /// Nothing if texts are not shown.
+    std::optional<TextOutlines> m_outlines;
     Drawing m_drawing;
     Section m_section = Section::None;
     bool m_awaitsSectionName = false;

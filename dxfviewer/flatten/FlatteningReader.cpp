@@ -4,10 +4,12 @@
 
 #include "dxfviewer/flatten/DocumentFiller.h"
 #include "dxfviewer/flatten/DrawingGatherer.h"
+#include "dxfviewer/flatten/DrawingText.h"
 
 #include <QDebug>
 
 #include <algorithm>
+#include <limits>
 
 FlatteningReader::FlatteningReader(DXFDocument& document, const FlatteningOptions& options)
     : DXFReader(document)
@@ -23,9 +25,8 @@ FlatteningReader::~FlatteningReader() = default;
 
 std::optional<std::string> FlatteningReader::textOf(std::string_view bytes)
 {
-    Q_UNUSED(bytes)
     m_gatherer = std::make_unique<dxfviewer::DrawingGatherer>(m_options);
-    return std::nullopt;
+    return dxfviewer::utf8TextOf(bytes);
 }
 
 bool FlatteningReader::takesGroup(int code, std::string_view value)

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QtGlobal>
+
+#include <string>
+#include <string_view>
+
+namespace dxfviewer
+{
+
+/// How a drawing that is not UTF-8 writes its texts.
+class CodePage
+{
+public:
+    /// @param name  as drawings write it ("ANSI_1252"). One that nobody knows is taken for that of
+    ///              western Europe.
+    explicit CodePage(std::string_view name);
+    ~CodePage();
+
+    /// A line in UTF-8. Bytes that the code page does not define become characters of their own, so
+    /// that different texts stay different.
+    std::string toUtf8(std::string_view line) const;
+
+private:
+    Q_DISABLE_COPY(CodePage)
+
+    // A descriptor of iconv.
+    void* m_converter;
+};
+
+/// Whether a text is sound UTF-8, as plain ASCII is.
+bool isUtf8(std::string_view text);
+
+/// Appends a character.
+void appendUtf8(std::string& text, char32_t character);
+
+} // namespace dxfviewer

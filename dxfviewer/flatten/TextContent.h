@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace dxfviewer
+{
+
+class Record;
+
+/// What is to be read of a text on a drawing, line by line, without the codes that format it.
+/// @{
+QString lineOfText(const Record& record);
+QStringList linesOfParagraphs(const Record& record);
+/// @}
+
+} // namespace dxfviewer
