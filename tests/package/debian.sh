@@ -66,6 +66,11 @@ done
 dpkg-deb --info "$build/packages/${library}_"*.deb symbols |
     grep -q '^ _ZN9DXFViewerC1E.*@Base 0\.1\.0$' || fail "$library does not list its symbols"
 
+# Two major versions of the library can be installed: every file says whose it is.
+dpkg-deb --fsys-tarfile "$build/packages/${library}_"*.deb | tar -t | grep -v '/$' |
+    grep -vE "/$library(/|\$)|\.so\.0|/dxfviewer$suffix/0/" &&
+    fail "$library has files that another version would have as well"
+
 # What is left is explained in packaging/debian.
 run_if_there lintian --allow-root --pedantic --display-info \
     --fail-on error --fail-on warning --fail-on info --fail-on pedantic "$build"/packages/*.deb
