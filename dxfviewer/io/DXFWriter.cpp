@@ -12,6 +12,9 @@
 #include <QDebug>
 #include <QTemporaryFile>
 
+#include <algorithm>
+#include <string>
+
 #include <dl_dxf.h>
 
 using dxfviewer::GroupWriter;
@@ -52,12 +55,27 @@ QSharedPointer<DXFLayer> defaultLayer()
     return layer;
 }
 
-/// dxflib reads as many dashes as the record says, wherever its pattern points.
+char upperCase(char c)
+{
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+bool isContinuous(std::string name)
+{
+    std::transform(name.begin(), name.end(), name.begin(), upperCase);
+    return name == "CONTINUOUS";
+}
+
+/// dxflib reads as many dashes as the record says, wherever its pattern points. It has a form of
+/// its own for continuous lines, and asks the locale whether a name is theirs: a Turkish one says
+/// no to small letters. So the record is given that form here.
 DL_LinetypeData writableRecord(const QSharedPointer<DXFLineType>& lineType)
 {
     DL_LinetypeData record = DXFAdapter::makeLineType(lineType);
     if (!record.pattern || record.numberOfDashes < 0)
         record.numberOfDashes = 0;
+    if (isContinuous(record.name))
+        return {record.name, "Solid line", record.flags, 0, 0.0};
     return record;
 }
 
@@ -118,13 +136,13 @@ bool DXFWriter::write(const QString& fileName)
     const QByteArray localName = fileName.toLocal8Bit();
     m_parser = std::make_unique<DL_Dxf>();
     // Only this makes the parser object write the right version, and it tells whether the file can
-    // be written at all. Its writer is replaced by ours.
+    // be written at all. Its writer is replaced by ours, and goes when ours is open: who reads from
+    // a pipe takes it for the end when nobody writes to it.
     m_writer.reset(m_parser->out(localName.constData(), fileVersion));
     if (!m_writer) {
         logCannotOpen(fileName);
         return false;
     }
-    m_writer.reset();
 
     auto writer = std::make_unique<GroupWriter>(localName.constData(), fileVersion);
     GroupWriter& file = *writer;

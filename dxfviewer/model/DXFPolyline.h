@@ -57,7 +57,8 @@ public:
     unsigned int flags() const { return m_flags; }
     bool isClosed() const;
 
-    /// Adds a vertex at the end. Segments that exist already do not follow.
+    /// Adds a vertex at the end. The segments follow only while a setup() is due: before the first
+    /// one, and after setSegments().
     void appendPoint(const DXFVertex& vertex);
 
     /// The segments as they are now; empty before the first setup(). Copying them is cheap.

@@ -33,6 +33,8 @@ public:
     void setDocument(QSharedPointer<DXFDocument> document);
 
     /// Computes the bounding rectangle again, without repainting. Warns if there is no document.
+    /// The scene is not told, and its index may still point at the item after that is removed and
+    /// destroyed: for an item in a scene call setDocument(document()) instead.
     void refresh();
 
     /// Draws every segment with exactly this pen from now on, whatever its entity or state.

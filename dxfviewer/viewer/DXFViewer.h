@@ -41,7 +41,8 @@ public:
      *
      * The view is fitted to the drawing at that moment, once: show the window first. On failure
      * the reason goes to the debug channel and the picture stays, while getData() returns what
-     * was read.
+     * was read. A drawing that was loaded before and is not shown yet is lost by that: what is
+     * shown when its 5 ms are over is the document of the load that failed.
      */
     void loadData(const QString& fileName);
     /// The same from the text of a DXF file, up to its first zero byte.

@@ -15,15 +15,23 @@
 #include "tests/support/LoggedTest.h"
 #include "tests/support/OtherEntity.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #if __has_include(<QTextCodec>)
 #include <QTextCodec>
 #endif
 
+#include <array>
+#include <cctype>
+#include <clocale>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <future>
+#include <iterator>
 #include <memory>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <dl_dxf.h>
 
@@ -485,6 +493,85 @@ TEST_F(DXFWriterTest, LocaleHasNoSay)
 
         EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "ps_AF.UTF-8");
         EXPECT_EQ(std::locale().name(), name);
+    }
+}
+
+/// A locale in which the capital of i is another letter, in force while this lives. Only an
+/// encoding of single bytes shows that.
+class TurkishLetters
+{
+public:
+    TurkishLetters()
+        : m_before(std::setlocale(LC_ALL, nullptr))
+    {
+        QProcess localedef;
+        localedef.start(QStringLiteral("localedef"),
+                        {QStringLiteral("-i"), QStringLiteral("tr_TR"), QStringLiteral("-f"),
+                         QStringLiteral("ISO-8859-9"),
+                         m_folder.filePath(QStringLiteral("tr_TR.ISO-8859-9"))});
+        m_hasLocaledef = localedef.waitForStarted(-1);
+        if (!m_hasLocaledef)
+            return;
+        localedef.waitForFinished(-1);
+        qputenv("LOCPATH", m_folder.path().toLocal8Bit());
+        EXPECT_NE(std::setlocale(LC_ALL, "tr_TR.ISO-8859-9"), nullptr);
+        EXPECT_NE(std::toupper('i'), 'I');
+    }
+    ~TurkishLetters()
+    {
+        std::setlocale(LC_ALL, m_before.c_str());
+        qunsetenv("LOCPATH");
+    }
+
+    bool areAvailable() const { return m_hasLocaledef; }
+
+private:
+    Q_DISABLE_COPY(TurkishLetters)
+
+    QTemporaryDir m_folder;
+    std::string m_before;
+    bool m_hasLocaledef = false;
+};
+
+TEST_F(DXFWriterTest, TurkishLettersHaveNoSay)
+{
+    std::array<double, 2> pattern{0.5, -0.25};
+    for (const char* name : {"Continuous", "ByLayer", "byblock", "tightline"})
+        addLineType(name, 2, pattern.data());
+    const std::string elsewhere = saved();
+
+    const TurkishLetters letters;
+    if (!letters.areAvailable())
+        GTEST_SKIP() << "there is no localedef";
+
+    EXPECT_EQ(saved(), elsewhere);
+}
+
+/// Reads from a pipe until nobody writes to it any more. If that comes too early, the rest is read
+/// as well, so that the writer does not wait for ever.
+std::string readPipe(const std::string& name)
+{
+    const auto untilEnd = [&name] {
+        std::ifstream pipe(name);
+        return std::string(std::istreambuf_iterator<char>(pipe), {});
+    };
+    std::string text = untilEnd();
+    if (text.empty())
+        untilEnd();
+    return text;
+}
+
+TEST_F(DXFWriterTest, PipeIsWrittenInOnePiece)
+{
+    addManyPolylines(100);
+    const std::string expected = saved();
+    const QByteArray name = folder.filePath(QStringLiteral("pipe")).toLocal8Bit();
+    ASSERT_EQ(mkfifo(name.constData(), S_IRUSR | S_IWUSR), 0);
+
+    for (int i = 0; i < 20; ++i) {
+        auto text = std::async(std::launch::async, readPipe, name.toStdString());
+        DXFWriter(document).save(QFile::decodeName(name));
+        ASSERT_EQ(text.get(), expected) << i;
     }
 }
 
