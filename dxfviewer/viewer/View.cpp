@@ -5,6 +5,7 @@
 #include <QDebug>
 #include <QGraphicsScene>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -84,7 +85,11 @@ View::~View() = default;
 void View::zoomCalc(int scaleIncrement)
 {
     if (qFuzzyCompare(m_zoomLevel, 0.0)) {
+        // Who hears that may destroy the view.
+        const QPointer<View> self(this);
         qDebug("we need to calculate scale factor");
+        if (!self)
+            return;
         m_zoomLevel = levelOf(transform());
     }
     m_zoomLevel += scaleIncrement > 0 ? levelStep : -levelStep;

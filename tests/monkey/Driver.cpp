@@ -113,6 +113,17 @@ QPoint placeIn(const DXFViewer* viewer, int a, int b)
     return {a % size.width() - outside, b % size.height() - outside};
 }
 
+// What is done in slots, by number.
+constexpr int slotActions = 16;
+constexpr int goodLoad = 6;
+constexpr int badLoad = 7;
+
+bool isLoad(int which)
+{
+    const int action = which % slotActions;
+    return action == goodLoad || action == badLoad;
+}
+
 QVector<int> idsOf(const DXFDocument& document)
 {
     QVector<int> ids;
@@ -134,8 +145,11 @@ Driver::Driver()
 
 Driver::~Driver()
 {
+    m_answerToMessage = nullptr;
     for (const auto& window : m_windows)
-        delete window->viewer;
+        destroy(window->viewer);
+    // An editor that ended in a move of its stack waits for this.
+    QCoreApplication::processEvents();
 }
 
 void Driver::perform(const Step& step)
@@ -154,7 +168,38 @@ void Driver::perform(const Step& step)
 void Driver::destroyDoomed()
 {
     for (const auto& viewer : std::exchange(m_doomed, {}))
-        delete viewer;
+        destroy(viewer);
+}
+
+/// Destroys a window or a part of one. What answers to that must leave the window alone, as any
+/// host does.
+void Driver::destroy(QObject* object)
+{
+    if (!object)
+        return;
+    m_dying.append(object);
+    delete object;
+    m_dying.removeLast();
+}
+
+void Driver::clear(QGraphicsScene* scene)
+{
+    if (!scene)
+        return;
+    m_dying.append(scene);
+    scene->clear();
+    m_dying.removeLast();
+}
+
+bool Driver::isDying(const QPointer<DXFViewer>& viewer) const
+{
+    return !viewer || m_dying.contains(viewer.data());
+}
+
+void Driver::hear(const QString& message)
+{
+    if (const auto answer = std::exchange(m_answerToMessage, nullptr))
+        answer(message);
 }
 
 Driver::Window* Driver::windowOf(const Step& step)
@@ -178,7 +223,7 @@ void Driver::openWindow(const Step& step)
 {
     for (const auto& window : m_windows) {
         if (!sceneOf(window->viewer))
-            delete window->viewer;
+            destroy(window->viewer);
     }
     windowOf(step);
     if (m_windows.size() >= mostWindows)
@@ -196,7 +241,7 @@ void Driver::performIn(Window& window, const Step& step)
     DXFViewer& viewer = *window.viewer;
     switch (step.op) {
     case Op::DeleteWindow:
-        delete &viewer;
+        destroy(&viewer);
         return;
     case Op::DeleteWindowLater:
         m_doomed.append(&viewer);
@@ -217,7 +262,29 @@ void Driver::performIn(Window& window, const Step& step)
     case Op::BeginEdit:
         if (!overlayOf(&viewer))
             editActionOf(&viewer)->setChecked(false);
-        editActionOf(&viewer)->setChecked(true);
+        if (window.viewer)
+            editActionOf(&viewer)->setChecked(true);
+        return;
+    case Op::AnswerSignal:
+        answerSignal(window, step);
+        return;
+    case Op::ActOnMessage: {
+        const QPointer<DXFViewer> watched = &viewer;
+        m_answerToMessage = [this, watched, step](const QString& message) {
+            // Not whole yet, the overlay cannot be destroyed.
+            const bool isMaking = message.startsWith(QLatin1String("DXFEditor created"));
+            const bool isSettingUp = message.contains(QLatin1String("BYBLOCK"));
+            // What is shown then, and what is taken, would be different drawings.
+            const int which = isSettingUp && isLoad(step.a) ? 0 : step.a;
+            actInSlot(watched, which, isMaking ? Freedom::DestroysNothing : Freedom::Full);
+        };
+        return;
+    }
+    case Op::GroupUndo:
+        m_group.undo();
+        return;
+    case Op::GroupRedo:
+        m_group.redo();
         return;
     case Op::ToggleEdit:
         editActionOf(&viewer)->trigger();
@@ -231,6 +298,7 @@ void Driver::performIn(Window& window, const Step& step)
         return;
     case Op::Shortcut: {
         constexpr std::array keys{Qt::Key_E, Qt::Key_O, Qt::Key_S, Qt::Key_Z};
+        const QScopedValueRollback<int> depth(m_eventDepth, m_eventDepth + 1);
         QTest::keyClick(&viewer, keys[static_cast<std::size_t>(step.a) % keys.size()],
                         Qt::ControlModifier);
         return;
@@ -259,8 +327,7 @@ void Driver::performIn(Window& window, const Step& step)
 void Driver::load(Window& window, const Step& step)
 {
     DXFViewer& viewer = *window.viewer;
-    window.replaced = documentOf(&viewer);
-    window.isShowingItsDocument = false;
+    noteLoad(&viewer);
     const bool isGood = step.op == Op::LoadBytes || step.op == Op::LoadFile;
     const QByteArray text = isGood ? goodDrawing(step.a) : badDrawing(step.a);
     if (step.op == Op::LoadBytes || step.op == Op::LoadBadBytes) {
@@ -276,14 +343,23 @@ void Driver::load(Window& window, const Step& step)
     }
 }
 
+void Driver::noteLoad(const DXFViewer* viewer)
+{
+    for (const auto& window : m_windows) {
+        if (window->viewer == viewer) {
+            window->replaced = documentOf(viewer);
+            window->isShowingItsDocument = false;
+        }
+    }
+}
+
 void Driver::callSlot(Window& window, int which)
 {
     constexpr std::array slotNames{"on_actionOpen_dxf_triggered", "on_actionSave_dxf_triggered",
                                    "postLoad"};
     const auto index = static_cast<std::size_t>(which) % slotNames.size();
     if (index == 0) {
-        window.replaced = documentOf(window.viewer);
-        window.isShowingItsDocument = false;
+        noteLoad(window.viewer);
     }
     QMetaObject::invokeMethod(window.viewer, slotNames[index]);
 }
@@ -306,7 +382,7 @@ void Driver::performOnOverlay(DXFEditor& overlay, const Step& step)
         connect(overlay.stack(), &QUndoStack::indexChanged, this, [this, viewer, step, done] {
             const QScopedValueRollback<bool> moving(m_isStackMoving, true);
             if (!std::exchange(*done, true))
-                actInSlot(viewer, step.a, m_eventDepth == 0);
+                actInSlot(viewer, step.a, Freedom::ClearsNothing);
         });
         return;
     }
@@ -314,7 +390,7 @@ void Driver::performOnOverlay(DXFEditor& overlay, const Step& step)
         QMetaObject::invokeMethod(&overlay, "cleanupTool");
         return;
     case Op::DeleteOverlay:
-        delete &overlay;
+        destroy(&overlay);
         return;
     default:
         return;
@@ -449,17 +525,16 @@ void Driver::performOnBehalfOfHost(Window& window, const Step& step)
             QTest::qWait(eraserPeriodMs);
         return;
     case Op::ClearScene:
-        if (view.scene())
-            view.scene()->clear();
+        clear(view.scene());
         return;
     case Op::DeleteScene:
         if (step.a % 2)
-            delete view.scene();
+            destroy(view.scene());
         else
             view.setScene(nullptr);
         return;
     case Op::DeleteView:
-        delete &view;
+        destroy(&view);
         return;
     default:
         return;
@@ -544,10 +619,10 @@ void Driver::wheel(Window& window, const Step& step)
 
 void Driver::zoom(Window& window, const Step& step)
 {
-    View& view = *viewOf(window.viewer);
+    const QPointer<View> view = viewOf(window.viewer);
     const int steps = step.b % 4 == 0 ? step.a % 400 : step.a % 12;
-    for (int i = 0; i < steps; ++i)
-        view.zoomCalc(step.b % 2 ? 1 : -1);
+    for (int i = 0; view && i < steps; ++i)
+        view->zoomCalc(step.b % 2 ? 1 : -1);
 }
 
 void Driver::turnEventLoop(int turns)
@@ -566,45 +641,163 @@ void Driver::actOnDeleteRequest(DXFEditor& overlay, const Step& step)
     const QPointer<DXFViewer> viewer = windowOf(step)->viewer;
     const auto done = std::make_shared<bool>(false);
     connect(tool, &ISelectionTool::requestDelete, this, [this, viewer, step, done] {
-        // Below the delivery of an event Qt itself forbids to destroy the receiver.
         if (!std::exchange(*done, true))
-            actInSlot(viewer, step.a, m_eventDepth == 0);
+            actInSlot(viewer, step.a, Freedom::Full);
     });
 }
 
-void Driver::actInSlot(QPointer<DXFViewer> viewer, int which, bool mayDestroy)
+/// Connects to one of the signals that come from edit mode or from the window's parts. The answer
+/// is given a few times, and within itself as well.
+void Driver::answerSignal(Window& window, const Step& step)
 {
-    if (!viewer)
-        return;
-    switch (which % 8) {
+    const QPointer<DXFViewer> viewer = window.viewer;
+    DXFEditor* overlay = overlayOf(viewer);
+    QUndoStack* stack = overlay ? overlay->stack() : nullptr;
+    const auto onStack = [&](auto signal) {
+        if (stack)
+            answer(stack, signal, Freedom::ClearsNothing, viewer, step.b);
+    };
+    if (stack && step.a % 3 == 0) {
+        // The group is not done with the stack when it speaks here.
+        const QScopedValueRollback<bool> silent(m_isSilent, true);
+        m_group.addStack(stack);
+        m_group.setActiveStack(stack);
+    }
+    switch (step.a % 11) {
     case 0:
+        answer(editActionOf(viewer), &QAction::toggled, Freedom::Full, viewer, step.b);
+        return;
     case 1:
-        openDialog(which / 8);
+        if (overlay)
+            answer(overlay, &QObject::destroyed, Freedom::Full, viewer, step.b);
+        return;
+    case 2:
+        onStack(&QUndoStack::indexChanged);
+        return;
+    case 3:
+        onStack(&QUndoStack::canUndoChanged);
+        return;
+    case 4:
+        onStack(&QUndoStack::undoTextChanged);
+        return;
+    case 5:
+        onStack(&QUndoStack::canRedoChanged);
+        return;
+    case 6:
+        onStack(&QUndoStack::redoTextChanged);
+        return;
+    case 7:
+        onStack(&QUndoStack::cleanChanged);
+        return;
+    case 8:
+        answer(&m_group, &QUndoGroup::activeStackChanged, Freedom::ClearsNothing, viewer, step.b);
+        return;
+    case 9:
+        // A scene without a rectangle of its own says so in the middle of things.
+        if (itemOf(viewer))
+            answer(sceneOf(viewer), &QGraphicsScene::sceneRectChanged, Freedom::Full, viewer,
+                   step.b);
+        return;
+    default:
+        answer(&m_group, &QUndoGroup::indexChanged, Freedom::ClearsNothing, viewer, step.b);
+        return;
+    }
+}
+
+template <typename Sender, typename Signal>
+void Driver::answer(Sender* sender, Signal signal, Freedom freedom, QPointer<DXFViewer> viewer,
+                    int which)
+{
+    const auto answersLeft = std::make_shared<int>(1 + which % 3);
+    connect(sender, signal, this, [=] {
+        if (m_isSilent || *answersLeft == 0)
+            return;
+        --*answersLeft;
+        const QScopedValueRollback<bool> moving(
+            m_isStackMoving, m_isStackMoving || freedom == Freedom::ClearsNothing);
+        actInSlot(viewer, which / 3, freedom);
+    });
+}
+
+void Driver::actInSlot(QPointer<DXFViewer> viewer, int which, Freedom freedom)
+{
+    if (isDying(viewer))
+        return;
+    switch (which % slotActions) {
+    case 0:
+        openDialog(which / 16);
+        return;
+    case 1:
+        QCoreApplication::processEvents();
         return;
     case 2:
         viewer->getData();
         return;
     case 3:
-        if (mayDestroy)
-            delete viewer;
-        else
-            m_doomed.append(viewer);
-        return;
     case 4:
-        if (mayDestroy)
-            editActionOf(viewer)->trigger();
+        editActionOf(viewer)->trigger();
         return;
     case 5:
-        if (mayDestroy && !m_isStackMoving && sceneOf(viewer))
-            sceneOf(viewer)->clear();
-        return;
-    case 6:
         if (const auto document = documentOf(viewer))
             document->setSelected(idsOf(*document).mid(0, which % 16));
         return;
+    case goodLoad:
+        noteLoad(viewer);
+        viewer->loadData(goodDrawing(which));
+        openDialog(1);
+        return;
+    case badLoad:
+        noteLoad(viewer);
+        viewer->loadData(badDrawing(which));
+        return;
+    case 8:
+        if (DXFEditor* overlay = overlayOf(viewer))
+            overlay->stack()->undo();
+        return;
+    case 9:
+        if (DXFEditor* overlay = overlayOf(viewer))
+            overlay->stack()->redo();
+        return;
+    case 10:
+        editActionOf(viewer)->setChecked(false);
+        turnEventLoop(2);
+        return;
+    case 11:
+        for (const auto& window : m_windows) {
+            if (!isDying(window->viewer) && window->viewer != viewer)
+                editActionOf(window->viewer)->trigger();
+        }
+        return;
+    case 12:
+        m_group.redo();
+        return;
     default:
-        if (mayDestroy && !m_isStackMoving)
-            delete viewOf(viewer);
+        destroyInSlot(viewer, which, freedom);
+        return;
+    }
+}
+
+/// Below the delivery of an event Qt itself forbids to destroy the receiver, and in the middle of a
+/// destruction what is being destroyed.
+void Driver::destroyInSlot(QPointer<DXFViewer> viewer, int which, Freedom freedom)
+{
+    const bool mayDestroy =
+        freedom != Freedom::DestroysNothing && m_eventDepth == 0 && m_dying.isEmpty();
+    const bool mayClear = mayDestroy && freedom == Freedom::Full && !m_isStackMoving;
+    switch (which / 16 % 3) {
+    case 0:
+        if (mayDestroy)
+            destroy(viewer);
+        else
+            m_doomed.append(viewer);
+        return;
+    case 1:
+        if (mayClear)
+            clear(sceneOf(viewer));
+        return;
+    default:
+        if (mayClear)
+            destroy(viewOf(viewer));
         return;
     }
 }
@@ -625,6 +818,8 @@ QString Driver::problem()
 {
     if (!m_problem.isEmpty())
         return m_problem;
+    // Looking is not to change anything.
+    const QScopedValueRollback<std::function<void(const QString&)>> deaf(m_answerToMessage, {});
     int overlays = 0;
     for (const auto& window : m_windows) {
         if (!window->viewer)

@@ -11,8 +11,10 @@
 #include <QPointer>
 #include <QSharedPointer>
 #include <QTemporaryDir>
+#include <QUndoGroup>
 #include <QVector>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -20,6 +22,7 @@ class DXFDocument;
 class DXFEditor;
 class DXFGraphicsItem;
 class DXFViewer;
+class QGraphicsScene;
 class View;
 
 namespace dxffuzz
@@ -39,6 +42,9 @@ public:
 
     void perform(const Step& step);
 
+    /// To be called from within the log.
+    void hear(const QString& message);
+
     /// What does not hold now, or an empty string.
     QString problem();
 
@@ -53,6 +59,9 @@ private:
         QVector<dxffuzz::Shape> saved;
     };
 
+    /// What the host may do in a slot, besides what it may always do.
+    enum class Freedom { Full, ClearsNothing, DestroysNothing };
+
     void destroyDoomed();
     Window* windowOf(const Step& step);
     void performIn(Window& window, const Step& step);
@@ -62,6 +71,7 @@ private:
 
     void openWindow(const Step& step);
     void load(Window& window, const Step& step);
+    void noteLoad(const DXFViewer* viewer);
     void callSlot(Window& window, int which);
     void mouse(Window& window, QEvent::Type type, const QPoint& at,
                Qt::MouseButton button = Qt::NoButton);
@@ -79,20 +89,34 @@ private:
     void select(DXFDocument& document, const Step& step);
 
     void actOnDeleteRequest(DXFEditor& overlay, const Step& step);
-    void actInSlot(QPointer<DXFViewer> viewer, int which, bool mayDestroy);
+    void answerSignal(Window& window, const Step& step);
+    template <typename Sender, typename Signal>
+    void answer(Sender* sender, Signal signal, Freedom freedom, QPointer<DXFViewer> viewer,
+                int which);
+    void actInSlot(QPointer<DXFViewer> viewer, int which, Freedom freedom);
+    void destroyInSlot(QPointer<DXFViewer> viewer, int which, Freedom freedom);
     void openDialog(int which);
+    void destroy(QObject* object);
+    void clear(QGraphicsScene* scene);
+    bool isDying(const QPointer<DXFViewer>& viewer) const;
 
     QString problemOf(Window& window);
 
     QTemporaryDir m_folder;
     std::vector<std::unique_ptr<Window>> m_windows;
     QVector<QPointer<DXFViewer>> m_doomed;
+    QUndoGroup m_group;
+    /// Being destroyed, or what they hold is.
+    QVector<const QObject*> m_dying;
+    /// What is done at the next message; empty most of the time.
+    std::function<void(const QString&)> m_answerToMessage;
     QString m_problem;
     /// How many of the user's events are being delivered.
     int m_eventDepth = 0;
     bool m_isDialogOpen = false;
     /// The overlay, and its stack with it, must then not be destroyed directly.
     bool m_isStackMoving = false;
+    bool m_isSilent = false;
 };
 
 } // namespace dxftest

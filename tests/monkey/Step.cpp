@@ -22,6 +22,7 @@ struct OpInfo {
 };
 
 constexpr std::array operations{
+    OpInfo{Op::OwnLoop, "OwnLoop", 0},
     OpInfo{Op::NewWindow, "NewWindow", 8},
     OpInfo{Op::DeleteWindow, "DeleteWindow", 2},
     OpInfo{Op::DeleteWindowLater, "DeleteWindowLater", 1},
@@ -65,6 +66,10 @@ constexpr std::array operations{
     OpInfo{Op::RefreshItem, "RefreshItem", 2},
     OpInfo{Op::ActOnDeleteRequest, "ActOnDeleteRequest", 12},
     OpInfo{Op::ActOnStackMove, "ActOnStackMove", 8},
+    OpInfo{Op::AnswerSignal, "AnswerSignal", 20},
+    OpInfo{Op::ActOnMessage, "ActOnMessage", 6},
+    OpInfo{Op::GroupUndo, "GroupUndo", 8},
+    OpInfo{Op::GroupRedo, "GroupRedo", 6},
     OpInfo{Op::DeleteItem, "DeleteItem", 1},
     OpInfo{Op::DeleteOverlay, "DeleteOverlay", 1},
     OpInfo{Op::DeleteTool, "DeleteTool", 1},
@@ -109,8 +114,11 @@ Sequence randomSequence(unsigned seed, int length)
         return static_cast<int>(random() % static_cast<unsigned>(limit));
     };
     // Something to start with, so that the first steps are not all in vain.
-    Sequence sequence{
-        {Op::NewWindow, 0, 0, 0}, {Op::LoadBytes, 0, 0, 0}, {Op::ShowLoaded, 0, 0, 0}};
+    Sequence sequence;
+    if (seed % 2 == 0)
+        sequence.append({Op::OwnLoop, 0, 0, 0});
+    sequence +=
+        Sequence{{Op::NewWindow, 0, 0, 0}, {Op::LoadBytes, 0, 0, 0}, {Op::ShowLoaded, 0, 0, 0}};
     const int total = totalWeight();
     while (sequence.size() < length) {
         const Op op = operationAt(below(total));

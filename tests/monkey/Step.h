@@ -11,6 +11,8 @@ namespace dxftest
 
 /// What a host or a user can do.
 enum class Op {
+    /// First of all, or not at all: the host never calls exec() and handles events by itself.
+    OwnLoop,
     NewWindow,
     DeleteWindow,
     DeleteWindowLater,
@@ -54,6 +56,10 @@ enum class Op {
     RefreshItem,
     ActOnDeleteRequest,
     ActOnStackMove,
+    AnswerSignal,
+    ActOnMessage,
+    GroupUndo,
+    GroupRedo,
     DeleteItem,
     DeleteOverlay,
     DeleteTool,

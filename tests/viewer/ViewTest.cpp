@@ -2,6 +2,7 @@
 
 #include "dxfviewer/viewer/View.h"
 
+#include "tests/support/AtMessage.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
@@ -487,6 +488,22 @@ TEST_F(ViewTest, OtherKeysReachTheSceneAndControlDoesNot)
     sendKey(QEvent::KeyPress, Qt::Key_A);
     sendKey(QEvent::KeyRelease, Qt::Key_A);
     EXPECT_THAT(scene.events, ElementsAre(QEvent::KeyPress, QEvent::KeyRelease));
+}
+
+// A host that acts from within the log
+
+class ActingLogViewTest : public LoggedTest
+{
+};
+
+TEST_F(ActingLogViewTest, ViewMayBeDestroyedAtItsFirstStep)
+{
+    auto view = std::make_unique<View>();
+    const AtMessage end("we need to calculate scale factor", [&] { view.reset(); });
+
+    view->zoomCalc(1);
+
+    EXPECT_TRUE(end.hasActed());
 }
 
 } // namespace
