@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+// What a host may do outside of the GUI thread. Under ThreadSanitizer (the preset tsan) these tests
+// tell whether it may; without it they only tell that the drawings are whole.
+
+#include "dxfviewer/flatten/FlatteningReader.h"
+#include "dxfviewer/io/DXFReader.h"
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/model/DXFPolyline.h"
+#include "dxfviewer/viewer/DXFViewer.h"
+#include "dxfviewer/viewer/View.h"
+
+#include "tests/support/Builders.h"
+#include "tests/support/Patience.h"
+#include "tests/support/SceneMouse.h"
+#include "tests/support/WindowParts.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QFile>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+
+#include <chrono>
+#include <future>
+#include <vector>
+
+using namespace dxftest;
+
+namespace
+{
+
+constexpr int polylines = 200;
+
+QByteArray drawing(int which)
+{
+    QVector<Chain> chains;
+    for (int i = 0; i < polylines; ++i)
+        chains.append({{{0.5 * which, 1.0 * i}, {300, 1.0 * i}, {400, 2.0 * i}}, i % 3 == 0});
+    return drawingText(chains);
+}
+
+/// A reader of a host's own, with a state of its own.
+class HostsReader : public DXFReader
+{
+public:
+    using DXFReader::DXFReader;
+
+    void addVertex(const DL_VertexData& data) override
+    {
+        ++m_vertices;
+        DXFReader::addVertex(data);
+    }
+
+    int vertices() const { return m_vertices; }
+
+private:
+    int m_vertices = 0;
+};
+
+template <typename Source>
+QSharedPointer<DXFDocument> read(const Source& source)
+{
+    const auto document = QSharedPointer<DXFDocument>::create();
+    HostsReader reader(*document);
+    const bool isRead = reader.load(source);
+    return isRead && reader.vertices() == 3 * polylines ? document : nullptr;
+}
+
+/// Runs something in a thread of its own.
+template <typename Function>
+auto inThread(Function function)
+{
+    return std::async(std::launch::async, std::move(function));
+}
+
+template <typename Result>
+bool isReady(const std::future<Result>& future)
+{
+    return future.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
+
+class ReadingThreadTest : public ::testing::Test
+{
+protected:
+    // Before there are threads. A handler of messages is called in any of them.
+    ReadingThreadTest() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
+    ~ReadingThreadTest() override { QLoggingCategory::setFilterRules(QString()); }
+};
+
+TEST_F(ReadingThreadTest, GivesOutNoIds)
+{
+    const QByteArray text = drawing(0);
+    const Segment before;
+    const int id = before.id();
+
+    const auto document = inThread([text] { return read(text); }).get();
+
+    ASSERT_NE(document, nullptr);
+    const Segment after;
+    EXPECT_EQ(after.id(), id + 1);
+}
+
+TEST_F(ReadingThreadTest, SeveralThreadsReadWhileTheWindowIsInUse)
+{
+    DXFViewer window;
+    window.show();
+    ASSERT_TRUE(loadAndShow(window, drawing(0)));
+
+    for (int round = 1; round <= 3; ++round) {
+        std::vector<std::future<QSharedPointer<DXFDocument>>> readers;
+        for (int i = 0; i < 3; ++i)
+            readers.push_back(inThread([text = drawing(round)] { return read(text); }));
+        editActionOf(window).setChecked(true);
+        while (!isReady(readers[0]) || !isReady(readers[1]) || !isReady(readers[2])) {
+            SceneMouse(viewOf(window)).drag({{200, -5}, {200, 0}, {200, 5}});
+            window.grab();
+            window.getData();
+            QCoreApplication::processEvents();
+        }
+
+        for (auto& reader : readers) {
+            const auto document = reader.get();
+            ASSERT_NE(document, nullptr);
+            window.loadDocument(document);
+            ASSERT_TRUE(eventually([&] { return shownDocument(window) == document; }));
+            const auto here = DXFDocument::load(drawing(round));
+            here->setup();
+            EXPECT_EQ(linesOf(document), linesOf(here));
+        }
+    }
+}
+
+TEST_F(ReadingThreadTest, FilesAreReadThereToo)
+{
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("drawing.dxf"));
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(drawing(1));
+    file.close();
+
+    auto first = inThread([name] { return read(name); });
+    auto second = inThread([name] { return read(name); });
+    const auto here = read(name);
+
+    ASSERT_NE(here, nullptr);
+    for (auto* reader : {&first, &second}) {
+        const auto document = reader->get();
+        ASSERT_NE(document, nullptr);
+        document->setup();
+        here->setup();
+        EXPECT_EQ(linesOf(document), linesOf(here));
+    }
+}
+
+QVector<QLineF> flattened()
+{
+    DXFDocument document;
+    if (!FlatteningReader(document).load(QStringLiteral(SAMPLES_DIR "/bearing-housing.dxf")))
+        return {};
+    QVector<QLineF> lines;
+    const auto entities = document.entities();
+    for (const auto& entity : entities) {
+        const auto& vertices = static_cast<const DXFPolyline&>(*entity).vertices();
+        for (int i = 1; i < vertices.size(); ++i)
+            lines.append(
+                {vertices[i - 1].x(), vertices[i - 1].y(), vertices[i].x(), vertices[i].y()});
+    }
+    return lines;
+}
+
+TEST_F(ReadingThreadTest, FlatteningReadersWorkThereToo)
+{
+    auto first = inThread(flattened);
+    auto second = inThread(flattened);
+    const auto here = flattened();
+
+    EXPECT_FALSE(here.isEmpty());
+    EXPECT_EQ(first.get(), here);
+    EXPECT_EQ(second.get(), here);
+}
+
+} // namespace
