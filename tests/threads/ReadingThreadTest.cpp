@@ -158,7 +158,10 @@ TEST_F(ReadingThreadTest, FilesAreReadThereToo)
 QVector<QLineF> flattened()
 {
     DXFDocument document;
-    if (!FlatteningReader(document).load(QStringLiteral(SAMPLES_DIR "/bearing-housing.dxf")))
+    FlatteningOptions options;
+    options.showsTexts = true;
+    if (!FlatteningReader(document, options)
+             .load(QStringLiteral(SAMPLES_DIR "/bearing-housing.dxf")))
         return {};
     QVector<QLineF> lines;
     const auto entities = document.entities();

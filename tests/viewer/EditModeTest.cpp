@@ -287,6 +287,36 @@ TEST_F(EditModeTest, DrawingTakesLeftDragsAfterEditMode)
     EXPECT_NE(scrolled(), before) << "one that begins beside it does";
 }
 
+TEST_F(EditModeTest, PlainWheelScrollsOverTheDrawingOnly)
+{
+    startEditing();
+    const QPoint before = scrolled();
+    SceneMouse mouse(viewOf(*window));
+
+    mouse.wheel({200, -5}, 120);
+    EXPECT_EQ(scrolled(), before);
+
+    mouse.wheel({200, 100}, 120);
+    EXPECT_NE(scrolled(), before);
+}
+
+TEST_F(EditModeTest, AfterAClickArrowKeysGoToTheEraser)
+{
+    startEditing();
+    View& view = viewOf(*window);
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), patienceMs));
+    const QPoint before = scrolled();
+    QTest::keyClick(&view, Qt::Key_Down);
+    const QPoint after = scrolled();
+    EXPECT_NE(after, before);
+
+    SceneMouse(view).drag({{200, 50}});
+    QTest::keyClick(&view, Qt::Key_Down);
+
+    EXPECT_EQ(scrolled(), after);
+}
+
 // One for the whole process
 
 TEST_F(EditModeTest, SecondWindowEndsTheFirstOnesEditor)
