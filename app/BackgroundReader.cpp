@@ -23,6 +23,7 @@ constexpr int progressIntervalMs = 50;
 /// it has ended.
 struct BackgroundReader::Job {
     QString fileName;
+    ReadingChoices choices;
     ReadingWatch watch;
     DrawingRead result;
 };
@@ -45,10 +46,11 @@ BackgroundReader::~BackgroundReader()
     delete m_thread;
 }
 
-void BackgroundReader::read(const QString& fileName)
+void BackgroundReader::read(const QString& fileName, const ReadingChoices& choices)
 {
     stop();
     m_fileName = fileName;
+    m_choices = choices;
     // Two reads at once would get into each other's way: reading sets the locale aside. The next
     // one begins when the thread of the former has ended.
     if (!m_thread)
@@ -76,8 +78,9 @@ void BackgroundReader::start()
 {
     m_job = std::make_shared<Job>();
     m_job->fileName = m_fileName;
-    m_thread =
-        QThread::create([job = m_job] { job->result = readDocument(job->fileName, job->watch); });
+    m_job->choices = m_choices;
+    m_thread = QThread::create(
+        [job = m_job] { job->result = readDocument(job->fileName, job->choices, job->watch); });
     connect(m_thread, &QThread::finished, this, &BackgroundReader::onThreadFinished);
     m_thread->start(QThread::LowPriority);
     m_progressTimer.start();

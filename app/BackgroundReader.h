@@ -26,7 +26,7 @@ public:
     ~BackgroundReader() override;
 
     /// Begins to read a file, and throws away what is being read.
-    void read(const QString& fileName);
+    void read(const QString& fileName, const ReadingChoices& choices = {});
     /// Throws away what is being read. Nothing is told of it any more.
     void cancel();
 
@@ -50,6 +50,7 @@ private:
     void onThreadFinished();
 
     QString m_fileName;
+    ReadingChoices m_choices;
     std::shared_ptr<Job> m_job;
     QThread* m_thread = nullptr;
     QTimer m_progressTimer;

@@ -5,6 +5,7 @@
 #include "DrawingFile.h"
 #include "EditHistory.h"
 #include "FileNames.h"
+#include "KindWords.h"
 #include "Questions.h"
 #include "ViewerParts.h"
 
@@ -15,6 +16,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGraphicsView>
 #include <QMenu>
 
 #include <utility>
@@ -22,9 +24,8 @@
 namespace
 {
 
-// The drawing window shows a drawing 5 ms after it was loaded. This is later, whatever else the
-// event loop has to do.
-constexpr int drawingDueMs = 50;
+// The drawing window shows a drawing 5 ms after it was loaded.
+constexpr int drawingDueMs = 5;
 
 constexpr int dialogWaitMs = 100;
 
@@ -76,7 +77,22 @@ void DrawingFiles::open(const QString& fileName)
     if (!mayDiscardEdits())
         return;
     m_discardedRevision = m_history.revision();
-    m_reader.read(QFileInfo(fileName).absoluteFilePath());
+    m_reader.read(QFileInfo(fileName).absoluteFilePath(), m_choices);
+}
+
+bool DrawingFiles::setChoices(const ReadingChoices& choices)
+{
+    if (choices == m_choices)
+        return true;
+    if (!mayDiscardEdits())
+        return false;
+    m_choices = choices;
+    // What is being read now is read again as well.
+    const QString fileName = m_reader.isReading() ? m_reader.fileName() : m_fileName;
+    m_discardedRevision = m_history.revision();
+    if (!fileName.isEmpty())
+        m_reader.read(fileName, m_choices);
+    return true;
 }
 
 void DrawingFiles::onRead(const QString& fileName, const DrawingRead& result)
@@ -98,28 +114,40 @@ void DrawingFiles::onRead(const QString& fileName, const DrawingRead& result)
     }
     // There may be edits of the time while it was being read.
     if (m_history.revision() == m_discardedRevision || mayDiscardEdits())
-        show(fileName, result.document);
+        show(fileName, result);
     else
         freeInBackground(result.document);
 }
 
-void DrawingFiles::show(const QString& fileName, const QSharedPointer<DXFDocument>& document)
+void DrawingFiles::show(const QString& fileName, const DrawingRead& drawing)
 {
     // Edit mode would go on with the old drawing until the new one is on screen.
     m_history.giveUpDrawing();
     m_previousDocument = shownDocument(m_viewer);
+    m_awaited = drawing.document;
+    m_shown = drawing.shown;
+    m_skipped = drawing.skipped;
     m_richerFile = fileName;
     m_saved = FileMark();
     setFileName(fileName);
     m_recent.add(fileName);
-    m_viewer.loadDocument(document);
+    Q_EMIT drawingRead(*m_awaited);
+    // Until the drawing is fitted there is nothing to be seen of it.
+    drawingView(m_viewer).setUpdatesEnabled(false);
+    m_viewer.loadDocument(m_awaited);
     m_drawingDue.start();
 }
 
 void DrawingFiles::onDrawingDue()
 {
+    if (shownDocument(m_viewer) != m_awaited) {
+        m_drawingDue.start();
+        return;
+    }
+    m_awaited.reset();
     freeInBackground(std::exchange(m_previousDocument, nullptr));
     Q_EMIT drawingShown();
+    drawingView(m_viewer).setUpdatesEnabled(true);
 }
 
 void DrawingFiles::chooseDrawing()
@@ -170,12 +198,9 @@ bool DrawingFiles::mayReplace(const QString& fileName)
         return true;
     if (!isSameFile(fileName, m_richerFile))
         return askToReplace(m_window, fileName, tr("What it holds now is lost."));
-    return askToReplace(
-        m_window, fileName,
-        tr("It is the drawing that was opened. Only layers, line types and polylines are saved. "
-           "Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, "
-           "blocks and the colours of single polylines. Once anything was erased, closed polylines "
-           "lose their closing edge, and bulges become straight."));
+    return askToReplace(m_window, fileName,
+                        m_choices.onlyPolylines ? plainLossesSentence()
+                                                : changesSentence(m_shown, m_skipped));
 }
 
 bool DrawingFiles::write(const QString& fileName)

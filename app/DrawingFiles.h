@@ -46,6 +46,13 @@ public:
     /// Asks before unsaved edits are thrown away, and offers to save them.
     bool mayDiscardEdits();
 
+    /// How drawings are read from now on. The one that is shown is read again, if the user agrees
+    /// to throw unsaved edits away; otherwise nothing changes, and false is returned.
+    bool setChoices(const ReadingChoices& choices);
+    ReadingChoices choices() const { return m_choices; }
+    /// How many entities of the drawing are not shown, by their names in DXF.
+    QMap<QString, int> skipped() const { return m_skipped; }
+
     /// Empty if no drawing is shown.
     QString fileName() const { return m_fileName; }
 
@@ -53,6 +60,8 @@ public:
 
 Q_SIGNALS:
     void fileNameChanged();
+    /// The drawing will be shown, and can be prepared for that.
+    void drawingRead(DXFDocument& document);
     /// The drawing is on screen.
     void drawingShown();
 
@@ -63,7 +72,7 @@ private Q_SLOTS:
 
 private:
     QAction* addAction(QMenu& menu, const QString& text, const char* key);
-    void show(const QString& fileName, const QSharedPointer<DXFDocument>& document);
+    void show(const QString& fileName, const DrawingRead& drawing);
     bool mayReplace(const QString& fileName);
     bool write(const QString& fileName);
     void setFileName(const QString& fileName);
@@ -85,7 +94,12 @@ private:
     // The edits that the user has agreed to throw away for the drawing that is being read.
     int m_discardedRevision = 0;
 
-    // Restarted by each load: runs out when its drawing must be on screen.
+    ReadingChoices m_choices;
+    QMap<QString, int> m_shown;
+    QMap<QString, int> m_skipped;
+
+    // Runs until the drawing that was read last is on screen.
     QTimer m_drawingDue;
+    QSharedPointer<DXFDocument> m_awaited;
     QSharedPointer<DXFDocument> m_previousDocument;
 };

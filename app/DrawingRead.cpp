@@ -7,6 +7,7 @@
 #include "ReadingPlace.h"
 #include "ReadingWatch.h"
 
+#include <dxfviewer/flatten/FlatteningReader.h>
 #include <dxfviewer/io/DXFReader.h>
 #include <dxfviewer/model/DXFDocument.h>
 
@@ -43,27 +44,48 @@ private:
     ReadingPlace& m_place;
 };
 
-DrawingRead parsed(const QByteArray& content, ReadingWatch& watch)
+DrawingRead onlyPolylinesOf(const QByteArray& content, ReadingPlace& place)
 {
     DrawingRead result;
     result.document = QSharedPointer<DXFDocument>::create();
-    ReadingPlace place(content, watch);
     WatchedReader<DXFReader> reader(place, *result.document);
-    if (!reader.load(content)) {
+    if (!reader.load(content))
         result.document.reset();
+    return result;
+}
+
+DrawingRead everythingOf(const QByteArray& content, const FlatteningOptions& options,
+                         ReadingPlace& place)
+{
+    DrawingRead result;
+    result.document = QSharedPointer<DXFDocument>::create();
+    WatchedReader<FlatteningReader> reader(place, *result.document, options);
+    if (!reader.load(content))
+        result.document.reset();
+    result.shown = reader.shown();
+    result.skipped = reader.skipped();
+    return result;
+}
+
+DrawingRead parsed(const QByteArray& content, const ReadingChoices& choices, ReadingWatch& watch)
+{
+    ReadingPlace place(content, watch);
+    DrawingRead result = choices.onlyPolylines ? onlyPolylinesOf(content, place)
+                                               : everythingOf(content, choices.flattening(), place);
+    if (!result.document)
         result.reason = Texts::tr("It cannot be read.");
-    }
     return result;
 }
 
 } // namespace
 
-DrawingRead readDocument(const QString& fileName, ReadingWatch& watch)
+DrawingRead readDocument(const QString& fileName, const ReadingChoices& choices,
+                         ReadingWatch& watch)
 {
     DrawingRead result;
     try {
         if (const auto content = readDrawing(fileName, result.reason, watch))
-            result = parsed(*content, watch);
+            result = parsed(*content, choices, watch);
     } catch (const Cancelled&) {
         return DrawingRead();
     } catch (const std::bad_alloc&) {

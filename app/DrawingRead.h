@@ -2,6 +2,9 @@
 
 #pragma once
 
+#include "ReadingChoices.h"
+
+#include <QMap>
 #include <QSharedPointer>
 #include <QString>
 
@@ -14,7 +17,12 @@ struct DrawingRead {
     QSharedPointer<DXFDocument> document;
     /// Why it could not be read, a sentence for the user; empty if it was cancelled.
     QString reason;
+    /// How many entities became polylines, and how many are not shown, by their names in DXF. Not
+    /// known when only polylines are read.
+    QMap<QString, int> shown;
+    QMap<QString, int> skipped;
 };
 
 /// Reads a drawing. May be called in any thread, but in one at a time.
-DrawingRead readDocument(const QString& fileName, ReadingWatch& watch);
+DrawingRead readDocument(const QString& fileName, const ReadingChoices& choices,
+                         ReadingWatch& watch);

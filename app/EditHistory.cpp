@@ -5,6 +5,7 @@
 #include "ViewerParts.h"
 
 #include <dxfviewer/edit/DXFEditor.h>
+#include <dxfviewer/render/DXFGraphicsItem.h>
 #include <dxfviewer/viewer/DXFViewer.h>
 
 #include <QAction>
@@ -74,9 +75,17 @@ void EditHistory::onEditToggled(bool isOn)
 void EditHistory::follow(DXFEditor& editor)
 {
     m_strokes.follow(editor, *shownDocument(m_viewer));
+    connect(&editor, &QObject::destroyed, this, &EditHistory::onEditorGone, Qt::QueuedConnection);
     connect(editor.stack(), &QUndoStack::indexChanged, this, &EditHistory::onStackMoved);
     m_group.addStack(editor.stack());
     m_group.setActiveStack(editor.stack());
+}
+
+void EditHistory::onEditorGone()
+{
+    // The drawing is left disabled, and what is disabled swallows the presses that would pan.
+    if (DXFGraphicsItem* item = shownItem(m_viewer))
+        item->setEnabled(true);
 }
 
 void EditHistory::onStackMoved()

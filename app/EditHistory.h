@@ -47,6 +47,7 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void onEditToggled(bool isOn);
+    void onEditorGone();
     void onCleanChanged(bool isClean);
     void onStackMoved();
 

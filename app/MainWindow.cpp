@@ -2,16 +2,25 @@
 
 #include "MainWindow.h"
 
+#include "Appearance.h"
 #include "DrawingFiles.h"
 #include "EditHistory.h"
+#include "EmptyPage.h"
 #include "FileNames.h"
 #include "HelpMenu.h"
+#include "KindWords.h"
+#include "Navigation.h"
 #include "PictureExport.h"
 #include "Printing.h"
 #include "ReadingBar.h"
+#include "StatusLine.h"
+#include "ViewChoices.h"
 #include "ViewerParts.h"
+#include "WindowMemory.h"
 
 #include <dxfviewer/model/DXFDocument.h>
+#include <dxfviewer/render/DXFGraphicsItem.h>
+#include <dxfviewer/render/DisplayColors.h>
 #include <dxfviewer/viewer/DXFViewer.h>
 
 #include <QAction>
@@ -28,10 +37,10 @@
 namespace
 {
 
-constexpr QSize initialSize(1100, 800);
-
 // Long enough to be read.
 constexpr int messageMs = 8000;
+// A grey that can be read on every ground.
+constexpr int inkNumber = 8;
 
 /// The first drawing among what is dragged; empty if there is none.
 QString draggedDrawing(const QMimeData* data)
@@ -50,9 +59,6 @@ void prepareView(QGraphicsView& view)
     // The view would take what is dropped on it, and do nothing with it.
     view.setAcceptDrops(false);
     view.viewport()->setAcceptDrops(false);
-    // A scroll bar that comes after the drawing was fitted covers a part of it.
-    view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
 } // namespace
@@ -62,24 +68,36 @@ MainWindow::MainWindow(QWidget* parent)
     , m_viewer(new DXFViewer)
     , m_history(new EditHistory(*m_viewer, this))
     , m_files(new DrawingFiles(*m_viewer, *m_history, *this))
+    , m_choices(new ViewChoices(*m_files, this))
+    , m_navigation(new Navigation(drawingView(*m_viewer), this))
+    , m_appearance(new Appearance(*m_viewer, this))
+    , m_statusLine(new StatusLine(*m_viewer, *statusBar(), this))
+    , m_emptyPage(new EmptyPage(drawingView(*m_viewer)))
 {
     setCentralWidget(m_viewer);
-    resize(initialSize);
     makeFileMenu();
     makeEditMenu();
+    makeViewMenu();
     makeHelpMenu();
     statusBar()->addPermanentWidget(new ReadingBar(m_files->reader()));
-
     prepareView(drawingView(*m_viewer));
     setAcceptDrops(true);
+    editAction(*m_viewer).setEnabled(false);
 
     connect(m_history, &EditHistory::changed, this,
             [this] { setWindowModified(m_history->hasUnsavedEdits()); });
     connect(m_history, &EditHistory::told, this,
             [this](const QString& sentence) { statusBar()->showMessage(sentence, messageMs); });
     connect(m_files, &DrawingFiles::fileNameChanged, this, &MainWindow::onFileNameChanged);
+    connect(m_files, &DrawingFiles::drawingRead, m_appearance, &Appearance::color);
     connect(m_files, &DrawingFiles::drawingShown, this, &MainWindow::onDrawingShown);
+    connect(m_navigation, &Navigation::zoomChanged, this,
+            [this] { m_statusLine->setZoom(m_navigation->zoom()); });
+    connect(m_appearance, &Appearance::groundChanged, this, &MainWindow::onGroundChanged);
     onFileNameChanged();
+    m_emptyPage->showWords(tr("Open a drawing, or drop one here"));
+    memory().restore();
+    onGroundChanged();
 }
 
 MainWindow::~MainWindow()
@@ -128,6 +146,21 @@ void MainWindow::makeEditMenu()
     m_history->addActionsTo(*menuBar()->addMenu(tr("&Edit")));
 }
 
+void MainWindow::makeViewMenu()
+{
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    m_navigation->addActionsTo(*menu);
+    menu->addSeparator();
+    m_choices->addActionsTo(*menu);
+    menu->addSeparator();
+    m_appearance->addActionsTo(*menu);
+}
+
+WindowMemory MainWindow::memory()
+{
+    return {*this, *m_navigation, *m_appearance, *m_choices};
+}
+
 void MainWindow::openDrawing(const QString& fileName)
 {
     m_files->open(fileName);
@@ -140,11 +173,17 @@ void MainWindow::editNextDrawing()
 
 void MainWindow::onDrawingShown()
 {
-    if (shownDocument(*m_viewer)->entities().isEmpty())
-        statusBar()->showMessage(
-            tr("There are no polylines in this drawing, so nothing is shown."));
+    const DXFGraphicsItem* item = shownItem(*m_viewer);
+    m_navigation->showDrawing(item->boundingRect());
+    m_statusLine->setNotShown(notShownSentence(m_files->skipped()));
+    m_emptyPage->showWords(item->document()->entities().isEmpty()
+                               ? tr("There is nothing in this drawing that can be shown.")
+                               : QString());
+    QAction& edit = editAction(*m_viewer);
+    edit.setEnabled(true);
     if (m_editsNext)
-        editAction(*m_viewer).setChecked(true);
+        edit.setChecked(true);
+    drawingView(*m_viewer).setFocus();
     m_editsNext = false;
 }
 
@@ -162,11 +201,19 @@ void MainWindow::onFileNameChanged()
     setWindowModified(m_history->hasUnsavedEdits());
 }
 
+void MainWindow::onGroundChanged()
+{
+    const QColor ground = colorOf(m_appearance->ground());
+    m_emptyPage->setInk(DisplayColors(ground).indexColor(inkNumber));
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->setAccepted(m_files->mayDiscardEdits());
-    if (event->isAccepted())
-        m_files->reader().cancel();
+    if (!event->isAccepted())
+        return;
+    m_files->reader().cancel();
+    memory().remember();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

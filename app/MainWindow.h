@@ -4,21 +4,25 @@
 
 #include <QMainWindow>
 
+class Appearance;
 class DrawingFiles;
 class DXFViewer;
 class EditHistory;
 class Printing;
 class QAction;
+class EmptyPage;
+class Navigation;
+class StatusLine;
+class ViewChoices;
+class WindowMemory;
 
 /**
  * The program's window: the drawing window in its middle, and around it what the program adds.
  *
  * It only puts the parts together: each of them does one job by itself.
  *
- * Two habits of the drawing window are good to know. In edit mode a drag with the left button
- * erases, with Ctrl held as well: the eraser gets the press before the view can pan. And after edit
- * mode the drawing still takes the presses of the left button, without doing anything: a host that
- * wants them itself filters the events of the view's viewport.
+ * A habit of the drawing window is good to know: in edit mode a drag with the left button erases,
+ * with Ctrl held as well.
  */
 class MainWindow : public QMainWindow
 {
@@ -29,8 +33,7 @@ public:
     ~MainWindow() override;
 
     /// Shows the drawing, after the user has agreed to throw unsaved edits away. If it cannot be
-    /// read, a box says why, and the drawing on screen stays. Show this window first: the drawing
-    /// is fitted to it once.
+    /// read, a box says why, and the drawing on screen stays.
     void openDrawing(const QString& fileName);
     /// Switches edit mode on as soon as the next drawing is on screen.
     void editNextDrawing();
@@ -43,6 +46,7 @@ protected:
 private Q_SLOTS:
     void onDrawingShown();
     void onFileNameChanged();
+    void onGroundChanged();
 
 private:
     void makeFileMenu();
@@ -50,11 +54,18 @@ private:
     void makeHelpMenu();
     Printing printing();
     QAction* addDrawingAction(QMenu& menu, const QString& text);
+    void makeViewMenu();
+    WindowMemory memory();
 
     DXFViewer* m_viewer;
     EditHistory* m_history;
     DrawingFiles* m_files;
     // For which there must be a drawing.
     QVector<QAction*> m_drawingActions;
+    ViewChoices* m_choices;
+    Navigation* m_navigation;
+    Appearance* m_appearance;
+    StatusLine* m_statusLine;
+    EmptyPage* m_emptyPage;
     bool m_editsNext = false;
 };

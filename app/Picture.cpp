@@ -6,6 +6,7 @@
 
 #include <dxfviewer/model/DXFDocument.h>
 #include <dxfviewer/model/DXFPolyline.h>
+#include <dxfviewer/render/DisplayColors.h>
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -70,15 +71,18 @@ QTransform fitted(const QRectF& bounds, const QSize& size)
     const double scale = std::min(size.width() / bounds.width(), size.height() / bounds.height());
     QTransform transform;
     transform.translate(size.width() / 2.0, size.height() / 2.0);
-    transform.scale(scale, scale);
+    // Drawings have y upwards, pictures downwards.
+    transform.scale(scale, -scale);
     transform.translate(-bounds.center().x(), -bounds.center().y());
     return transform;
 }
 
 } // namespace
 
-Picture::Picture(const QSharedPointer<DXFDocument>& document, const QBrush& background)
-    : m_background(background)
+Picture::Picture(const QSharedPointer<DXFDocument>& document, const QColor& ground,
+                 const QString& title)
+    : m_ground(ground)
+    , m_title(title)
 {
     document->setup();
     take(*document);
@@ -91,6 +95,7 @@ QStringList Picture::suffixes()
 
 void Picture::take(const DXFDocument& document)
 {
+    const DisplayColors colors(m_ground);
     QPolygonF corners;
     const auto entities = document.entities();
     for (const auto& entity : entities) {
@@ -98,7 +103,7 @@ void Picture::take(const DXFDocument& document)
             continue;
         const auto runs = runsOf(static_cast<const DXFPolyline&>(*entity));
         for (const QPolygonF& run : runs) {
-            m_strokes.append({run, entity->color(), entity->lineWidth()});
+            m_strokes.append({run, colors.colorOf(*entity, document), entity->lineWidth()});
             corners += run;
         }
     }
@@ -134,7 +139,7 @@ void Picture::paintInto(QPainter& painter, const QRectF& rect) const
 
 void Picture::paint(QPainter& painter) const
 {
-    painter.fillRect(QRect(QPoint(0, 0), size()), m_background);
+    painter.fillRect(QRect(QPoint(0, 0), size()), m_ground);
     paintStrokes(painter);
 }
 
@@ -155,6 +160,10 @@ bool Picture::write(const QString& fileName, QString& reason) const
     const QString suffix = QFileInfo(fileName).suffix().toLower();
     if (!suffixes().contains(suffix)) {
         reason = Texts::tr("The name of a picture must end in .png, .svg or .pdf.");
+        return false;
+    }
+    if (m_strokes.isEmpty()) {
+        reason = Texts::tr("There is nothing in this drawing that can be shown.");
         return false;
     }
     if (!m_bounds) {
@@ -192,6 +201,11 @@ QByteArray Picture::svg() const
     buffer.open(QIODevice::WriteOnly);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
+    // The generator writes it as it is.
+    generator.setTitle(m_title.toHtmlEscaped());
+    generator.setDescription(QString());
+    // Gives the size in millimetres, the same as that of the page.
+    generator.setResolution(pixelsPerInch);
     generator.setSize(size());
     generator.setViewBox(QRect(QPoint(0, 0), size()));
     QPainter painter(&generator);
@@ -206,6 +220,7 @@ QByteArray Picture::pdf() const
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setCreator(QCoreApplication::applicationName());
+    writer.setTitle(m_title);
     writer.setResolution(pixelsPerInch);
     writer.setPageSize(QPageSize(QSizeF(size()) * pointsPerInch / pixelsPerInch, QPageSize::Point,
                                  QString(), QPageSize::ExactMatch));

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include <QBrush>
 #include <QColor>
 #include <QPolygonF>
 #include <QRectF>
@@ -18,14 +17,17 @@ class QByteArray;
 class QPainter;
 
 /**
- * A picture of a whole drawing, as the window shows it, whatever part of it the window shows.
+ * A picture of a whole drawing, whatever part of it the window shows: in its own colours, with y
+ * upwards.
  *
  * It is taken when it is constructed: later edits do not change it.
  */
 class Picture
 {
 public:
-    Picture(const QSharedPointer<DXFDocument>& document, const QBrush& background);
+    /// The title is the name of the drawing, for people who look at the file's properties.
+    Picture(const QSharedPointer<DXFDocument>& document, const QColor& ground,
+            const QString& title = QString());
 
     /// The endings of the file names that write() takes: png, svg, pdf.
     static QStringList suffixes();
@@ -57,5 +59,6 @@ private:
     QVector<Stroke> m_strokes;
     /// In drawing units, with a margin; nothing if that cannot be computed.
     std::optional<QRectF> m_bounds;
-    QBrush m_background;
+    QColor m_ground;
+    QString m_title;
 };

@@ -2,6 +2,7 @@
 
 #include "PictureExport.h"
 
+#include "Ground.h"
 #include "Picture.h"
 #include "Questions.h"
 #include "ViewerParts.h"
@@ -11,7 +12,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGraphicsView>
 
 namespace
 {
@@ -51,12 +51,12 @@ void exportPicture(const DXFViewer& viewer, const QString& drawingName, QWidget&
     if (fileName.isEmpty())
         return;
 
-    const QBrush background = drawingView(viewer).backgroundBrush();
     QString reason;
     bool isWritten = false;
     {
         const WaitCursor waitCursor;
-        isWritten = Picture(document, background).write(fileName, reason);
+        isWritten = Picture(document, colorOf(Ground::White), QFileInfo(drawingName).fileName())
+                        .write(fileName, reason);
     }
     if (!isWritten)
         showError(window, Texts::tr("The picture cannot be written."), fileName, reason);

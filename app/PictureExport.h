@@ -7,5 +7,5 @@
 class DXFViewer;
 class QWidget;
 
-/// Asks for the name of a picture file and writes what the window shows of this drawing to it.
+/// Asks for the name of a picture file and writes the whole drawing to it, on white, as on paper.
 void exportPicture(const DXFViewer& viewer, const QString& drawingName, QWidget& window);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QLibraryInfo>
+#include <QMouseEvent>
 #include <QString>
 
 /// @file
@@ -15,5 +16,15 @@ inline QString qtTranslationsFolder()
     return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
 #else
     return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
+}
+
+/// Where the mouse is, in the pixels of the widget that gets the event.
+inline QPoint placeOf(const QMouseEvent& event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event.position().toPoint();
+#else
+    return event.pos();
 #endif
 }

@@ -37,12 +37,18 @@ DXFEditor* currentEditor(const DXFViewer& viewer)
     return nullptr;
 }
 
-QSharedPointer<DXFDocument> shownDocument(const DXFViewer& viewer)
+DXFGraphicsItem* shownItem(const DXFViewer& viewer)
 {
     const auto items = drawingView(viewer).scene()->items();
-    for (const QGraphicsItem* item : items) {
-        if (const auto* drawing = dynamic_cast<const DXFGraphicsItem*>(item))
-            return drawing->document();
+    for (QGraphicsItem* item : items) {
+        if (auto* drawing = dynamic_cast<DXFGraphicsItem*>(item))
+            return drawing;
     }
     return nullptr;
+}
+
+QSharedPointer<DXFDocument> shownDocument(const DXFViewer& viewer)
+{
+    const DXFGraphicsItem* item = shownItem(viewer);
+    return item ? item->document() : nullptr;
 }

@@ -6,6 +6,7 @@
 
 class DXFDocument;
 class DXFEditor;
+class DXFGraphicsItem;
 class DXFViewer;
 class QAction;
 class QGraphicsView;
@@ -24,6 +25,9 @@ QToolBar& toolBar(const DXFViewer& viewer);
 /// The overlay that edit mode puts into the window's scene; null if the window is not in edit mode.
 /// It goes when edit mode ends, which any other window can bring about.
 DXFEditor* currentEditor(const DXFViewer& viewer);
+
+/// The item that shows the drawing; null before the first.
+DXFGraphicsItem* shownItem(const DXFViewer& viewer);
 
 /// The drawing on screen; null before the first. A drawing that was loaded gets there some
 /// milliseconds later, and not at all if it could not be read.

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-#include "DrawingFile.h"
+#include "CommandLine.h"
+#include "DrawingRead.h"
 #include "FileNames.h"
 #include "MainWindow.h"
 #include "Picture.h"
+#include "ReadingWatch.h"
+#include "Report.h"
 #include "Translations.h"
 
 #include <dxfviewer/model/DXFDocument.h>
-#include <dxfviewer/viewer/View.h>
 
 #include <QApplication>
-#include <QCommandLineParser>
+#include <QFileInfo>
 #include <QIcon>
+#include <QLoggingCategory>
 
 #include <cstdio>
 
@@ -20,49 +23,6 @@ namespace
 
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
-};
-
-/// The options, and a drawing if one is named.
-class CommandLine
-{
-public:
-    CommandLine()
-        : m_help(m_parser.addHelpOption())
-        , m_version(m_parser.addVersionOption())
-        , m_edit(QStringLiteral("edit"), Texts::tr("Start in edit mode."))
-        , m_picture(
-              QStringLiteral("picture"),
-              Texts::tr("Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit."),
-              Texts::tr("FILE"))
-    {
-        m_parser.setApplicationDescription(
-            Texts::tr("Views DXF drawings and erases parts of them."));
-        m_parser.addOption(m_edit);
-        m_parser.addOption(m_picture);
-        m_parser.addPositionalArgument(QStringLiteral("DRAWING"), Texts::tr("A .dxf file to open."),
-                                       QStringLiteral("[DRAWING]"));
-    }
-
-    bool parse(const QStringList& arguments) { return m_parser.parse(arguments); }
-    /// Exits if the arguments are wrong or ask for nothing but help or the version.
-    void process(const QStringList& arguments) { m_parser.process(arguments); }
-
-    bool needsWindow() const
-    {
-        return !m_parser.isSet(m_help) && !m_parser.isSet(QStringLiteral("help-all"))
-               && !m_parser.isSet(m_version) && !wantsPicture();
-    }
-    bool wantsEditMode() const { return m_parser.isSet(m_edit); }
-    bool wantsPicture() const { return m_parser.isSet(m_picture); }
-    QString picture() const { return m_parser.value(m_picture); }
-    QStringList drawings() const { return m_parser.positionalArguments(); }
-
-private:
-    QCommandLineParser m_parser;
-    QCommandLineOption m_help;
-    QCommandLineOption m_version;
-    QCommandLineOption m_edit;
-    QCommandLineOption m_picture;
 };
 
 int fail(const QString& message)
@@ -76,19 +36,48 @@ int failWithFile(const QString& what, const QString& fileName, const QString& re
     return fail(Texts::tr("%1\n%2\n%3").arg(what, readableName(fileName), reason));
 }
 
-int writePicture(const QString& drawing, const QString& picture)
+/// A drawing without a window. Its document is null, and the user is told why, if it cannot be
+/// read.
+DrawingRead readFile(const QString& fileName, const ReadingChoices& choices)
 {
-    const QString cannotOpen = Texts::tr("The drawing cannot be opened.");
+    ReadingWatch watch;
+    const DrawingRead result = readDocument(fileName, choices, watch);
+    if (!result.document)
+        failWithFile(Texts::tr("The drawing cannot be opened."), fileName, result.reason);
+    return result;
+}
+
+int writePicture(const QString& drawing, const CommandLine& commandLine)
+{
+    const DrawingRead content = readFile(drawing, ReadingChoices());
+    if (!content.document)
+        return EXIT_FAILURE;
+    const Picture picture(content.document, colorOf(commandLine.ground()),
+                          readableName(QFileInfo(drawing).fileName()));
     QString reason;
-    const auto text = readDrawing(drawing, reason);
-    if (!text)
-        return failWithFile(cannotOpen, drawing, reason);
-    const auto document = DXFDocument::load(*text);
-    if (!document)
-        return failWithFile(cannotOpen, drawing, Texts::tr("It cannot be read."));
-    if (!Picture(document, View().backgroundBrush()).write(picture, reason))
-        return failWithFile(Texts::tr("The picture cannot be written."), picture, reason);
+    if (!picture.write(commandLine.picture(), reason))
+        return failWithFile(Texts::tr("The picture cannot be written."), commandLine.picture(),
+                            reason);
     return EXIT_SUCCESS;
+}
+
+int report(const QStringList& drawings)
+{
+    // The outlines of letters depend on the fonts of the machine.
+    ReadingChoices choices;
+    choices.showsTexts = false;
+    int result = EXIT_SUCCESS;
+    for (const QString& drawing : drawings) {
+        const DrawingRead content = readFile(drawing, choices);
+        if (!content.document) {
+            result = EXIT_FAILURE;
+            continue;
+        }
+        content.document->setup();
+        const QByteArray line = reportLine(drawing, measuresOf(*content.document), content.skipped);
+        std::printf("%s\n", line.constData());
+    }
+    return result;
 }
 
 int showWindow(const CommandLine& commandLine)
@@ -96,8 +85,6 @@ int showWindow(const CommandLine& commandLine)
     MainWindow window;
     if (commandLine.wantsEditMode())
         window.editNextDrawing();
-    // Shown before the drawing is loaded: it is fitted to the window once, and the window must have
-    // its size by then.
     window.show();
     if (!commandLine.drawings().isEmpty())
         window.openDrawing(commandLine.drawings().constFirst());
@@ -111,8 +98,7 @@ bool isWindowNeeded(int argc, char** argv)
     for (int i = 0; i < argc; ++i)
         arguments += QString::fromLocal8Bit(argv[i]);
     CommandLine commandLine;
-    return commandLine.parse(arguments) && commandLine.needsWindow()
-           && commandLine.drawings().size() <= 1;
+    return commandLine.parse(arguments) && commandLine.needsWindow();
 }
 
 } // namespace
@@ -132,11 +118,14 @@ int main(int argc, char** argv)
 
     CommandLine commandLine;
     commandLine.process(QCoreApplication::arguments());
-    if (commandLine.drawings().size() > 1)
-        return fail(Texts::tr("Only one drawing can be opened."));
-    if (!commandLine.wantsPicture())
-        return showWindow(commandLine);
-    if (commandLine.drawings().isEmpty())
-        return fail(Texts::tr("There is no drawing to make a picture of."));
-    return writePicture(commandLine.drawings().constFirst(), commandLine.picture());
+    // A drawing can bring a hundred thousand lines about what is left out. Warnings stay.
+    if (!commandLine.isVerbose())
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    if (!commandLine.mistake().isEmpty())
+        return fail(commandLine.mistake());
+    if (commandLine.wantsReport())
+        return report(commandLine.drawings());
+    if (commandLine.wantsPicture())
+        return writePicture(commandLine.drawings().constFirst(), commandLine);
+    return showWindow(commandLine);
 }

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Appearance</name>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>&amp;Weiß</translation>
+    </message>
+    <message>
+        <source>&amp;Background</source>
+        <translation>&amp;Hintergrund</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
@@ -10,10 +29,6 @@
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
         <translation>Ein Bild der Zeichnung in DATEI speichern (.png, .svg oder .pdf) und beenden.</translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <translation>DATEI</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -36,10 +51,6 @@
         <translation>Die Zeichnung kann nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>It cannot be read.</source>
-        <translation>Sie kann nicht gelesen werden.</translation>
-    </message>
-    <message>
         <source>The picture cannot be written.</source>
         <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
@@ -54,6 +65,26 @@
     <message>
         <source>There is no drawing to make a picture of.</source>
         <translation>Es ist keine Zeichnung für das Bild angegeben.</translation>
+    </message>
+    <message>
+        <source>What a picture lies on: dark, light or white (the default).</source>
+        <translation>Worauf ein Bild liegt: dark (dunkel), light (hell) oder white (weiß, die Vorgabe).</translation>
+    </message>
+    <message>
+        <source>Print a line for each drawing, with tabs between: the file, the length of all lines, the least x and y, the greatest x and y, and how many objects of which kind are not shown.</source>
+        <translation>Für jede Zeichnung eine Zeile ausgeben, mit Tabulatoren dazwischen: die Datei, die Länge aller Linien, das kleinste x und y, das größte x und y, und wie viele Objekte welcher Art nicht dargestellt werden.</translation>
+    </message>
+    <message>
+        <source>Print what is read and left out.</source>
+        <translation>Ausgeben, was gelesen und was ausgelassen wird.</translation>
+    </message>
+    <message>
+        <source>The ground of a picture is dark, light or white.</source>
+        <translation>Der Grund eines Bildes ist dark, light oder white.</translation>
+    </message>
+    <message>
+        <source>There is no drawing to report on.</source>
+        <translation>Es gibt keine Zeichnung, über die berichtet werden kann.</translation>
     </message>
 </context>
 <context>
@@ -141,10 +172,6 @@
         <source>What it holds now is lost.</source>
         <translation>Ihr jetziger Inhalt geht verloren.</translation>
     </message>
-    <message>
-        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>Das ist die geöffnete Zeichnung. Gespeichert werden nur Layer, Linientypen und Polylinien. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihr schließendes Segment, und Bogensegmente werden gerade.</translation>
-    </message>
 </context>
 <context>
     <name>DrawingRead</name>
@@ -220,6 +247,227 @@
     </message>
 </context>
 <context>
+    <name>KindWords</name>
+    <message>
+        <source>1 line</source>
+        <translation>1 Linie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n Linie</numerusform>
+            <numerusform>%n Linien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 arc</source>
+        <translation>1 Bogen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arcs</source>
+        <translation>
+            <numerusform>%n Bogen</numerusform>
+            <numerusform>%n Bögen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 circle</source>
+        <translation>1 Kreis</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n circles</source>
+        <translation>
+            <numerusform>%n Kreis</numerusform>
+            <numerusform>%n Kreise</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 ellipse</source>
+        <translation>1 Ellipse</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ellipses</source>
+        <translation>
+            <numerusform>%n Ellipse</numerusform>
+            <numerusform>%n Ellipsen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 spline</source>
+        <translation>1 Spline</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n splines</source>
+        <translation>
+            <numerusform>%n Spline</numerusform>
+            <numerusform>%n Splines</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 point</source>
+        <translation>1 Punkt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n Punkt</numerusform>
+            <numerusform>%n Punkte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 block</source>
+        <translation>1 Block</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n blocks</source>
+        <translation>
+            <numerusform>%n Block</numerusform>
+            <numerusform>%n Blöcke</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 dimension</source>
+        <translation>1 Bemaßung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimensions</source>
+        <translation>
+            <numerusform>%n Bemaßung</numerusform>
+            <numerusform>%n Bemaßungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 Text</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts</source>
+        <translation>
+            <numerusform>%n Text</numerusform>
+            <numerusform>%n Texte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 leader</source>
+        <translation>1 Hinweislinie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n leaders</source>
+        <translation>
+            <numerusform>%n Hinweislinie</numerusform>
+            <numerusform>%n Hinweislinien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 filled area</source>
+        <translation>1 gefüllte Fläche</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n filled areas</source>
+        <translation>
+            <numerusform>%n gefüllte Fläche</numerusform>
+            <numerusform>%n gefüllte Flächen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 face</source>
+        <translation>1 3D-Fläche</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n faces</source>
+        <translation>
+            <numerusform>%n 3D-Fläche</numerusform>
+            <numerusform>%n 3D-Flächen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hatch</source>
+        <translation>1 Schraffur</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hatches</source>
+        <translation>
+            <numerusform>%n Schraffur</numerusform>
+            <numerusform>%n Schraffuren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 image</source>
+        <translation>1 Bild</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n images</source>
+        <translation>
+            <numerusform>%n Bild</numerusform>
+            <numerusform>%n Bilder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 infinite line</source>
+        <translation>1 unendliche Linie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n infinite lines</source>
+        <translation>
+            <numerusform>%n unendliche Linie</numerusform>
+            <numerusform>%n unendliche Linien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 other object</source>
+        <translation>1 anderes Objekt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other objects</source>
+        <translation>
+            <numerusform>%n anderes Objekt</numerusform>
+            <numerusform>%n andere Objekte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a list.</extracomment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <extracomment>The end of a list: all parts but the last, and the last.</extracomment>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>Not shown: %1</source>
+        <translation>Nicht dargestellt: %1</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened.</source>
+        <translation>Es ist die Zeichnung, die geöffnet wurde.</translation>
+    </message>
+    <message>
+        <source>%1 becomes polylines.</source>
+        <translation>%1 wird zu Polylinien.</translation>
+    </message>
+    <message>
+        <source>%1 become polylines.</source>
+        <translation>%1 werden zu Polylinien.</translation>
+    </message>
+    <message>
+        <source>%1 is lost.</source>
+        <translation>%1 geht verloren.</translation>
+    </message>
+    <message>
+        <source>%1 are lost.</source>
+        <translation>%1 gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Only layers, line types and polylines are saved.</source>
+        <translation>Nur Layer, Linientypen und Polylinien werden gespeichert.</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>Das ist die geöffnete Zeichnung. Gespeichert werden nur Layer, Linientypen und Polylinien. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihr schließendes Segment, und Bogensegmente werden gerade.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
@@ -238,10 +486,6 @@
         <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Diese Zeichnung enthält keine Polylinien, daher ist nichts zu sehen.</translation>
-    </message>
-    <message>
         <source>No drawing</source>
         <translation>Keine Zeichnung</translation>
     </message>
@@ -257,6 +501,37 @@
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
+    <message>
+        <source>Open a drawing, or drop one here</source>
+        <translation>Öffnen Sie eine Zeichnung oder ziehen Sie eine hierher</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>In dieser Zeichnung gibt es nichts, was dargestellt werden kann.</translation>
+    </message>
+</context>
+<context>
+    <name>Navigation</name>
+    <message>
+        <source>As &amp;Stored (y Downwards)</source>
+        <translation>&amp;Wie gespeichert (y nach unten)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>An &amp;Fenster anpassen</translation>
+    </message>
 </context>
 <context>
     <name>Picture</name>
@@ -271,6 +546,10 @@
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>Der Speicher reicht für das Bild nicht aus.</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>In dieser Zeichnung gibt es nichts, was dargestellt werden kann.</translation>
     </message>
 </context>
 <context>
@@ -345,6 +624,21 @@
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Polylines: %1, segments: %2</source>
+        <translation>Polylinien: %1, Segmente: %2</translation>
+    </message>
+    <message>
+        <source>Drag with the left mouse button to erase, with the middle one to move the drawing.</source>
+        <translation>Mit der linken Maustaste ziehen, um zu radieren, mit der mittleren, um die Zeichnung zu verschieben.</translation>
+    </message>
+</context>
+<context>
     <name>StrokeHistory</name>
     <message>
         <source>Undo</source>
@@ -353,6 +647,17 @@
     <message>
         <source>Redo</source>
         <translation>Wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>ViewChoices</name>
+    <message>
+        <source>&amp;Texts</source>
+        <translation>&amp;Texte</translation>
+    </message>
+    <message>
+        <source>Only &amp;Polylines</source>
+        <translation>Nur &amp;Polylinien</translation>
     </message>
 </context>
 </TS>

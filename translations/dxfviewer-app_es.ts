@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>Appearance</name>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Oscuro</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Claro</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>&amp;Blanco</translation>
+    </message>
+    <message>
+        <source>&amp;Background</source>
+        <translation>&amp;Fondo</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
@@ -10,10 +29,6 @@
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
         <translation>Guardar una imagen del dibujo en ARCHIVO (.png, .svg o .pdf) y salir.</translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <translation>ARCHIVO</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -36,10 +51,6 @@
         <translation>No se puede abrir el dibujo.</translation>
     </message>
     <message>
-        <source>It cannot be read.</source>
-        <translation>No se puede leer.</translation>
-    </message>
-    <message>
         <source>The picture cannot be written.</source>
         <translation>No se puede guardar la imagen.</translation>
     </message>
@@ -54,6 +65,26 @@
     <message>
         <source>There is no drawing to make a picture of.</source>
         <translation>No hay ningún dibujo del que hacer una imagen.</translation>
+    </message>
+    <message>
+        <source>What a picture lies on: dark, light or white (the default).</source>
+        <translation>Fondo de la imagen: dark (oscuro), light (claro) o white (blanco, el predeterminado).</translation>
+    </message>
+    <message>
+        <source>Print a line for each drawing, with tabs between: the file, the length of all lines, the least x and y, the greatest x and y, and how many objects of which kind are not shown.</source>
+        <translation>Imprimir una línea por dibujo, separada por tabuladores: el archivo, la longitud de todas las líneas, las x e y mínimas, las x e y máximas y cuántos objetos de cada tipo no se muestran.</translation>
+    </message>
+    <message>
+        <source>Print what is read and left out.</source>
+        <translation>Mostrar lo que se lee y lo que se omite.</translation>
+    </message>
+    <message>
+        <source>The ground of a picture is dark, light or white.</source>
+        <translation>El fondo de una imagen es dark, light o white.</translation>
+    </message>
+    <message>
+        <source>There is no drawing to report on.</source>
+        <translation>No hay ningún dibujo sobre el que informar.</translation>
     </message>
 </context>
 <context>
@@ -141,10 +172,6 @@
         <source>What it holds now is lost.</source>
         <translation>Su contenido actual se perderá.</translation>
     </message>
-    <message>
-        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>Es el dibujo abierto. Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores propios de cada polilínea. En cuanto se borra algo, las polilíneas cerradas pierden su segmento de cierre y los segmentos curvos se vuelven rectos.</translation>
-    </message>
 </context>
 <context>
     <name>DrawingRead</name>
@@ -220,6 +247,227 @@
     </message>
 </context>
 <context>
+    <name>KindWords</name>
+    <message>
+        <source>1 line</source>
+        <translation>1 línea</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n línea</numerusform>
+            <numerusform>%n líneas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 arc</source>
+        <translation>1 arco</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arcs</source>
+        <translation>
+            <numerusform>%n arco</numerusform>
+            <numerusform>%n arcos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 circle</source>
+        <translation>1 círculo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n circles</source>
+        <translation>
+            <numerusform>%n círculo</numerusform>
+            <numerusform>%n círculos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 ellipse</source>
+        <translation>1 elipse</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ellipses</source>
+        <translation>
+            <numerusform>%n elipse</numerusform>
+            <numerusform>%n elipses</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 spline</source>
+        <translation>1 spline</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n splines</source>
+        <translation>
+            <numerusform>%n spline</numerusform>
+            <numerusform>%n splines</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 point</source>
+        <translation>1 punto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n punto</numerusform>
+            <numerusform>%n puntos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 block</source>
+        <translation>1 bloque</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n blocks</source>
+        <translation>
+            <numerusform>%n bloque</numerusform>
+            <numerusform>%n bloques</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 dimension</source>
+        <translation>1 cota</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimensions</source>
+        <translation>
+            <numerusform>%n cota</numerusform>
+            <numerusform>%n cotas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 texto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts</source>
+        <translation>
+            <numerusform>%n texto</numerusform>
+            <numerusform>%n textos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 leader</source>
+        <translation>1 línea de referencia</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n leaders</source>
+        <translation>
+            <numerusform>%n línea de referencia</numerusform>
+            <numerusform>%n líneas de referencia</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 filled area</source>
+        <translation>1 área rellena</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n filled areas</source>
+        <translation>
+            <numerusform>%n área rellena</numerusform>
+            <numerusform>%n áreas rellenas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 face</source>
+        <translation>1 cara 3D</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n faces</source>
+        <translation>
+            <numerusform>%n cara 3D</numerusform>
+            <numerusform>%n caras 3D</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hatch</source>
+        <translation>1 sombreado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hatches</source>
+        <translation>
+            <numerusform>%n sombreado</numerusform>
+            <numerusform>%n sombreados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 image</source>
+        <translation>1 imagen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n images</source>
+        <translation>
+            <numerusform>%n imagen</numerusform>
+            <numerusform>%n imágenes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 infinite line</source>
+        <translation>1 línea infinita</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n infinite lines</source>
+        <translation>
+            <numerusform>%n línea infinita</numerusform>
+            <numerusform>%n líneas infinitas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 other object</source>
+        <translation>1 objeto más</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other objects</source>
+        <translation>
+            <numerusform>%n objeto más</numerusform>
+            <numerusform>%n objetos más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a list.</extracomment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <extracomment>The end of a list: all parts but the last, and the last.</extracomment>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>Not shown: %1</source>
+        <translation>No se muestra: %1</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened.</source>
+        <translation>Es el dibujo que se abrió.</translation>
+    </message>
+    <message>
+        <source>%1 becomes polylines.</source>
+        <translation>%1 se convierte en polilíneas.</translation>
+    </message>
+    <message>
+        <source>%1 become polylines.</source>
+        <translation>%1 se convierten en polilíneas.</translation>
+    </message>
+    <message>
+        <source>%1 is lost.</source>
+        <translation>%1 se pierde.</translation>
+    </message>
+    <message>
+        <source>%1 are lost.</source>
+        <translation>%1 se pierden.</translation>
+    </message>
+    <message>
+        <source>Only layers, line types and polylines are saved.</source>
+        <translation>Solo se guardan las capas, los tipos de línea y las polilíneas.</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>Es el dibujo abierto. Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores propios de cada polilínea. En cuanto se borra algo, las polilíneas cerradas pierden su segmento de cierre y los segmentos curvos se vuelven rectos.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
@@ -238,10 +486,6 @@
         <translation>&amp;Editar</translation>
     </message>
     <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Este dibujo no contiene polilíneas, por lo que no se muestra nada.</translation>
-    </message>
-    <message>
         <source>No drawing</source>
         <translation>Sin dibujo</translation>
     </message>
@@ -257,6 +501,37 @@
         <source>&amp;Help</source>
         <translation>A&amp;yuda</translation>
     </message>
+    <message>
+        <source>Open a drawing, or drop one here</source>
+        <translation>Abra un dibujo o suéltelo aquí</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>En este dibujo no hay nada que se pueda mostrar.</translation>
+    </message>
+</context>
+<context>
+    <name>Navigation</name>
+    <message>
+        <source>As &amp;Stored (y Downwards)</source>
+        <translation>&amp;Como está guardado (y hacia abajo)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>A&amp;mpliar</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>&amp;Reducir</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>A&amp;justar a la ventana</translation>
+    </message>
 </context>
 <context>
     <name>Picture</name>
@@ -271,6 +546,10 @@
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>No hay memoria suficiente para la imagen.</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>En este dibujo no hay nada que se pueda mostrar.</translation>
     </message>
 </context>
 <context>
@@ -345,6 +624,21 @@
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Polylines: %1, segments: %2</source>
+        <translation>Polilíneas: %1, segmentos: %2</translation>
+    </message>
+    <message>
+        <source>Drag with the left mouse button to erase, with the middle one to move the drawing.</source>
+        <translation>Arrastre con el botón izquierdo del ratón para borrar y con el central para mover el dibujo.</translation>
+    </message>
+</context>
+<context>
     <name>StrokeHistory</name>
     <message>
         <source>Undo</source>
@@ -353,6 +647,17 @@
     <message>
         <source>Redo</source>
         <translation>Rehacer</translation>
+    </message>
+</context>
+<context>
+    <name>ViewChoices</name>
+    <message>
+        <source>&amp;Texts</source>
+        <translation>&amp;Textos</translation>
+    </message>
+    <message>
+        <source>Only &amp;Polylines</source>
+        <translation>Solo &amp;polilíneas</translation>
     </message>
 </context>
 </TS>

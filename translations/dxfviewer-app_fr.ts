@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>Appearance</name>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>&amp;Blanc</translation>
+    </message>
+    <message>
+        <source>&amp;Background</source>
+        <translation>Arrière-&amp;plan</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
@@ -10,10 +29,6 @@
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
         <translation>Enregistrer une image du dessin dans FICHIER (.png, .svg ou .pdf) et quitter.</translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <translation>FICHIER</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -36,10 +51,6 @@
         <translation>Impossible d’ouvrir le dessin.</translation>
     </message>
     <message>
-        <source>It cannot be read.</source>
-        <translation>Impossible de le lire.</translation>
-    </message>
-    <message>
         <source>The picture cannot be written.</source>
         <translation>Impossible d’enregistrer l’image.</translation>
     </message>
@@ -54,6 +65,26 @@
     <message>
         <source>There is no drawing to make a picture of.</source>
         <translation>Aucun dessin n’est donné pour l’image.</translation>
+    </message>
+    <message>
+        <source>What a picture lies on: dark, light or white (the default).</source>
+        <translation>Fond d’une image : dark (sombre), light (clair) ou white (blanc, par défaut).</translation>
+    </message>
+    <message>
+        <source>Print a line for each drawing, with tabs between: the file, the length of all lines, the least x and y, the greatest x and y, and how many objects of which kind are not shown.</source>
+        <translation>Afficher une ligne par dessin, séparée par des tabulations : le fichier, la longueur de toutes les lignes, les x et y minimaux, les x et y maximaux et le nombre d’objets de chaque sorte non représentés.</translation>
+    </message>
+    <message>
+        <source>Print what is read and left out.</source>
+        <translation>Afficher ce qui est lu et ce qui est laissé de côté.</translation>
+    </message>
+    <message>
+        <source>The ground of a picture is dark, light or white.</source>
+        <translation>Le fond d’une image est dark, light ou white.</translation>
+    </message>
+    <message>
+        <source>There is no drawing to report on.</source>
+        <translation>Il n’y a pas de dessin à décrire.</translation>
     </message>
 </context>
 <context>
@@ -141,10 +172,6 @@
         <source>What it holds now is lost.</source>
         <translation>Son contenu actuel sera perdu.</translation>
     </message>
-    <message>
-        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>C’est le dessin qui a été ouvert. Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs propres à chaque polyligne. Dès que quelque chose est effacé, les polylignes fermées perdent leur segment de fermeture et les segments courbes deviennent droits.</translation>
-    </message>
 </context>
 <context>
     <name>DrawingRead</name>
@@ -220,6 +247,227 @@
     </message>
 </context>
 <context>
+    <name>KindWords</name>
+    <message>
+        <source>1 line</source>
+        <translation>1 ligne</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 arc</source>
+        <translation>1 arc</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arcs</source>
+        <translation>
+            <numerusform>%n arc</numerusform>
+            <numerusform>%n arcs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 circle</source>
+        <translation>1 cercle</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n circles</source>
+        <translation>
+            <numerusform>%n cercle</numerusform>
+            <numerusform>%n cercles</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 ellipse</source>
+        <translation>1 ellipse</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ellipses</source>
+        <translation>
+            <numerusform>%n ellipse</numerusform>
+            <numerusform>%n ellipses</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 spline</source>
+        <translation>1 spline</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n splines</source>
+        <translation>
+            <numerusform>%n spline</numerusform>
+            <numerusform>%n splines</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 point</source>
+        <translation>1 point</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n point</numerusform>
+            <numerusform>%n points</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 block</source>
+        <translation>1 bloc</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n blocks</source>
+        <translation>
+            <numerusform>%n bloc</numerusform>
+            <numerusform>%n blocs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 dimension</source>
+        <translation>1 cote</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimensions</source>
+        <translation>
+            <numerusform>%n cote</numerusform>
+            <numerusform>%n cotes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 texte</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts</source>
+        <translation>
+            <numerusform>%n texte</numerusform>
+            <numerusform>%n textes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 leader</source>
+        <translation>1 ligne de repère</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n leaders</source>
+        <translation>
+            <numerusform>%n ligne de repère</numerusform>
+            <numerusform>%n lignes de repère</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 filled area</source>
+        <translation>1 surface remplie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n filled areas</source>
+        <translation>
+            <numerusform>%n surface remplie</numerusform>
+            <numerusform>%n surfaces remplies</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 face</source>
+        <translation>1 face 3D</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n faces</source>
+        <translation>
+            <numerusform>%n face 3D</numerusform>
+            <numerusform>%n faces 3D</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hatch</source>
+        <translation>1 hachure</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hatches</source>
+        <translation>
+            <numerusform>%n hachure</numerusform>
+            <numerusform>%n hachures</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 image</source>
+        <translation>1 image</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n images</source>
+        <translation>
+            <numerusform>%n image</numerusform>
+            <numerusform>%n images</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 infinite line</source>
+        <translation>1 ligne infinie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n infinite lines</source>
+        <translation>
+            <numerusform>%n ligne infinie</numerusform>
+            <numerusform>%n lignes infinies</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 other object</source>
+        <translation>1 autre objet</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other objects</source>
+        <translation>
+            <numerusform>%n autre objet</numerusform>
+            <numerusform>%n autres objets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a list.</extracomment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <extracomment>The end of a list: all parts but the last, and the last.</extracomment>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>Not shown: %1</source>
+        <translation>Non représenté : %1</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened.</source>
+        <translation>C’est le dessin qui a été ouvert.</translation>
+    </message>
+    <message>
+        <source>%1 becomes polylines.</source>
+        <translation>%1 devient des polylignes.</translation>
+    </message>
+    <message>
+        <source>%1 become polylines.</source>
+        <translation>%1 deviennent des polylignes.</translation>
+    </message>
+    <message>
+        <source>%1 is lost.</source>
+        <translation>%1 est perdu.</translation>
+    </message>
+    <message>
+        <source>%1 are lost.</source>
+        <translation>%1 sont perdus.</translation>
+    </message>
+    <message>
+        <source>Only layers, line types and polylines are saved.</source>
+        <translation>Seuls les calques, les types de ligne et les polylignes sont enregistrés.</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>C’est le dessin qui a été ouvert. Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs propres à chaque polyligne. Dès que quelque chose est effacé, les polylignes fermées perdent leur segment de fermeture et les segments courbes deviennent droits.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
@@ -238,10 +486,6 @@
         <translation>É&amp;dition</translation>
     </message>
     <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>Ce dessin ne contient aucune polyligne : rien n’est affiché.</translation>
-    </message>
-    <message>
         <source>No drawing</source>
         <translation>Aucun dessin</translation>
     </message>
@@ -257,6 +501,37 @@
         <source>&amp;Help</source>
         <translation>&amp;Aide</translation>
     </message>
+    <message>
+        <source>Open a drawing, or drop one here</source>
+        <translation>Ouvrez un dessin ou déposez-en un ici</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>Ce dessin ne contient rien qui puisse être représenté.</translation>
+    </message>
+</context>
+<context>
+    <name>Navigation</name>
+    <message>
+        <source>As &amp;Stored (y Downwards)</source>
+        <translation>&amp;Tel quel (y vers le bas)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Zoom a&amp;vant</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Zoom a&amp;rrière</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>&amp;Ajuster à la fenêtre</translation>
+    </message>
 </context>
 <context>
     <name>Picture</name>
@@ -271,6 +546,10 @@
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>Il n’y a pas assez de mémoire pour l’image.</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>Ce dessin ne contient rien qui puisse être représenté.</translation>
     </message>
 </context>
 <context>
@@ -345,6 +624,21 @@
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Polylines: %1, segments: %2</source>
+        <translation>Polylignes : %1, segments : %2</translation>
+    </message>
+    <message>
+        <source>Drag with the left mouse button to erase, with the middle one to move the drawing.</source>
+        <translation>Faites glisser avec le bouton gauche de la souris pour effacer, avec celui du milieu pour déplacer le dessin.</translation>
+    </message>
+</context>
+<context>
     <name>StrokeHistory</name>
     <message>
         <source>Undo</source>
@@ -353,6 +647,17 @@
     <message>
         <source>Redo</source>
         <translation>Rétablir</translation>
+    </message>
+</context>
+<context>
+    <name>ViewChoices</name>
+    <message>
+        <source>&amp;Texts</source>
+        <translation>&amp;Textes</translation>
+    </message>
+    <message>
+        <source>Only &amp;Polylines</source>
+        <translation>&amp;Polylignes seulement</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>Appearance</name>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>ダーク(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>ライト(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>白(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Background</source>
+        <translation>背景(&amp;B)</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
@@ -10,10 +29,6 @@
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
         <translation>図面の画像をファイル（.png、.svg、.pdf）に保存して終了します。</translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <translation>ファイル</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -36,10 +51,6 @@
         <translation>図面を開けません。</translation>
     </message>
     <message>
-        <source>It cannot be read.</source>
-        <translation>読み込めません。</translation>
-    </message>
-    <message>
         <source>The picture cannot be written.</source>
         <translation>画像を保存できません。</translation>
     </message>
@@ -54,6 +65,26 @@
     <message>
         <source>There is no drawing to make a picture of.</source>
         <translation>画像にする図面がありません。</translation>
+    </message>
+    <message>
+        <source>What a picture lies on: dark, light or white (the default).</source>
+        <translation>画像の背景: dark (ダーク)、light (ライト)、white (白、既定値)。</translation>
+    </message>
+    <message>
+        <source>Print a line for each drawing, with tabs between: the file, the length of all lines, the least x and y, the greatest x and y, and how many objects of which kind are not shown.</source>
+        <translation>図面ごとに、タブで区切った 1 行を出力します: ファイル、すべての線の長さ、x と y の最小値、x と y の最大値、表示できないものの種類ごとの数。</translation>
+    </message>
+    <message>
+        <source>Print what is read and left out.</source>
+        <translation>読み込んだものと除いたものを出力します。</translation>
+    </message>
+    <message>
+        <source>The ground of a picture is dark, light or white.</source>
+        <translation>画像の背景は dark、light、white のいずれかです。</translation>
+    </message>
+    <message>
+        <source>There is no drawing to report on.</source>
+        <translation>報告する図面がありません。</translation>
     </message>
 </context>
 <context>
@@ -141,10 +172,6 @@
         <source>What it holds now is lost.</source>
         <translation>現在の内容は失われます。</translation>
     </message>
-    <message>
-        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>開いた図面そのものです。保存されるのは画層、線種、ポリラインだけです。ファイルの他の内容（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。何かを消すと、閉じたポリラインでは閉じる線分が失われ、ポリラインの円弧部分は直線になります。</translation>
-    </message>
 </context>
 <context>
     <name>DrawingRead</name>
@@ -220,6 +247,211 @@
     </message>
 </context>
 <context>
+    <name>KindWords</name>
+    <message>
+        <source>1 line</source>
+        <translation>1 個の線分</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n 個の線分</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 arc</source>
+        <translation>1 個の円弧</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arcs</source>
+        <translation>
+            <numerusform>%n 個の円弧</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 circle</source>
+        <translation>1 個の円</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n circles</source>
+        <translation>
+            <numerusform>%n 個の円</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 ellipse</source>
+        <translation>1 個の楕円</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ellipses</source>
+        <translation>
+            <numerusform>%n 個の楕円</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 spline</source>
+        <translation>1 個のスプライン</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n splines</source>
+        <translation>
+            <numerusform>%n 個のスプライン</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 point</source>
+        <translation>1 個の点</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n 個の点</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 block</source>
+        <translation>1 個のブロック</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n blocks</source>
+        <translation>
+            <numerusform>%n 個のブロック</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 dimension</source>
+        <translation>1 個の寸法</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimensions</source>
+        <translation>
+            <numerusform>%n 個の寸法</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 個の文字列</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts</source>
+        <translation>
+            <numerusform>%n 個の文字列</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 leader</source>
+        <translation>1 個の引出線</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n leaders</source>
+        <translation>
+            <numerusform>%n 個の引出線</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 filled area</source>
+        <translation>1 個の塗りつぶし</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n filled areas</source>
+        <translation>
+            <numerusform>%n 個の塗りつぶし</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 face</source>
+        <translation>1 個の面</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n faces</source>
+        <translation>
+            <numerusform>%n 個の面</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hatch</source>
+        <translation>1 個のハッチング</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hatches</source>
+        <translation>
+            <numerusform>%n 個のハッチング</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 image</source>
+        <translation>1 個の画像</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n images</source>
+        <translation>
+            <numerusform>%n 個の画像</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 infinite line</source>
+        <translation>1 個の無限直線</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n infinite lines</source>
+        <translation>
+            <numerusform>%n 個の無限直線</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 other object</source>
+        <translation>その他 1 個</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other objects</source>
+        <translation>
+            <numerusform>その他 %n 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a list.</extracomment>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <extracomment>The end of a list: all parts but the last, and the last.</extracomment>
+        <translation>%1、%2</translation>
+    </message>
+    <message>
+        <source>Not shown: %1</source>
+        <translation>表示できないもの: %1</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened.</source>
+        <translation>開いた図面そのものです。</translation>
+    </message>
+    <message>
+        <source>%1 becomes polylines.</source>
+        <translation>%1はポリラインになります。</translation>
+    </message>
+    <message>
+        <source>%1 become polylines.</source>
+        <translation>%1はポリラインになります。</translation>
+    </message>
+    <message>
+        <source>%1 is lost.</source>
+        <translation>%1は失われます。</translation>
+    </message>
+    <message>
+        <source>%1 are lost.</source>
+        <translation>%1は失われます。</translation>
+    </message>
+    <message>
+        <source>Only layers, line types and polylines are saved.</source>
+        <translation>保存されるのは、レイヤー、線種、ポリラインだけです。</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>開いた図面そのものです。保存されるのは画層、線種、ポリラインだけです。ファイルの他の内容（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。何かを消すと、閉じたポリラインでは閉じる線分が失われ、ポリラインの円弧部分は直線になります。</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
@@ -238,10 +470,6 @@
         <translation>編集(&amp;E)</translation>
     </message>
     <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>この図面にはポリラインがないため、何も表示されません。</translation>
-    </message>
-    <message>
         <source>No drawing</source>
         <translation>図面なし</translation>
     </message>
@@ -257,6 +485,37 @@
         <source>&amp;Help</source>
         <translation>ヘルプ(&amp;H)</translation>
     </message>
+    <message>
+        <source>Open a drawing, or drop one here</source>
+        <translation>図面を開くか、ここにドロップしてください</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>この図面には表示できるものがありません。</translation>
+    </message>
+</context>
+<context>
+    <name>Navigation</name>
+    <message>
+        <source>As &amp;Stored (y Downwards)</source>
+        <translation>保存されたまま (y 軸が下向き)(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>拡大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>縮小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>ウィンドウに合わせる(&amp;F)</translation>
+    </message>
 </context>
 <context>
     <name>Picture</name>
@@ -271,6 +530,10 @@
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>メモリ不足のため画像を作成できません。</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>この図面には表示できるものがありません。</translation>
     </message>
 </context>
 <context>
@@ -345,6 +608,21 @@
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Polylines: %1, segments: %2</source>
+        <translation>ポリライン: %1、線分: %2</translation>
+    </message>
+    <message>
+        <source>Drag with the left mouse button to erase, with the middle one to move the drawing.</source>
+        <translation>左ボタンのドラッグで消去、中ボタンのドラッグで図面を移動します。</translation>
+    </message>
+</context>
+<context>
     <name>StrokeHistory</name>
     <message>
         <source>Undo</source>
@@ -353,6 +631,17 @@
     <message>
         <source>Redo</source>
         <translation>やり直す</translation>
+    </message>
+</context>
+<context>
+    <name>ViewChoices</name>
+    <message>
+        <source>&amp;Texts</source>
+        <translation>文字列(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Only &amp;Polylines</source>
+        <translation>ポリラインのみ(&amp;P)</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>Appearance</name>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Тёмный</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Светлый</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>&amp;Белый</translation>
+    </message>
+    <message>
+        <source>&amp;Background</source>
+        <translation>&amp;Фон</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Start in edit mode.</source>
@@ -10,10 +29,6 @@
     <message>
         <source>Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit.</source>
         <translation>Сохранить изображение чертежа в ФАЙЛ (.png, .svg или .pdf) и выйти.</translation>
-    </message>
-    <message>
-        <source>FILE</source>
-        <translation>ФАЙЛ</translation>
     </message>
     <message>
         <source>Views DXF drawings and erases parts of them.</source>
@@ -36,10 +51,6 @@
         <translation>Не удаётся открыть чертёж.</translation>
     </message>
     <message>
-        <source>It cannot be read.</source>
-        <translation>Не удаётся прочитать чертёж.</translation>
-    </message>
-    <message>
         <source>The picture cannot be written.</source>
         <translation>Не удаётся сохранить изображение.</translation>
     </message>
@@ -54,6 +65,26 @@
     <message>
         <source>There is no drawing to make a picture of.</source>
         <translation>Не указан чертёж для изображения.</translation>
+    </message>
+    <message>
+        <source>What a picture lies on: dark, light or white (the default).</source>
+        <translation>Фон изображения: dark (тёмный), light (светлый) или white (белый, по умолчанию).</translation>
+    </message>
+    <message>
+        <source>Print a line for each drawing, with tabs between: the file, the length of all lines, the least x and y, the greatest x and y, and how many objects of which kind are not shown.</source>
+        <translation>Вывести строку для каждого чертежа, поля через табуляцию: файл, длина всех линий, наименьшие x и y, наибольшие x и y и сколько объектов какого вида не показано.</translation>
+    </message>
+    <message>
+        <source>Print what is read and left out.</source>
+        <translation>Выводить, что прочитано и что пропущено.</translation>
+    </message>
+    <message>
+        <source>The ground of a picture is dark, light or white.</source>
+        <translation>Фон изображения: dark, light или white.</translation>
+    </message>
+    <message>
+        <source>There is no drawing to report on.</source>
+        <translation>Нет чертежа для отчёта.</translation>
     </message>
 </context>
 <context>
@@ -141,10 +172,6 @@
         <source>What it holds now is lost.</source>
         <translation>Его нынешнее содержимое будет потеряно.</translation>
     </message>
-    <message>
-        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
-        <translation>Это открытый чертёж. Сохраняются только слои, типы линий и полилинии. Всё остальное содержимое файла теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающий сегмент, а дуговые сегменты становятся прямыми.</translation>
-    </message>
 </context>
 <context>
     <name>DrawingRead</name>
@@ -220,6 +247,243 @@
     </message>
 </context>
 <context>
+    <name>KindWords</name>
+    <message>
+        <source>1 line</source>
+        <translation>1 отрезок</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines</source>
+        <translation>
+            <numerusform>%n отрезок</numerusform>
+            <numerusform>%n отрезка</numerusform>
+            <numerusform>%n отрезков</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 arc</source>
+        <translation>1 дуга</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n arcs</source>
+        <translation>
+            <numerusform>%n дуга</numerusform>
+            <numerusform>%n дуги</numerusform>
+            <numerusform>%n дуг</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 circle</source>
+        <translation>1 окружность</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n circles</source>
+        <translation>
+            <numerusform>%n окружность</numerusform>
+            <numerusform>%n окружности</numerusform>
+            <numerusform>%n окружностей</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 ellipse</source>
+        <translation>1 эллипс</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ellipses</source>
+        <translation>
+            <numerusform>%n эллипс</numerusform>
+            <numerusform>%n эллипса</numerusform>
+            <numerusform>%n эллипсов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 spline</source>
+        <translation>1 сплайн</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n splines</source>
+        <translation>
+            <numerusform>%n сплайн</numerusform>
+            <numerusform>%n сплайна</numerusform>
+            <numerusform>%n сплайнов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 point</source>
+        <translation>1 точка</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n points</source>
+        <translation>
+            <numerusform>%n точка</numerusform>
+            <numerusform>%n точки</numerusform>
+            <numerusform>%n точек</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 block</source>
+        <translation>1 блок</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n blocks</source>
+        <translation>
+            <numerusform>%n блок</numerusform>
+            <numerusform>%n блока</numerusform>
+            <numerusform>%n блоков</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 dimension</source>
+        <translation>1 размер</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n dimensions</source>
+        <translation>
+            <numerusform>%n размер</numerusform>
+            <numerusform>%n размера</numerusform>
+            <numerusform>%n размеров</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 text</source>
+        <translation>1 текст</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n texts</source>
+        <translation>
+            <numerusform>%n текст</numerusform>
+            <numerusform>%n текста</numerusform>
+            <numerusform>%n текстов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 leader</source>
+        <translation>1 выноска</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n leaders</source>
+        <translation>
+            <numerusform>%n выноска</numerusform>
+            <numerusform>%n выноски</numerusform>
+            <numerusform>%n выносок</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 filled area</source>
+        <translation>1 заливка</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n filled areas</source>
+        <translation>
+            <numerusform>%n заливка</numerusform>
+            <numerusform>%n заливки</numerusform>
+            <numerusform>%n заливок</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 face</source>
+        <translation>1 грань</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n faces</source>
+        <translation>
+            <numerusform>%n грань</numerusform>
+            <numerusform>%n грани</numerusform>
+            <numerusform>%n граней</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hatch</source>
+        <translation>1 штриховка</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hatches</source>
+        <translation>
+            <numerusform>%n штриховка</numerusform>
+            <numerusform>%n штриховки</numerusform>
+            <numerusform>%n штриховок</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 image</source>
+        <translation>1 изображение</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n images</source>
+        <translation>
+            <numerusform>%n изображение</numerusform>
+            <numerusform>%n изображения</numerusform>
+            <numerusform>%n изображений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 infinite line</source>
+        <translation>1 бесконечная прямая</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n infinite lines</source>
+        <translation>
+            <numerusform>%n бесконечная прямая</numerusform>
+            <numerusform>%n бесконечные прямые</numerusform>
+            <numerusform>%n бесконечных прямых</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 other object</source>
+        <translation>1 другой объект</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other objects</source>
+        <translation>
+            <numerusform>%n другой объект</numerusform>
+            <numerusform>%n других объекта</numerusform>
+            <numerusform>%n других объектов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a list.</extracomment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <extracomment>The end of a list: all parts but the last, and the last.</extracomment>
+        <translation>%1 и %2</translation>
+    </message>
+    <message>
+        <source>Not shown: %1</source>
+        <translation>Не показано: %1</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened.</source>
+        <translation>Это открытый чертёж.</translation>
+    </message>
+    <message>
+        <source>%1 becomes polylines.</source>
+        <translation>%1 превратится в полилинии.</translation>
+    </message>
+    <message>
+        <source>%1 become polylines.</source>
+        <translation>%1 превратятся в полилинии.</translation>
+    </message>
+    <message>
+        <source>%1 is lost.</source>
+        <translation>Будет потеряно: %1.</translation>
+    </message>
+    <message>
+        <source>%1 are lost.</source>
+        <translation>Будет потеряно: %1.</translation>
+    </message>
+    <message>
+        <source>Only layers, line types and polylines are saved.</source>
+        <translation>Сохраняются только слои, типы линий и полилинии.</translation>
+    </message>
+    <message>
+        <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
+        <translation>Это открытый чертёж. Сохраняются только слои, типы линий и полилинии. Всё остальное содержимое файла теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающий сегмент, а дуговые сегменты становятся прямыми.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>&amp;File</source>
@@ -238,10 +502,6 @@
         <translation>&amp;Правка</translation>
     </message>
     <message>
-        <source>There are no polylines in this drawing, so nothing is shown.</source>
-        <translation>В этом чертеже нет полилиний, поэтому ничего не показано.</translation>
-    </message>
-    <message>
         <source>No drawing</source>
         <translation>Нет чертежа</translation>
     </message>
@@ -257,6 +517,37 @@
         <source>&amp;Help</source>
         <translation>&amp;Справка</translation>
     </message>
+    <message>
+        <source>Open a drawing, or drop one here</source>
+        <translation>Откройте чертёж или перетащите его сюда</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>В этом чертеже нет ничего, что можно показать.</translation>
+    </message>
+</context>
+<context>
+    <name>Navigation</name>
+    <message>
+        <source>As &amp;Stored (y Downwards)</source>
+        <translation>&amp;Как в файле (ось y вниз)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>У&amp;величить</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>У&amp;меньшить</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>В&amp;писать в окно</translation>
+    </message>
 </context>
 <context>
     <name>Picture</name>
@@ -271,6 +562,10 @@
     <message>
         <source>There is not enough memory for the picture.</source>
         <translation>Для изображения не хватает памяти.</translation>
+    </message>
+    <message>
+        <source>There is nothing in this drawing that can be shown.</source>
+        <translation>В этом чертеже нет ничего, что можно показать.</translation>
     </message>
 </context>
 <context>
@@ -345,6 +640,21 @@
     </message>
 </context>
 <context>
+    <name>StatusLine</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Polylines: %1, segments: %2</source>
+        <translation>Полилинии: %1, сегменты: %2</translation>
+    </message>
+    <message>
+        <source>Drag with the left mouse button to erase, with the middle one to move the drawing.</source>
+        <translation>Тяните левой кнопкой мыши, чтобы стирать, средней — чтобы двигать чертёж.</translation>
+    </message>
+</context>
+<context>
     <name>StrokeHistory</name>
     <message>
         <source>Undo</source>
@@ -353,6 +663,17 @@
     <message>
         <source>Redo</source>
         <translation>Повторить</translation>
+    </message>
+</context>
+<context>
+    <name>ViewChoices</name>
+    <message>
+        <source>&amp;Texts</source>
+        <translation>&amp;Тексты</translation>
+    </message>
+    <message>
+        <source>Only &amp;Polylines</source>
+        <translation>Только &amp;полилинии</translation>
     </message>
 </context>
 </TS>

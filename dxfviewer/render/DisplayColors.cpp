@@ -60,12 +60,22 @@ QColor hueColor(int number)
     return QColor(channel(0), channel(120), channel(240));
 }
 
+/// How much light a channel of a screen gives, from 0 to 1.
+double linear(int channel)
+{
+    static const auto values = [] {
+        std::array<double, 256> all{};
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            const double value = static_cast<double>(i) / 255.0;
+            all[i] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        }
+        return all;
+    }();
+    return values[static_cast<std::size_t>(channel)];
+}
+
 double luminance(const QColor& color)
 {
-    const auto linear = [](int channel) {
-        const double value = channel / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
     return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green())
            + 0.0722 * linear(color.blue());
 }
@@ -86,8 +96,13 @@ bool isLegible(const QColor& color, const QColor& ground)
 } // namespace
 
 DisplayColors::DisplayColors(const QColor& ground)
-    : m_ground(ground)
+    : m_ground(ground.isValid() ? ground.toRgb() : QColor(Qt::black))
+    , m_indexColors(lastNumber + 1, blackOrWhiteOn(m_ground))
 {
+    for (int number = 1; number < lastNumber; ++number) {
+        if (number != plainNumber)
+            m_indexColors[number] = legible(tableColor(number));
+    }
 }
 
 DisplayColors DisplayColors::allIn(const QColor& color)
@@ -138,9 +153,7 @@ QColor DisplayColors::indexColor(int number) const
 {
     if (m_single.isValid())
         return m_single;
-    if (number < 1 || number >= lastNumber || number == plainNumber)
-        return blackOrWhiteOn(m_ground);
-    return legible(tableColor(number));
+    return m_indexColors.at(number < 1 || number > lastNumber ? plainNumber : number);
 }
 
 QColor DisplayColors::legible(const QColor& color) const

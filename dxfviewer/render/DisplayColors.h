@@ -5,6 +5,7 @@
 #include "dxfviewer/dxfviewer_export.h"
 
 #include <QColor>
+#include <QVector>
 
 class DXFDocument;
 class DXFEntity;
@@ -50,6 +51,8 @@ private:
     QColor resolved(int number, int color24) const;
 
     QColor m_ground;
+    // By number. A large drawing asks very often.
+    QVector<QColor> m_indexColors;
     // Invalid: the drawing's own colours.
     QColor m_single;
 };

@@ -2,10 +2,14 @@
 
 #include "MainWindow.h"
 #include "DrawingFiles.h"
+#include "EmptyPage.h"
+#include "Ground.h"
+#include "Settings.h"
 #include "ViewerParts.h"
 
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/render/DXFGraphicsItem.h"
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/app/DialogRobot.h"
 #include "tests/support/Builders.h"
@@ -15,24 +19,29 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGraphicsView>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
 
+#include <algorithm>
 #include <csignal>
 #include <memory>
+#include <set>
 
 #include <sys/resource.h>
 
@@ -49,15 +58,33 @@ const QByteArray crossDrawing =
     "0\nLWPOLYLINE\n8\n0\n90\n2\n70\n0\n10\n-100\n20\n0\n10\n100\n20\n0\n"
     "0\nLWPOLYLINE\n8\n0\n90\n2\n70\n0\n10\n50\n20\n-100\n10\n50\n20\n100\n"
     "0\nENDSEC\n0\nEOF\n";
-const QByteArray drawingWithoutPolylines =
-    "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDSEC\n0\nEOF\n";
+/// A polyline, an arc, a block of one line, and two hatches, which cannot be shown.
+const QByteArray mixedDrawing =
+    "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nB\n70\n0\n10\n0\n20\n0\n"
+    "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDBLK\n0\nENDSEC\n"
+    "0\nSECTION\n2\nENTITIES\n"
+    "0\nLWPOLYLINE\n8\n0\n90\n2\n70\n0\n10\n50\n20\n-100\n10\n50\n20\n100\n"
+    "0\nARC\n8\n0\n10\n0\n20\n0\n40\n30\n50\n0\n51\n90\n"
+    "0\nINSERT\n8\n0\n2\nB\n10\n-50\n20\n0\n"
+    "0\nHATCH\n8\n0\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n";
+const QByteArray hatchOnly = "0\nSECTION\n2\nENTITIES\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n";
+
+/// The plain reader may list a polyline more than once.
+std::set<const DXFEntity*> polylinesOf(const DXFDocument& document)
+{
+    std::set<const DXFEntity*> polylines;
+    for (const auto& entity : document.entities())
+        polylines.insert(entity.data());
+    return polylines;
+}
 
 class MainWindowTest : public dxftest::LoggedTest
 {
 protected:
     MainWindowTest()
-        : m_window(std::make_unique<MainWindow>())
     {
+        Settings().clear();
+        m_window = std::make_unique<MainWindow>();
         m_window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get(), dxftest::patienceMs));
     }
@@ -140,6 +167,17 @@ protected:
     /// Erases the cross's upright line.
     void erase() { SceneMouse(view()).drag({{50, 60}, {50, 61}, {50, 62}}); }
 
+    EmptyPage& emptyPage() const { return *m_window->findChild<EmptyPage*>(); }
+
+    /// Whether a part of the status bar shows this.
+    bool statusShows(const char* text) const
+    {
+        const auto labels = m_window->statusBar()->findChildren<QLabel*>();
+        return std::any_of(labels.cbegin(), labels.cend(), [text](const QLabel* label) {
+            return label->text().contains(QString::fromUtf8(text));
+        });
+    }
+
     int polylineCount() const
     {
         return static_cast<int>(shownDocument(viewer())->entities().size());
@@ -219,9 +257,219 @@ TEST_F(MainWindowTest, KeepsTheDrawingOnScreenWhenAnotherCannotBeRead)
 
 TEST_F(MainWindowTest, SaysThatThereIsNothingToShow)
 {
-    open(fileWith(drawingWithoutPolylines, QStringLiteral("lines.dxf")));
+    open(fileWith(hatchOnly, QStringLiteral("hatch.dxf")));
 
-    EXPECT_THAT(m_window->statusBar()->currentMessage().toStdString(), HasSubstr("no polylines"));
+    EXPECT_TRUE(emptyPage().isVisible());
+    EXPECT_THAT(emptyPage().text().toStdString(), HasSubstr("nothing in this drawing"));
+
+    open(crossFile());
+    EXPECT_FALSE(emptyPage().isVisible());
+}
+
+TEST_F(MainWindowTest, SaysWhatToDoWithoutADrawing)
+{
+    EXPECT_TRUE(emptyPage().isVisible());
+    EXPECT_EQ(emptyPage().text(), QStringLiteral("Open a drawing, or drop one here"));
+    EXPECT_FALSE(edit().isEnabled());
+
+    press(Qt::Key_E);
+    EXPECT_FALSE(edit().isChecked());
+
+    open(crossFile());
+    EXPECT_FALSE(emptyPage().isVisible());
+    press(Qt::Key_E);
+    EXPECT_TRUE(edit().isChecked());
+}
+
+TEST_F(MainWindowTest, ShowsMoreThanPolylinesAndSaysWhatIsMissing)
+{
+    open(fileWith(mixedDrawing, QStringLiteral("mixed.dxf")));
+
+    EXPECT_EQ(polylineCount(), 3);
+    EXPECT_TRUE(statusShows("Not shown: 2 hatches"));
+}
+
+TEST_F(MainWindowTest, ShowsOnlyPolylinesWhenTold)
+{
+    open(fileWith(mixedDrawing, QStringLiteral("mixed.dxf")));
+    const auto before = shownDocument(viewer());
+
+    action("Only &Polylines").trigger();
+
+    EXPECT_TRUE(dxftest::eventually([&] { return shownDocument(viewer()) != before; }));
+    EXPECT_EQ(polylinesOf(*shownDocument(viewer())).size(), 1);
+    EXPECT_FALSE(statusShows("Not shown"));
+}
+
+TEST_F(MainWindowTest, AsksBeforeAChoiceOfTheViewThrowsEditsAway)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectButton(QMessageBox::Cancel);
+
+    action("Only &Polylines").trigger();
+
+    EXPECT_FALSE(action("Only &Polylines").isChecked());
+    EXPECT_TRUE(edit().isChecked());
+    EXPECT_EQ(polylineCount(), 1);
+}
+
+TEST_F(MainWindowTest, ReadsTheDrawingAgainForItsTexts)
+{
+    open(fileWith(mixedDrawing, QStringLiteral("mixed.dxf")));
+    const auto before = shownDocument(viewer());
+    ASSERT_TRUE(action("&Texts").isChecked());
+
+    action("&Texts").trigger();
+
+    EXPECT_TRUE(dxftest::eventually([&] { return shownDocument(viewer()) != before; }));
+    EXPECT_EQ(polylineCount(), 3);
+}
+
+TEST_F(MainWindowTest, KeysZoomAndFit)
+{
+    open(crossFile());
+    const double fitted = view().transform().m11();
+
+    press(Qt::Key_Plus);
+    EXPECT_NEAR(view().transform().m11(), fitted * 1.25, 1e-9);
+    press(Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier);
+    press(Qt::Key_Equal);
+    EXPECT_NEAR(view().transform().m11(), fitted * 1.25 * 1.25 * 1.25, 1e-9);
+    press(Qt::Key_Minus);
+    press(Qt::Key_Minus, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_NEAR(view().transform().m11(), fitted * 1.25, 1e-9);
+    press(Qt::Key_0);
+    EXPECT_NEAR(view().transform().m11(), fitted, 1e-9);
+}
+
+TEST_F(MainWindowTest, CtrlAndDragMovesTheDrawingBeforeAndAfterEditMode)
+{
+    open(crossFile());
+    for (const bool wasEdited : {false, true}) {
+        if (wasEdited) {
+            edit().setChecked(true);
+            edit().setChecked(false);
+            ASSERT_TRUE(dxftest::eventually([this] { return shownItem(viewer())->isEnabled(); }));
+        }
+        const QPointF before = view().viewportTransform().map(QPointF(0, 0));
+        QTest::keyPress(&view(), Qt::Key_Control, Qt::ControlModifier);
+
+        SceneMouse mouse(view());
+        mouse.modifiers = Qt::ControlModifier;
+        mouse.drag({{0, 0}, {10, 10}});
+        QTest::keyRelease(&view(), Qt::Key_Control);
+
+        const QPointF moved = view().viewportTransform().map(QPointF(0, 0)) - before;
+        EXPECT_GT(moved.x(), 5.0) << wasEdited;
+        EXPECT_LT(moved.y(), -5.0) << wasEdited;
+    }
+}
+
+TEST_F(MainWindowTest, ShowsTheDrawingsColorsOnTheGroundThatIsChosen)
+{
+    open(crossFile());
+    const auto colorOfLine = [this] {
+        return shownDocument(viewer())->entities().constFirst()->color();
+    };
+    EXPECT_EQ(colorOfLine(), QColor(Qt::white));
+
+    action("&White").trigger();
+
+    EXPECT_EQ(colorOfLine(), QColor(Qt::black));
+    EXPECT_EQ(view().backgroundBrush().color(), QColor(Qt::white));
+    EXPECT_TRUE(action("&White").isChecked());
+    EXPECT_FALSE(action("&Dark").isChecked());
+}
+
+TEST_F(MainWindowTest, WhatAnUndoBringsBackIsLegibleOnTheNewGround)
+{
+    openInEditMode();
+    erase();
+
+    action("&White").trigger();
+    press(Qt::Key_Z);
+
+    ASSERT_EQ(polylineCount(), 2);
+    for (const auto& entity : shownDocument(viewer())->entities())
+        EXPECT_EQ(entity->color(), QColor(Qt::black));
+}
+
+TEST_F(MainWindowTest, RemembersItsLooks)
+{
+    action("&Light").trigger();
+    action("As &Stored (y Downwards)").trigger();
+    action("Only &Polylines").trigger();
+    action("&Texts").trigger();
+    m_window->resize(611, 433);
+    m_window->close();
+
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+
+    EXPECT_EQ(m_window->size(), QSize(611, 433));
+    EXPECT_TRUE(action("&Light").isChecked());
+    EXPECT_EQ(view().backgroundBrush().color(), colorOf(Ground::Light));
+    EXPECT_TRUE(action("As &Stored (y Downwards)").isChecked());
+    EXPECT_TRUE(action("Only &Polylines").isChecked());
+    EXPECT_FALSE(action("&Texts").isChecked());
+}
+
+TEST_F(MainWindowTest, NonsenseInTheSettingsDoesNoHarm)
+{
+    const QString fileName = Settings().fileName();
+    for (const QByteArray& nonsense :
+         {QByteArray("[window]\ngeometry=@ByteArray(xx)\n[view]\nbackground=purple\n"
+                     "asStored=@Variant(\\0\\0)\n"),
+          QByteArray(4096, '\xFF'), QByteArray("\0\0[[[=;\n%%%", 10)}) {
+        m_window.reset();
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(fileName).path()));
+        QFile file(fileName);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(nonsense);
+        file.close();
+
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
+
+        EXPECT_TRUE(action("&Dark").isChecked());
+        EXPECT_TRUE(m_window->close());
+    }
+}
+
+TEST_F(MainWindowTest, FitsTheScreenAtFirst)
+{
+    EXPECT_TRUE(m_window->screen()->availableGeometry().contains(m_window->frameGeometry()));
+}
+
+TEST_F(MainWindowTest, TellsWhereThePointerIs)
+{
+    open(crossFile());
+
+    SceneMouse(view()).move({12, -34});
+
+    // The mouse goes from pixel to pixel.
+    const QPointF pixel = view().mapFromScene(12, -34);
+    const QPointF place = view().viewportTransform().inverted().map(pixel);
+    EXPECT_TRUE(statusShows(qPrintable(
+        QStringLiteral("x %1  y %2").arg(place.x(), 0, 'f', 1).arg(place.y(), 0, 'f', 1))));
+}
+
+TEST_F(MainWindowTest, TellsTheZoomAndHowMuchThereIs)
+{
+    open(crossFile());
+    EXPECT_TRUE(statusShows("100 %"));
+    EXPECT_TRUE(statusShows("Polylines: 2, segments: 2"));
+
+    action("Zoom &In").trigger();
+    EXPECT_TRUE(statusShows("125 %"));
+
+    edit().setChecked(true);
+    EXPECT_TRUE(statusShows("to erase"));
+    erase();
+    EXPECT_TRUE(dxftest::eventually([this] { return statusShows("Polylines: 1, segments: 1"); }));
+    edit().setChecked(false);
+    EXPECT_FALSE(statusShows("to erase"));
 }
 
 TEST_F(MainWindowTest, KeyOpensTheDrawingThatIsChosen)
@@ -438,9 +686,10 @@ TEST_F(MainWindowTest, UndoAfterASaveIsAnEdit)
 
 TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
 {
-    openInEditMode();
+    const QString fileName = fileWith(mixedDrawing, QStringLiteral("mixed.dxf"));
+    open(fileName);
+    edit().setChecked(true);
     erase();
-    const QString fileName = crossFile();
     std::string warning;
     m_robot.expectFileName(fileName);
     m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
@@ -450,8 +699,10 @@ TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
 
     press(Qt::Key_S);
 
+    EXPECT_THAT(warning,
+                HasSubstr("1 line, 1 arc and 1 block become polylines. 2 hatches are lost."));
     EXPECT_THAT(warning, HasSubstr("Only layers, line types and polylines are saved"));
-    EXPECT_EQ(contentOf(fileName), crossDrawing);
+    EXPECT_EQ(contentOf(fileName), mixedDrawing);
     EXPECT_TRUE(m_window->isWindowModified());
 }
 

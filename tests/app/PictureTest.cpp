@@ -81,10 +81,10 @@ TEST_F(PictureTest, ShowsTheStrokesWhereTheyAre)
     const QImage image = png(drawingOf({{0, 0}, {100, 0}, {100, 50}}));
 
     EXPECT_GT(image.width(), image.height());
-    EXPECT_TRUE(isStroke(image, 0.5, 0.02 / 0.54));
+    EXPECT_TRUE(isStroke(image, 0.5, 0.52 / 0.54));
     EXPECT_TRUE(isStroke(image, 1.02 / 1.04, 0.5));
     EXPECT_FALSE(isStroke(image, 0.5, 0.5));
-    EXPECT_EQ(image.pixel(2, image.height() - 3), background);
+    EXPECT_EQ(image.pixel(2, 3), background);
 }
 
 TEST_F(PictureTest, ShowsTheClosingEdge)
@@ -106,9 +106,9 @@ TEST_F(PictureTest, KeepsFarAwayCoordinatesApart)
     QSvgRenderer(svg).render(&painter);
     painter.end();
 
-    EXPECT_TRUE(isStroke(image, 0.5, 0.02 / 1.04));
+    EXPECT_TRUE(isStroke(image, 0.5, 1.02 / 1.04));
     EXPECT_TRUE(isStroke(image, 1.02 / 1.04, 0.5));
-    EXPECT_FALSE(isStroke(image, 0.3, 0.7));
+    EXPECT_FALSE(isStroke(image, 0.3, 0.3));
 }
 
 TEST_F(PictureTest, WritesEachKind)
@@ -134,12 +134,55 @@ TEST_F(PictureTest, TakesTheDrawingAtOnce)
     EXPECT_TRUE(isStroke(QImage(fileName(QStringLiteral("before.png"))), 0.5, 0.5));
 }
 
-TEST_F(PictureTest, AnEmptyDrawingGivesAnEmptyPicture)
+TEST_F(PictureTest, RefusesADrawingWithNothingToShow)
 {
-    const QImage image = png(makeDocument({nullptr, makePolyline({})}));
+    QString reason;
 
-    ASSERT_FALSE(image.isNull());
-    EXPECT_EQ(image.pixel(image.width() / 2, image.height() / 2), background);
+    const bool isWritten = Picture(makeDocument({nullptr, makePolyline({})}), QColor(background))
+                               .write(fileName(QStringLiteral("x.png")), reason);
+
+    EXPECT_FALSE(isWritten);
+    EXPECT_THAT(reason.toStdString(), HasSubstr("nothing in this drawing"));
+    EXPECT_FALSE(QFile::exists(fileName(QStringLiteral("x.png"))));
+}
+
+TEST_F(PictureTest, HasTheDrawingsColorsOnItsGround)
+{
+    const auto polyline = makePolyline({{0, 0}, {100, 0}});
+    polyline->setAttributes(makeAttributes(QStringLiteral("0"), 7));
+    const auto document = makeDocument({polyline});
+    document->setup();
+    polyline->setColor(Qt::magenta);
+    const QString name = fileName(QStringLiteral("seven.png"));
+    QString reason;
+
+    ASSERT_TRUE(Picture(document, QColor(Qt::white)).write(name, reason));
+
+    const QImage image(name);
+    int darkest = 255;
+    for (int y = 0; y < image.height(); ++y)
+        darkest = std::min(darkest, qGreen(image.pixel(image.width() / 2, y)));
+    EXPECT_LT(darkest, 150);
+    EXPECT_EQ(image.pixel(1, 1), qRgb(255, 255, 255));
+    EXPECT_EQ(polyline->color(), QColor(Qt::magenta));
+}
+
+TEST_F(PictureTest, AnSvgHasATitleAndTheSizeOfThePdf)
+{
+    const auto document = drawingOf({{0, 0}, {100, 0}, {100, 50}});
+    QString reason;
+    for (const char* name : {"a.svg", "a.pdf"}) {
+        ASSERT_TRUE(Picture(document, QColor(background), QStringLiteral("House & garden"))
+                        .write(fileName(QLatin1String(name)), reason));
+    }
+
+    const std::string svg = contentOf(fileName(QStringLiteral("a.svg")));
+    const std::string pdf = contentOf(fileName(QStringLiteral("a.pdf")));
+
+    EXPECT_THAT(svg, HasSubstr("<title>House &amp; garden</title>"));
+    // 2000 pixels of 144 to the inch: 352.8 millimetres, 1000 points.
+    EXPECT_THAT(svg, HasSubstr("<svg width=\"352.778mm\""));
+    EXPECT_THAT(pdf, HasSubstr("/MediaBox [0 0 1000"));
 }
 
 TEST_F(PictureTest, ALevelLineAndALonePointArePictures)

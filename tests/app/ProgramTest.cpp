@@ -89,7 +89,8 @@ TEST_F(ProgramTest, TellsItsOptions)
     const Outcome outcome = run({QStringLiteral("--help")});
 
     EXPECT_EQ(outcome.exitCode, 0);
-    for (const char* option : {"--edit", "--picture <FILE>", "--version", "--help", "DRAWING"})
+    for (const char* option : {"--edit", "--picture <FILE>", "--ground <GROUND>", "--report",
+                               "--verbose", "--version", "--help", "DRAWING"})
         EXPECT_THAT(outcome.output, HasSubstr(option));
 }
 
@@ -113,7 +114,8 @@ TEST_F(ProgramTest, StartsInEditModeWhenTold)
 {
     QProcess process;
     process.start(QStringLiteral(DXFVIEWER_APP),
-                  {QStringLiteral("--edit"), sample(QStringLiteral("floor-plan.dxf"))});
+                  {QStringLiteral("--edit"), QStringLiteral("--verbose"),
+                   sample(QStringLiteral("floor-plan.dxf"))});
     QByteArray messages;
 
     EXPECT_TRUE(dxftest::eventually([&] {
@@ -172,6 +174,92 @@ INSTANTIATE_TEST_SUITE_P(, ProgramSampleTest,
                              name[name.find('-')] = '_';
                              return name;
                          });
+
+TEST_F(ProgramTest, MakesPicturesOnTheGroundThatIsNamed)
+{
+    const QString picture = path(QStringLiteral("out.png"));
+    const QString drawing = sample(QStringLiteral("floor-plan.dxf"));
+
+    ASSERT_EQ(runPicture(picture, drawing).exitCode, 0);
+    EXPECT_EQ(QImage(picture).pixel(0, 0), qRgb(255, 255, 255));
+
+    ASSERT_EQ(run({QStringLiteral("--picture"), picture, QStringLiteral("--ground"),
+                   QStringLiteral("dark"), drawing})
+                  .exitCode,
+              0);
+    EXPECT_LT(qGreen(QImage(picture).pixel(0, 0)), 60);
+
+    const Outcome wrong = run({QStringLiteral("--picture"), picture, QStringLiteral("--ground"),
+                               QStringLiteral("purple"), drawing});
+    EXPECT_EQ(wrong.exitCode, 1);
+    EXPECT_THAT(wrong.errors, HasSubstr("dark, light or white"));
+}
+
+TEST_F(ProgramTest, MakesNoPictureOfADrawingWithNothingToShow)
+{
+    const QString drawing = path(QStringLiteral("hatch.dxf"));
+    QFile file(drawing);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0\nSECTION\n2\nENTITIES\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n");
+    file.close();
+
+    const Outcome outcome = runPicture(path(QStringLiteral("out.png")), drawing);
+
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_THAT(outcome.errors, HasSubstr("nothing in this drawing that can be shown"));
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("out.png"))));
+}
+
+TEST_F(ProgramTest, ReportsOnEachDrawing)
+{
+    const QString drawing = path(QStringLiteral("a.dxf"));
+    QFile file(drawing);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n-1\n20\n2\n11\n2\n21\n6\n"
+               "0\nTEXT\n8\n0\n10\n0\n20\n0\n40\n1\n1\nA\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n");
+    file.close();
+    const std::string line = drawing.toStdString() + "\t5\t-1\t2\t2\t6\tHATCH=1,TEXT=1\n";
+
+    const Outcome outcome = run({QStringLiteral("--report"), drawing, drawing});
+
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.errors;
+    EXPECT_EQ(outcome.output, line + line);
+}
+
+TEST_F(ProgramTest, ReportsOnTheOthersWhenOneCannotBeRead)
+{
+    const Outcome outcome = run({QStringLiteral("--report"), path(QStringLiteral("none.dxf")),
+                                 sample(QStringLiteral("floor-plan.dxf"))});
+
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_THAT(outcome.errors, HasSubstr("There is no such file."));
+    EXPECT_THAT(outcome.output, HasSubstr("floor-plan.dxf\t"));
+
+    const Outcome nothing = run({QStringLiteral("--report")});
+    EXPECT_EQ(nothing.exitCode, 1);
+    EXPECT_THAT(nothing.errors, HasSubstr("no drawing to report on"));
+}
+
+TEST_F(ProgramTest, TellsWhatItReadsOnlyWhenToldTo)
+{
+    // A block of one line, 900 million times.
+    const QString drawing = path(QStringLiteral("array.dxf"));
+    QFile file(drawing);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nB\n10\n0\n20\n0\n"
+               "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDBLK\n0\nENDSEC\n"
+               "0\nSECTION\n2\nENTITIES\n0\nINSERT\n8\n0\n2\nB\n10\n0\n20\n0\n70\n30000\n"
+               "71\n30000\n44\n1\n45\n1\n0\nENDSEC\n0\nEOF\n");
+    file.close();
+
+    const Outcome quiet = run({QStringLiteral("--report"), drawing});
+    const Outcome verbose = run({QStringLiteral("--report"), QStringLiteral("--verbose"), drawing});
+
+    EXPECT_EQ(quiet.exitCode, 1);
+    EXPECT_THAT(quiet.errors, HasSubstr("It cannot be read."));
+    EXPECT_THAT(quiet.errors, Not(HasSubstr("FlatteningReader:")));
+    EXPECT_THAT(verbose.errors, HasSubstr("FlatteningReader:"));
+}
 
 TEST_F(ProgramTest, MakesNoPictureWithoutADrawing)
 {

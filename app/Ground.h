@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+#include <optional>
+
+/// What a drawing lies on.
+enum class Ground { Dark, Light, White };
+
+QColor colorOf(Ground ground);
+
+/// The name on the command line and in the settings.
+QString nameOf(Ground ground);
+/// Nothing if no ground has this name.
+std::optional<Ground> groundNamed(const QString& name);

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QMap>
+#include <QString>
+
+// What a reader counts, in words. The counts go by the names of entities in DXF.
+
+/// "Not shown: 12 hatches, 3 images"; empty if nothing was skipped.
+QString notShownSentence(const QMap<QString, int>& skipped);
+
+/// What replacing the file of such a drawing would change: "It is the drawing that was opened. 4
+/// arcs and 2 blocks become polylines. 12 hatches are lost. ..."
+QString changesSentence(const QMap<QString, int>& shown, const QMap<QString, int>& skipped);
+
+/// The same of a drawing of which only the polylines were read.
+QString plainLossesSentence();

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QRectF>
+
+class QAction;
+class QGraphicsView;
+class QMenu;
+class QMouseEvent;
+class QWheelEvent;
+
+/**
+ * Zooming, fitting, panning, and which way up the drawing stands.
+ *
+ * Drawings have y upwards, the scene has it downwards, so the view is mirrored. The view's own zoom
+ * steps would undo that: here Ctrl and the wheel are taken before the view hears of them.
+ *
+ * The whole drawing stays in sight while the window changes its size, until the user zooms or pans.
+ */
+class Navigation : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Navigation(QGraphicsView& view, QObject* parent = nullptr);
+    ~Navigation() override;
+
+    /// Adds Zoom In, Zoom Out, Fit and As Stored.
+    void addActionsTo(QMenu& menu);
+
+    /// Another drawing is on screen. It is fitted, and can be scrolled as far as its size allows.
+    void showDrawing(const QRectF& bounds);
+
+    /// 1 when the whole drawing just fits into the window.
+    double zoom() const;
+
+    bool isAsStored() const { return m_isAsStored; }
+    void setAsStored(bool isAsStored);
+
+public Q_SLOTS:
+    void zoomIn();
+    void zoomOut();
+    void fit();
+
+Q_SIGNALS:
+    void zoomChanged();
+    void asStoredChanged(bool isAsStored);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private Q_SLOTS:
+    void noteScroll();
+
+private:
+    bool takeWheel(const QWheelEvent& event);
+    bool takeMouse(const QMouseEvent& event);
+    void zoomAt(const QPointF& place, double factor);
+    void zoomAtCenter(double factor);
+    void setScale(double scale);
+    double scaleThatFits() const;
+    QPointF sceneAt(const QPointF& place) const;
+    void bring(const QPointF& scenePoint, const QPointF& place);
+    void scrollBy(const QPointF& distance);
+
+    // The window destroys the view with its form.
+    QPointer<QGraphicsView> m_view;
+    QAction* m_asStored;
+    QRectF m_bounds;
+    bool m_isAsStored = false;
+    bool m_isFitted = true;
+    bool m_isPanning = false;
+    // While this scrolls and zooms, and not the user.
+    bool m_isMoving = false;
+    QPoint m_panPlace;
+};

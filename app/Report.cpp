@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "Report.h"
+
+#include <dxfviewer/model/DXFDocument.h>
+#include <dxfviewer/model/DXFPolyline.h>
+
+#include <QFile>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace
+{
+
+constexpr int polylineType = 0;
+constexpr int digits = 15;
+
+/// A sum that does not lose what is small beside what has come together.
+class Sum
+{
+public:
+    void add(double value)
+    {
+        const double corrected = value - m_lost;
+        const double next = m_value + corrected;
+        m_lost = (next - m_value) - corrected;
+        m_value = next;
+    }
+    double value() const { return m_value; }
+
+private:
+    double m_value = 0.0;
+    double m_lost = 0.0;
+};
+
+void take(const QPointF& point, std::optional<Measures::Box>& box)
+{
+    if (!box) {
+        box = Measures::Box{point, point};
+        return;
+    }
+    box->least = {std::min(box->least.x(), point.x()), std::min(box->least.y(), point.y())};
+    box->greatest = {std::max(box->greatest.x(), point.x()),
+                     std::max(box->greatest.y(), point.y())};
+}
+
+} // namespace
+
+Measures measuresOf(const DXFDocument& document)
+{
+    Measures measures;
+    Sum length;
+    const auto entities = document.entities();
+    for (const auto& entity : entities) {
+        if (!entity || entity->type() != polylineType)
+            continue;
+        const auto segments = static_cast<const DXFPolyline&>(*entity).segments();
+        for (const Segment& segment : segments) {
+            const QLineF line = segment.line();
+            length.add(std::hypot(line.dx(), line.dy()));
+            take(line.p1(), measures.box);
+            take(line.p2(), measures.box);
+        }
+    }
+    measures.length = length.value();
+    return measures;
+}
+
+QByteArray reportLine(const QString& fileName, const Measures& measures,
+                      const QMap<QString, int>& skipped)
+{
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    const auto box = measures.box.value_or(Measures::Box{QPointF(none, none), QPointF(none, none)});
+    // A name that would break the line, or take a field more, is still one field.
+    QByteArray line = QFile::encodeName(fileName).replace('\t', ' ').replace('\n', ' ');
+    for (const double number :
+         {measures.length, box.least.x(), box.least.y(), box.greatest.x(), box.greatest.y()})
+        line += '\t' + QByteArray::number(number, 'g', digits);
+    char separator = '\t';
+    if (skipped.isEmpty())
+        line += separator;
+    for (auto kind = skipped.cbegin(); kind != skipped.cend(); ++kind) {
+        line += separator + kind.key().toUtf8() + '=' + QByteArray::number(kind.value());
+        separator = ',';
+    }
+    return line;
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "WindowMemory.h"
+
+#include "Appearance.h"
+#include "Navigation.h"
+#include "Settings.h"
+#include "ViewChoices.h"
+
+#include <QMainWindow>
+#include <QScreen>
+
+namespace
+{
+
+// Of what the screen has for windows, at most.
+constexpr double initialShare = 0.85;
+constexpr QSize initialSize(1100, 800);
+
+const QString geometryKey = QStringLiteral("window/geometry");
+const QString groundKey = QStringLiteral("view/background");
+const QString asStoredKey = QStringLiteral("view/asStored");
+const QString textsKey = QStringLiteral("view/texts");
+const QString onlyPolylinesKey = QStringLiteral("view/onlyPolylines");
+
+} // namespace
+
+WindowMemory::WindowMemory(QMainWindow& window, Navigation& navigation, Appearance& appearance,
+                           ViewChoices& choices)
+    : m_window(window)
+    , m_navigation(navigation)
+    , m_appearance(appearance)
+    , m_choices(choices)
+{
+}
+
+void WindowMemory::restore()
+{
+    const Settings settings;
+    if (!m_window.restoreGeometry(settings.value(geometryKey).toByteArray()))
+        m_window.resize(initialSize.boundedTo(m_window.screen()->availableSize() * initialShare));
+    m_navigation.setAsStored(settings.value(asStoredKey).toBool());
+    m_appearance.setGround(
+        groundNamed(settings.value(groundKey).toString()).value_or(Ground::Dark));
+    ReadingChoices choices;
+    choices.showsTexts = settings.value(textsKey, choices.showsTexts).toBool();
+    choices.onlyPolylines = settings.value(onlyPolylinesKey, choices.onlyPolylines).toBool();
+    m_choices.setChoices(choices);
+}
+
+void WindowMemory::remember() const
+{
+    Settings settings;
+    settings.setValue(geometryKey, m_window.saveGeometry());
+    settings.setValue(asStoredKey, m_navigation.isAsStored());
+    settings.setValue(groundKey, nameOf(m_appearance.ground()));
+    settings.setValue(textsKey, m_choices.choices().showsTexts);
+    settings.setValue(onlyPolylinesKey, m_choices.choices().onlyPolylines);
+}
