@@ -68,7 +68,7 @@
     </message>
     <message>
         <source>What a picture lies on: dark, light or white (the default).</source>
-        <translation>Worauf ein Bild liegt: dark (dunkel), light (hell) oder white (weiß, die Vorgabe).</translation>
+        <translation>Hintergrund eines Bildes: dark (dunkel), light (hell) oder white (weiß, die Vorgabe).</translation>
     </message>
     <message>
         <source>Print a line for each drawing, with tabs between: the file, the length of all lines, the least x and y, the greatest x and y, and how many objects of which kind are not shown.</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>The ground of a picture is dark, light or white.</source>
-        <translation>Der Grund eines Bildes ist dark, light oder white.</translation>
+        <translation>Der Hintergrund eines Bildes ist dark, light oder white.</translation>
     </message>
     <message>
         <source>There is no drawing to report on.</source>
@@ -440,7 +440,7 @@
     </message>
     <message>
         <source>It is the drawing that was opened.</source>
-        <translation>Es ist die Zeichnung, die geöffnet wurde.</translation>
+        <translation>Das ist die geöffnete Zeichnung.</translation>
     </message>
     <message>
         <source>%1 becomes polylines.</source>

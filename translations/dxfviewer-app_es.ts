@@ -440,7 +440,7 @@
     </message>
     <message>
         <source>It is the drawing that was opened.</source>
-        <translation>Es el dibujo que se abrió.</translation>
+        <translation>Es el dibujo abierto.</translation>
     </message>
     <message>
         <source>%1 becomes polylines.</source>

@@ -68,7 +68,7 @@
     </message>
     <message>
         <source>What a picture lies on: dark, light or white (the default).</source>
-        <translation>Fond d’une image : dark (sombre), light (clair) ou white (blanc, par défaut).</translation>
+        <translation>Arrière-plan d’une image : dark (sombre), light (clair) ou white (blanc, par défaut).</translation>
     </message>
     <message>
         <source>Print a line for each drawing, with tabs between: the file, the length of all lines, the least x and y, the greatest x and y, and how many objects of which kind are not shown.</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>The ground of a picture is dark, light or white.</source>
-        <translation>Le fond d’une image est dark, light ou white.</translation>
+        <translation>L’arrière-plan d’une image est dark, light ou white.</translation>
     </message>
     <message>
         <source>There is no drawing to report on.</source>

@@ -444,7 +444,7 @@
     </message>
     <message>
         <source>Only layers, line types and polylines are saved.</source>
-        <translation>保存されるのは、レイヤー、線種、ポリラインだけです。</translation>
+        <translation>保存されるのは画層、線種、ポリラインだけです。</translation>
     </message>
     <message>
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
