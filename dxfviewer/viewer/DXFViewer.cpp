@@ -72,6 +72,8 @@ DXFViewer::DXFViewer(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_view = m_ui->graphicsView;
+    // It says so before its scene goes. What listens to that must not find half a view here.
+    connect(m_view, &QObject::destroyed, this, [this] { m_view.clear(); });
     m_toolBar = m_ui->mainToolBar;
     m_editAction = m_ui->actionEdit_dxf;
     // Drawings come in and go out through loadData() and getData(). Hiding the actions also frees

@@ -611,6 +611,7 @@ void Driver::wheel(Window& window, const Step& step)
     View& view = *viewOf(window.viewer);
     const QPoint at = placeIn(window.viewer, step.a, step.b);
     const QPoint delta = step.b % 5 == 0 ? QPoint(turn, 0) : QPoint(0, turn);
+    const QScopedValueRollback<int> depth(m_eventDepth, m_eventDepth + 1);
     QWheelEvent event(at, view.viewport()->mapToGlobal(at), QPoint(), delta, window.held,
                       step.b % 3 ? Qt::ControlModifier : window.modifiers, Qt::NoScrollPhase,
                       false);

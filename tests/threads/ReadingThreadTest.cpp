@@ -24,6 +24,7 @@
 
 #include <chrono>
 #include <future>
+#include <utility>
 #include <vector>
 
 using namespace dxftest;

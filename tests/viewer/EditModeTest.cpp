@@ -1121,6 +1121,23 @@ TEST_F(MeddlingTest, EndOfTheEditorMayOpenADialogWhileTheMouseMoves)
     goOn();
 }
 
+TEST_F(MeddlingTest, LoadIsDueWhileTheViewIsDestroyed)
+{
+    const QPointer<DXFEditor> editor = startEditing();
+    bool hasWaited = false;
+    const AtEndOf end(editor->stack(), [&] {
+        QTimer::singleShot(20, window.get(), [&] { hasWaited = true; });
+        EXPECT_TRUE(eventually([&] { return hasWaited; }));
+    });
+    window->loadData(otherDrawing);
+
+    delete &viewOf(*window);
+
+    EXPECT_TRUE(hasWaited);
+    EXPECT_EQ(window->getData().count("VERTEX"), 2);
+    goOn();
+}
+
 TEST_F(MeddlingTest, UndoViewIsDeletedByTheHost)
 {
     startEditing();
