@@ -87,6 +87,9 @@ DXFViewer::~DXFViewer()
 {
     currentEditor.end();
     deleteItem();
+    // The view goes after the members of this class have gone.
+    if (m_view)
+        m_view->disconnect(this);
     delete m_ui;
 }
 
