@@ -9,6 +9,7 @@
 #include "dxfviewer/model/DXFPolyline.h"
 #include "dxfviewer/model/PolylineAccess.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace
@@ -64,7 +65,9 @@ bool DocumentFiller::fill(long long most)
     if (weights.of(Drawing::model) > most)
         return false;
     count(weights);
-    add(weights);
+    dropEmptyInserts(weights);
+    indexLayers();
+    add();
     return true;
 }
 
@@ -90,18 +93,44 @@ void DocumentFiller::count(const BlockWeights& weights)
     }
 }
 
-void DocumentFiller::add(const BlockWeights& weights)
+/// What shows nothing must not cost anything each time that its block is inserted.
+void DocumentFiller::dropEmptyInserts(const BlockWeights& weights)
+{
+    for (std::size_t id = 0; id < m_drawing.blockCount(); ++id) {
+        Block& block = m_drawing.block(id);
+        const auto showsNothing = [&block, &weights](const Block::Item& item) {
+            if (item.insert < 0)
+                return false;
+            const BlockInsert& insert = block.inserts[static_cast<std::size_t>(item.insert)];
+            return insert.isCut || weights.of(insert.block) == 0;
+        };
+        block.items.erase(std::remove_if(block.items.begin(), block.items.end(), showsNothing),
+                          block.items.end());
+    }
+}
+
+void DocumentFiller::indexLayers()
+{
+    const auto layers = m_document.layers();
+    for (const auto& layer : layers) {
+        const QString name = layer->name();
+        if (!m_layerNames.contains(name.toCaseFolded()))
+            m_layerNames.insert(name.toCaseFolded(), name);
+    }
+}
+
+void DocumentFiller::add()
 {
     const std::size_t context = m_contexts.idOf(outermostLook());
     std::vector<Instance> way{{Drawing::model, {}, context, false}};
     while (!way.empty()) {
-        if (!addNext(way, weights))
+        if (!addNext(way))
             way.pop_back();
     }
 }
 
 /// Adds the next item of the innermost instance. False at its end.
-bool DocumentFiller::addNext(std::vector<Instance>& way, const BlockWeights& weights)
+bool DocumentFiller::addNext(std::vector<Instance>& way)
 {
     Instance& instance = way.back();
     const Block& block = m_drawing.block(instance.block);
@@ -116,8 +145,7 @@ bool DocumentFiller::addNext(std::vector<Instance>& way, const BlockWeights& wei
         return true;
     }
     const BlockInsert& insert = block.inserts[static_cast<std::size_t>(item.insert)];
-    const bool isEmpty = insert.isCut || weights.of(insert.block) == 0;
-    if (isEmpty || instance.repeated == insert.instances()) {
+    if (instance.repeated == insert.instances()) {
         instance.repeated = 0;
         ++instance.item;
         return true;
@@ -174,7 +202,7 @@ QSharedPointer<DXFAttributes> DocumentFiller::attributesOf(std::size_t context, 
     const std::size_t id = m_resolved.idOf(result);
     if (id == m_attributes.size()) {
         m_attributes.push_back(QSharedPointer<DXFAttributes>::create(
-            decoded(result.layer), result.color, result.color24, result.width,
+            layerName(result.layer), result.color, result.color24, result.width,
             decoded(result.lineType), result.lineTypeScale, noHandle, result.isInPaperSpace));
     }
     known = m_attributes[id];
@@ -212,7 +240,7 @@ Look DocumentFiller::resolved(std::size_t context, std::size_t look) const
 /// another one.
 Look DocumentFiller::withoutLayer(const Look& look) const
 {
-    const auto layer = m_document.getLayer(decoded(look.layer));
+    const auto layer = m_document.getLayer(layerName(look.layer));
     const auto attributes = layer ? layer->attributes() : nullptr;
     Look result = look;
     if (result.color == byLayerColor && result.color24 == noTrueColor) {
@@ -228,6 +256,13 @@ Look DocumentFiller::withoutLayer(const Look& look) const
         result.lineType = isByLayer(known) || isByBlock(known) ? continuous : known;
     }
     return result;
+}
+
+/// The name as the layer itself spells it: in the format names do not differ by case alone.
+QString DocumentFiller::layerName(const std::string& name) const
+{
+    const QString given = decoded(name);
+    return m_document.getLayer(given) ? given : m_layerNames.value(given.toCaseFolded(), given);
 }
 
 QString DocumentFiller::kindName(std::size_t kind) const

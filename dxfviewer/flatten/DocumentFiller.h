@@ -5,6 +5,7 @@
 #include "dxfviewer/flatten/Drawing.h"
 #include "dxfviewer/flatten/Placement.h"
 
+#include <QHash>
 #include <QMap>
 #include <QSharedPointer>
 #include <QString>
@@ -51,20 +52,25 @@ private:
     };
 
     void count(const BlockWeights& weights);
-    void add(const BlockWeights& weights);
-    bool addNext(std::vector<Instance>& way, const BlockWeights& weights);
+    void dropEmptyInserts(const BlockWeights& weights);
+    void indexLayers();
+    void add();
+    bool addNext(std::vector<Instance>& way);
     void addChain(const Instance& instance, const Block::Item& item);
     Instance inserted(const Instance& outer, const Block::Item& item, long long number);
     QSharedPointer<DXFAttributes> attributesOf(std::size_t context, std::size_t look);
     std::size_t contextOf(std::size_t context, std::size_t look);
     Look resolved(std::size_t context, std::size_t look) const;
     Look withoutLayer(const Look& look) const;
+    QString layerName(const std::string& name) const;
     QString kindName(std::size_t kind) const;
 
     DXFDocument& m_document;
     Drawing& m_drawing;
     QMap<QString, int> m_shown;
     QMap<QString, int> m_skipped;
+    /// The names of the document's layers by what they are without case.
+    QHash<QString, QString> m_layerNames;
 
     /// The looks of inserts, with nothing left to be resolved.
     Looks m_contexts;

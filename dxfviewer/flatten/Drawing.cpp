@@ -2,13 +2,16 @@
 
 #include "dxfviewer/flatten/Drawing.h"
 
+#include "dxfviewer/flatten/Record.h"
+
 #include <QString>
 
 namespace
 {
 
-std::string folded(std::string_view name)
+std::string folded(std::string_view given)
 {
+    const std::string_view name = dxfviewer::trimmed(given);
     return QString::fromUtf8(name.data(), static_cast<int>(name.size()))
         .toCaseFolded()
         .toStdString();

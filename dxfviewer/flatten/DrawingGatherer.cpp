@@ -46,6 +46,14 @@ bool isOneOf(const std::array<std::string_view, Size>& names, std::string_view n
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
+/// Attributes have a flag of their own for that.
+bool isHiddenAttribute(const dxfviewer::Record& record)
+{
+    constexpr int flagsCode = 70;
+    constexpr int hiddenFlag = 1;
+    return record.name() == "ATTRIB"sv && (record.integer(flagsCode) & hiddenFlag) != 0;
+}
+
 double longestStepOf(const FlatteningOptions& options)
 {
     const double degrees = options.maximalStepDegrees;
@@ -172,7 +180,7 @@ void DrawingGatherer::endPolyline()
 void DrawingGatherer::addEntity()
 {
     const Appearance appearance = appearanceOf(m_record);
-    if (!isShown(appearance))
+    if (!isShown(appearance) || isHiddenAttribute(m_record))
         return;
 
     const std::size_t kind = m_drawing.kindId(m_record.name());

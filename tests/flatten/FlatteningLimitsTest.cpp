@@ -88,6 +88,19 @@ TEST_F(FlatteningLimitsTest, ArrayOfNothingIsNothing)
     EXPECT_EQ(drawing.skipped, Counts({{key("TEXT"), 1}, {key("INSERT"), 1}}));
 }
 
+TEST_F(FlatteningLimitsTest, InsertsOfNothingCostNothingInAnArray)
+{
+    std::string blocks = "BLOCK 2 Empty\nENDBLK\nBLOCK 2 B\nPOINT\n";
+    for (int i = 0; i < 100000; ++i)
+        blocks += "INSERT 2 Empty 70 5\nINSERT 2 B\n";
+    blocks += "ENDBLK";
+    Parts parts;
+    parts.blocks = blocks.c_str();
+    parts.entities = "INSERT 2 B 70 300 71 300";
+
+    EXPECT_EQ(flattened(parts).count(), 90000);
+}
+
 /// Blocks of which each holds two of the one before.
 std::string pyramid(int levels, const char* top)
 {

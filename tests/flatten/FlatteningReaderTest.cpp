@@ -537,6 +537,25 @@ TEST_F(FlatteningReaderTest, LayersAndLineTypesAreRead)
     EXPECT_EQ(lineType->numberOfDashes(), 2);
 }
 
+TEST_F(FlatteningReaderTest, LayerIsFoundWhateverItsCase)
+{
+    Parts parts;
+    parts.tables = "TABLE 2 LAYER\nLAYER 2 Walls 62 5\nLAYER 2 WALLS 62 6\nENDTAB";
+    parts.entities = "LINE 8 walls 11 1\nLINE 8 WALLS 11 1\nLINE 8 Others 11 1";
+
+    const auto drawing = flattened(parts);
+
+    EXPECT_EQ(drawing.attributes(0)->layerName(), key("Walls"));
+    EXPECT_EQ(drawing.attributes(1)->layerName(), key("WALLS"));
+    EXPECT_EQ(drawing.attributes(2)->layerName(), key("Others"));
+}
+
+TEST_F(FlatteningReaderTest, HiddenAttributesAreNotMissed)
+{
+    EXPECT_EQ(entities("ATTRIB 70 1 40 1 1 x\nATTRIB 70 8 40 1 1 x").skipped,
+              Counts({{key("ATTRIB"), 1}}));
+}
+
 TEST_F(FlatteningReaderTest, HeaderAndOtherSectionsAreLeftAloneInSilence)
 {
     const auto drawing = flattened(
