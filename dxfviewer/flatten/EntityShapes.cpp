@@ -180,11 +180,11 @@ Face cornersOf(const Record& record)
     return face;
 }
 
-bool appendFace(Chains& chains, const Record& record, const Fineness&)
+bool appendFaceEntity(Chains& chains, const Record& record, const Fineness&)
 {
     Face face = cornersOf(record);
     face.hiddenEdges = static_cast<unsigned>(record.integer(70));
-    dxfviewer::appendFace(chains, face);
+    appendFace(chains, face);
     return true;
 }
 
@@ -199,7 +199,7 @@ bool appendSolid(Chains& chains, const Record& record, const Fineness&)
             corner.z = record.number(elevationCode, corner.z);
         corner = placement.map(corner);
     }
-    dxfviewer::appendFace(chains, face);
+    appendFace(chains, face);
     return true;
 }
 
@@ -218,7 +218,7 @@ constexpr std::array kinds{
     Kind{"ELLIPSE", appendEllipse},
     Kind{"SOLID", appendSolid},
     Kind{"TRACE", appendSolid},
-    Kind{"3DFACE", ::appendFace},
+    Kind{"3DFACE", appendFaceEntity},
     Kind{"3DLINE", appendLine},
     Kind{"LEADER", appendLeader},
 };
