@@ -23,6 +23,9 @@ constexpr qint64 largestDrawingBytes = 512LL * 1024 * 1024;
 // Read in pieces, between which the user may think better of it.
 constexpr qint64 pieceBytes = 1024 * 1024;
 
+constexpr int binaryBeginBytes = 22;
+const QByteArray binaryBeginEnd("Binary DXF\r\n\x1A\0", 14);
+
 constexpr const char* firstRecord = "SECTION";
 
 bool isBlank(char character)
@@ -51,14 +54,22 @@ bool hasLine(const QByteArray& text, const QByteArray& line)
     return false;
 }
 
+/// Whether it begins as the binary form of DXF does.
+bool isBinaryDrawing(const QByteArray& content)
+{
+    return content.left(binaryBeginBytes).endsWith(binaryBeginEnd);
+}
+
 QString whyNoDrawing(const QByteArray& content)
 {
     if (content.isEmpty())
         return Texts::tr("The file is empty.");
     if (content.size() > largestDrawingBytes)
         return Texts::tr("The file is too large.");
+    if (isBinaryDrawing(content))
+        return QString();
     if (content.contains('\0'))
-        return Texts::tr("It is a binary file. Only the text form of DXF can be read.");
+        return Texts::tr("It is a binary file, but no DXF drawing.");
     if (!hasLine(content, firstRecord))
         return Texts::tr("It is not a DXF drawing.");
     return QString();

@@ -32,6 +32,10 @@ constexpr double longEdgePx = 2000.0;
 constexpr double shortestEdgePx = 40.0;
 constexpr double marginPerSize = 0.02;
 constexpr int pixelsPerInch = 144;
+// At this many pixels a line on paper is a fifth of a millimetre wide. On a screen a picture is
+// often seen smaller than it is.
+constexpr int thinnestOnPaperPx = 1;
+constexpr int thinnestOnScreenPx = 2;
 constexpr double pointsPerInch = 72.0;
 
 /// Runs of segments that continue each other.
@@ -133,24 +137,24 @@ void Picture::paintInto(QPainter& painter, const QRectF& rect) const
     painter.translate(rect.center());
     painter.scale(scale, scale);
     painter.translate(-all.width() / 2.0, -all.height() / 2.0);
-    paintStrokes(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintStrokes(painter, thinnestOnPaperPx);
     painter.restore();
 }
 
 void Picture::paint(QPainter& painter) const
 {
     painter.fillRect(QRect(QPoint(0, 0), size()), m_ground);
-    paintStrokes(painter);
+    paintStrokes(painter, thinnestOnPaperPx);
 }
 
-void Picture::paintStrokes(QPainter& painter) const
+void Picture::paintStrokes(QPainter& painter, int thinnestPx) const
 {
     const QTransform toPixels = fitted(*m_bounds, size());
-    painter.setRenderHint(QPainter::Antialiasing);
     // The points are mapped here and not by the painter: the generators write few digits, which
     // is enough for pixels but not for the coordinates of a survey.
     for (const Stroke& stroke : m_strokes) {
-        painter.setPen(QPen(stroke.color, std::max(1, stroke.width)));
+        painter.setPen(QPen(stroke.color, std::max(thinnestPx, stroke.width)));
         painter.drawPolyline(toPixels.map(stroke.points));
     }
 }
@@ -185,8 +189,11 @@ QByteArray Picture::png() const
     QImage image(size(), QImage::Format_RGB32);
     if (image.isNull())
         return QByteArray();
+    // A line between two rows of pixels, or thinner than they are, would be mixed with the ground
+    // and could no longer be told from it.
+    image.fill(m_ground);
     QPainter painter(&image);
-    paint(painter);
+    paintStrokes(painter, thinnestOnScreenPx);
     painter.end();
 
     QBuffer buffer;

@@ -51,7 +51,7 @@ private:
     void take(const DXFDocument& document);
     QSize size() const;
     void paint(QPainter& painter) const;
-    void paintStrokes(QPainter& painter) const;
+    void paintStrokes(QPainter& painter, int thinnestPx) const;
     QByteArray png() const;
     QByteArray svg() const;
     QByteArray pdf() const;

@@ -11,6 +11,7 @@
 #include <dxfviewer/viewer/DXFViewer.h>
 
 #include <QAction>
+#include <QElapsedTimer>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QLocale>
@@ -25,8 +26,10 @@ namespace
 {
 
 constexpr int polylineType = 0;
-// Erasing changes the drawing twenty times a second.
+// Erasing changes the drawing twenty times a second. Counting a large one takes some milliseconds,
+// and is given this share of the time at most.
 constexpr int countDelayMs = 100;
+constexpr int countShare = 20;
 constexpr int mostDecimals = 9;
 
 /// As many decimals as pixels can tell apart.
@@ -105,6 +108,8 @@ void StatusLine::count()
     const auto document = shownDocument(m_viewer);
     if (!document)
         return;
+    QElapsedTimer duration;
+    duration.start();
     qlonglong polylines = 0;
     qlonglong segments = 0;
     const auto entities = document->entities();
@@ -114,6 +119,8 @@ void StatusLine::count()
         ++polylines;
         segments += static_cast<const DXFPolyline&>(*entity).segments().size();
     }
+    m_countTimer.setInterval(
+        std::max(countDelayMs, static_cast<int>(duration.elapsed()) * countShare));
     const QLocale locale;
     setSteadyText(*m_count, tr("Polylines: %1, segments: %2")
                                 .arg(locale.toString(polylines), locale.toString(segments)));

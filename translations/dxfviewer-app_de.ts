@@ -94,10 +94,6 @@
         <translation>Die Datei ist leer.</translation>
     </message>
     <message>
-        <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Das ist eine Binärdatei. Nur DXF im Textformat (ASCII) kann gelesen werden.</translation>
-    </message>
-    <message>
         <source>It is not a DXF drawing.</source>
         <translation>Das ist keine DXF-Zeichnung.</translation>
     </message>
@@ -112,6 +108,10 @@
     <message>
         <source>The file is too large.</source>
         <translation>Die Datei ist zu groß.</translation>
+    </message>
+    <message>
+        <source>It is a binary file, but no DXF drawing.</source>
+        <translation>Es ist eine Binärdatei, aber keine DXF-Zeichnung.</translation>
     </message>
 </context>
 <context>

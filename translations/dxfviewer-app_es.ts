@@ -94,10 +94,6 @@
         <translation>El archivo está vacío.</translation>
     </message>
     <message>
-        <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Es un archivo binario. Solo se puede leer DXF en formato de texto (ASCII).</translation>
-    </message>
-    <message>
         <source>It is not a DXF drawing.</source>
         <translation>No es un dibujo DXF.</translation>
     </message>
@@ -112,6 +108,10 @@
     <message>
         <source>The file is too large.</source>
         <translation>El archivo es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>It is a binary file, but no DXF drawing.</source>
+        <translation>Es un archivo binario, pero no un dibujo DXF.</translation>
     </message>
 </context>
 <context>

@@ -94,10 +94,6 @@
         <translation>Le fichier est vide.</translation>
     </message>
     <message>
-        <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>C’est un fichier binaire. Seul le format DXF texte (ASCII) peut être lu.</translation>
-    </message>
-    <message>
         <source>It is not a DXF drawing.</source>
         <translation>Ce n’est pas un dessin DXF.</translation>
     </message>
@@ -112,6 +108,10 @@
     <message>
         <source>The file is too large.</source>
         <translation>Le fichier est trop volumineux.</translation>
+    </message>
+    <message>
+        <source>It is a binary file, but no DXF drawing.</source>
+        <translation>C’est un fichier binaire, mais pas un dessin DXF.</translation>
     </message>
 </context>
 <context>

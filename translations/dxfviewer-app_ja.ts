@@ -94,10 +94,6 @@
         <translation>ファイルが空です。</translation>
     </message>
     <message>
-        <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>バイナリファイルです。読み込めるのはテキスト形式 (ASCII) の DXF だけです。</translation>
-    </message>
-    <message>
         <source>It is not a DXF drawing.</source>
         <translation>DXF 図面ではありません。</translation>
     </message>
@@ -112,6 +108,10 @@
     <message>
         <source>The file is too large.</source>
         <translation>ファイルが大きすぎます。</translation>
+    </message>
+    <message>
+        <source>It is a binary file, but no DXF drawing.</source>
+        <translation>バイナリファイルですが、DXF 図面ではありません。</translation>
     </message>
 </context>
 <context>

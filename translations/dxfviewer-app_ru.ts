@@ -94,10 +94,6 @@
         <translation>Файл пуст.</translation>
     </message>
     <message>
-        <source>It is a binary file. Only the text form of DXF can be read.</source>
-        <translation>Это двоичный файл. Поддерживается только текстовый формат (ASCII) DXF.</translation>
-    </message>
-    <message>
         <source>It is not a DXF drawing.</source>
         <translation>Это не чертёж DXF.</translation>
     </message>
@@ -112,6 +108,10 @@
     <message>
         <source>The file is too large.</source>
         <translation>Файл слишком большой.</translation>
+    </message>
+    <message>
+        <source>It is a binary file, but no DXF drawing.</source>
+        <translation>Это двоичный файл, но не чертёж DXF.</translation>
     </message>
 </context>
 <context>

@@ -117,6 +117,14 @@ TEST_F(DrawingFileTest, RefusesABinaryFile)
     EXPECT_THAT(refusal(fileWith(smallDrawing + '\0' + smallDrawing)), HasSubstr("binary"));
 }
 
+TEST_F(DrawingFileTest, TakesTheBinaryFormOfADrawing)
+{
+    const QByteArray begin = QByteArray(8, '?') + QByteArray("Binary DXF\r\n\x1A\0", 14);
+
+    EXPECT_EQ(refusal(fileWith(begin + QByteArray("\0SECTION\0", 9))), "");
+    EXPECT_THAT(refusal(fileWith('?' + begin)), HasSubstr("binary"));
+}
+
 TEST_F(DrawingFileTest, RefusesATextThatIsNoDrawing)
 {
     EXPECT_THAT(refusal(fileWith("Dear reader,\nthis SECTION is none.\n")),
