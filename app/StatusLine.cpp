@@ -129,8 +129,11 @@ void StatusLine::count()
 void StatusLine::onEditToggled(bool isOn)
 {
     // The window's own slot runs first, so the editor is there.
-    if (DXFEditor* editor = isOn ? currentEditor(m_viewer) : nullptr)
+    if (DXFEditor* editor = isOn ? currentEditor(m_viewer) : nullptr) {
         connect(editor->stack(), &QUndoStack::indexChanged, this, &StatusLine::countLater);
+        // Edit mode in another window ends it without a word.
+        connect(editor, &QObject::destroyed, this, &StatusLine::showHint, Qt::QueuedConnection);
+    }
     showHint();
 }
 

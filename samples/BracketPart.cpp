@@ -231,13 +231,13 @@ void addDimensions(Drawing& drawing)
 
 void addFrame(Drawing& drawing)
 {
-    constexpr Point corner{-45, -45};
+    constexpr Point corner{-45, -95};
     constexpr double width = 460.0;
-    constexpr double height = 375.0;
+    constexpr double height = 425.0;
     drawing.add("FRAME", rectangle(corner, width, height));
     drawing.add("FRAME", rectangle(corner + Point{5, 5}, width - 10, height - 10));
-    // The title block, left empty.
-    constexpr Point title{-40, 285};
+    // The title block in the lower right corner, left empty.
+    constexpr Point title{220, -90};
     drawing.add("FRAME", rectangle(title, 190, 40));
     for (const double y : {10.0, 20.0})
         drawing.add("FRAME", line(title + Point{0, y}, title + Point{190, y}));

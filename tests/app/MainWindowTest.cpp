@@ -561,6 +561,7 @@ TEST_F(MainWindowTest, EditModeOfAnotherWindowEndsThisOne)
     EXPECT_FALSE(action("Undo").isEnabled());
     EXPECT_TRUE(m_window->isWindowModified());
     EXPECT_FALSE(other.isWindowModified());
+    EXPECT_TRUE(dxftest::eventually([this] { return !statusShows("to erase"); }));
 }
 
 TEST_F(MainWindowTest, ClosesWithoutAQuestionWhenNothingWasErased)
