@@ -46,11 +46,12 @@ bool paintPage(QPrinter& printer, const Picture& picture)
 /// Whether the file that was printed to is there to its end: nobody tells of a disk that is full.
 bool isWhole(const QString& fileName)
 {
+    // Of a device nothing is known, and to open a pipe could wait for ever.
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
         return false;
     file.seek(qMax<qint64>(0, file.size() - longestEnd));
-    return file.readAll().trimmed().endsWith(endOfDocument);
+    return file.read(longestEnd).trimmed().endsWith(endOfDocument);
 }
 
 } // namespace

@@ -65,10 +65,11 @@ protected:
     }
 
     /// Prints to the file when the dialog comes.
-    void expectDialog()
+    void expectDialog() { expectDialog(file()); }
+    void expectDialog(const QString& fileName)
     {
-        m_robot.expect<QPrintDialog>([this](QPrintDialog& dialog) {
-            dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(file());
+        m_robot.expect<QPrintDialog>([fileName](QPrintDialog& dialog) {
+            dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(fileName);
             static_cast<QDialog&>(dialog).accept();
         });
     }
@@ -149,6 +150,18 @@ TEST_F(PrintingTest, AFullDiskGivesABox)
     std::signal(SIGXFSZ, handler);
     EXPECT_THAT(error, HasSubstr("The drawing cannot be printed."));
     EXPECT_THAT(error, HasSubstr("The disk may be full."));
+}
+
+TEST_F(PrintingTest, ADeviceThatTakesNothingGivesABox)
+{
+    std::string error;
+    expectDialog(QStringLiteral("/dev/full"));
+    m_robot.expectButton(QMessageBox::Yes);
+    m_robot.expectError(error);
+
+    printing(wideDrawing()).print();
+
+    EXPECT_THAT(error, HasSubstr("/dev/full"));
 }
 
 TEST_F(PrintingTest, ShowsOnePageBeforeItIsPrinted)

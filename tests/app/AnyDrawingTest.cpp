@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "DrawingFiles.h"
+#include "MainWindow.h"
+#include "ViewerParts.h"
+
+#include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/support/LoggedTest.h"
+#include "tests/support/Patience.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+namespace
+{
+
+/// Agrees with whatever box comes up, and notes what it says.
+class BoxReader
+{
+public:
+    BoxReader()
+    {
+        m_timer.setInterval(5);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
+        m_timer.start();
+    }
+
+    QStringList texts;
+
+private:
+    void look()
+    {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        texts.append(box->text() + QLatin1Char('\n') + box->informativeText());
+        box->button(QMessageBox::Ok)->click();
+    }
+
+    QTimer m_timer;
+};
+
+/// Drawings of all kinds, some of which are none.
+QStringList anyDrawings()
+{
+    QStringList names;
+    for (const QString& folder :
+         {QStringLiteral(DXFVIEWER_SAMPLES), qEnvironmentVariable("DXFVIEWER_EXTRA_DRAWINGS")}) {
+        if (folder.isEmpty())
+            continue;
+        const auto files = QDir(folder).entryInfoList({QStringLiteral("*.dxf")}, QDir::Files);
+        for (const QFileInfo& file : files)
+            names.append(file.absoluteFilePath());
+    }
+    return names;
+}
+
+class AnyDrawingTest : public dxftest::LoggedTest
+{
+protected:
+    AnyDrawingTest()
+    {
+        m_window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window, dxftest::patienceMs));
+        QObject::connect(&files(), &DrawingFiles::drawingShown, [this] { ++m_shown; });
+    }
+    ~AnyDrawingTest() override
+    {
+        // Painting warns of colours that it does not know; that is no part of what is tested here.
+        takeWarnings();
+    }
+
+    DXFViewer& viewer() const { return *m_window.findChild<DXFViewer*>(); }
+    DrawingFiles& files() const { return *m_window.findChild<DrawingFiles*>(); }
+
+    /// Does what makes a drawing come, and waits until it is there or a box has said why not.
+    template <typename Action>
+    bool isShownAfter(Action action)
+    {
+        const int shown = m_shown;
+        const int told = m_boxes.texts.size();
+        action();
+        EXPECT_TRUE(
+            dxftest::eventually([&] { return m_shown > shown || m_boxes.texts.size() > told; }));
+        return m_shown > shown;
+    }
+
+    bool open(const QString& fileName)
+    {
+        return isShownAfter([&] { m_window.openDrawing(fileName); });
+    }
+
+    void drop(const QString& fileName)
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(fileName)});
+        QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&m_window, &enter);
+        QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&m_window, &event);
+    }
+
+    void reload()
+    {
+        // Without a window manager nobody gives the keyboard back after a dialog.
+        m_window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window, dxftest::patienceMs));
+        QTest::keyClick(&m_window, Qt::Key_F5, Qt::NoModifier);
+    }
+
+    void cancelOnTheWay(const QString& fileName)
+    {
+        bool isOnTheWay = false;
+        const auto connection = QObject::connect(&files().reader(), &BackgroundReader::progressed,
+                                                 [&isOnTheWay] { isOnTheWay = true; });
+        const int shown = m_shown;
+        m_window.openDrawing(fileName);
+        // Small ones are read before they can be met on the way.
+        EXPECT_TRUE(
+            dxftest::eventually([&] { return isOnTheWay || !files().reader().isReading(); }));
+        files().reader().cancel();
+        QObject::disconnect(connection);
+        EXPECT_TRUE(dxftest::eventually([&] { return isOnTheWay || m_shown > shown; }));
+        EXPECT_TRUE(!isOnTheWay || m_shown == shown);
+    }
+
+    qint64 polylines() const { return shownDocument(viewer())->entities().size(); }
+
+    QString written(const QByteArray& content, const QString& name) const
+    {
+        QFile file(m_folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
+    const QTemporaryDir m_folder;
+    BoxReader m_boxes;
+    MainWindow m_window;
+    int m_shown = 0;
+};
+
+TEST_F(AnyDrawingTest, IsOpenedCalledOffReloadedAndDropped)
+{
+    const QStringList names = anyDrawings();
+    ASSERT_FALSE(names.isEmpty());
+    for (const QString& name : names) {
+        SCOPED_TRACE(name.toStdString());
+        if (!open(name)) {
+            EXPECT_TRUE(m_boxes.texts.constLast().contains(QFileInfo(name).fileName()));
+            continue;
+        }
+        EXPECT_EQ(files().fileName(), name);
+        const auto count = polylines();
+
+        cancelOnTheWay(name);
+        EXPECT_EQ(files().fileName(), name);
+        EXPECT_TRUE(isShownAfter([&] { drop(name); }));
+        EXPECT_EQ(polylines(), count);
+        EXPECT_TRUE(isShownAfter([this] { reload(); }));
+        EXPECT_EQ(polylines(), count);
+    }
+}
+
+TEST_F(AnyDrawingTest, IsCutOffAnywhereAndStillToldOrShown)
+{
+    QFile sample(QStringLiteral(DXFVIEWER_SAMPLES "/floor-plan.dxf"));
+    ASSERT_TRUE(sample.open(QIODevice::ReadOnly));
+    const QByteArray whole = sample.readAll();
+    for (int part = 0; part <= 10; ++part) {
+        const QString name =
+            written(whole.left(whole.size() * part / 10), QStringLiteral("part%1.dxf").arg(part));
+        const bool isShown = open(name);
+        const QString said = isShown ? files().fileName() : m_boxes.texts.constLast();
+        EXPECT_TRUE(said.contains(QFileInfo(name).fileName()));
+    }
+}
+
+TEST_F(AnyDrawingTest, GrowsOrVanishesWhileItIsRead)
+{
+    const QByteArray content =
+        "0\nSECTION\n2\nENTITIES\n"
+        + QByteArray("0\nLWPOLYLINE\n8\n0\n90\n1\n10\n0\n20\n0\n").repeated(9999);
+    const QString name = written(content, QStringLiteral("changing.dxf"));
+    isShownAfter([&] {
+        m_window.openDrawing(name);
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::Append));
+        file.write(QByteArray("0\nLWPOLYLINE\n8\n0\n").repeated(9999));
+    });
+    isShownAfter([&] {
+        m_window.openDrawing(name);
+        EXPECT_TRUE(QFile::remove(name));
+    });
+    EXPECT_FALSE(files().reader().isReading());
+
+    EXPECT_FALSE(open(name));
+    EXPECT_TRUE(m_boxes.texts.constLast().contains(QLatin1String("There is no such file.")));
+}
+
+TEST_F(AnyDrawingTest, AFolderAndADeviceAreNone)
+{
+    for (const char* name : {"/", "/dev/zero", "/dev/full", "/proc/self/mem"}) {
+        EXPECT_FALSE(open(QLatin1String(name)));
+        EXPECT_TRUE(
+            m_boxes.texts.constLast().contains(QLatin1String("The drawing cannot be opened.")));
+    }
+}
+
+} // namespace
