@@ -22,6 +22,9 @@ constexpr std::array platformWarnings{
 
 bool isPlatformWarning(const QString& text)
 {
+    // A window manager handles a request when the window may be gone.
+    if (text.startsWith(QLatin1String("QXcbConnection: XCB error")))
+        return true;
     return std::any_of(platformWarnings.begin(), platformWarnings.end(),
                        [&text](const char* known) { return text == QLatin1String(known); });
 }
