@@ -938,6 +938,18 @@ TEST_F(DeleteItemsTest, RedoTwiceWithoutUndoTakesASecondSnapshot)
     EXPECT_EQ(stateOf(document), afterFirst);
 }
 
+TEST_F(DeleteItemsTest, UndoOfASecondRedoDoesNotBringBackWhatTheFirstErased)
+{
+    use({makeLine(1), makeLine(2, 1)});
+    DeleteItems command(document, {ids[0]});
+    command.redo();
+    command.redo();
+
+    command.undo();
+
+    EXPECT_EQ(segmentIdsOf(document), (QVector<int>{ids[1], ids[2]}));
+}
+
 TEST_F(DeleteItemsTest, RedoAfterSeveralUndosFindsWhatWasDeletedFromAPiece)
 {
     push({ids[1]});

@@ -14,6 +14,7 @@
 
 #include <QTemporaryDir>
 
+#include <cmath>
 #include <functional>
 
 using namespace dxftest;
@@ -124,6 +125,39 @@ TEST_F(DXFReaderTest, EntitiesInARowShareEqualAttributes)
     EXPECT_EQ(entities[0]->attributes(), entities[1]->attributes());
     EXPECT_NE(entities[1]->attributes(), entities[2]->attributes());
     EXPECT_EQ(entities[3]->attributes()->layerName(), QStringLiteral("a"));
+}
+
+/// More layers than the reader remembers the attributes of, each with two colours.
+TEST_F(DXFReaderTest, AttributesOfManyLayersAreKeptApart)
+{
+    constexpr int layers = 600;
+    std::vector<Group> groups;
+    for (int layer = 0; layer < layers; ++layer) {
+        for (const char* color : {"0", "256"}) {
+            groups.insert(
+                groups.end(),
+                {{0, "LWPOLYLINE"}, {90, "0"}, {8, "L" + std::to_string(layer)}, {62, color}});
+        }
+    }
+
+    ASSERT_TRUE(reader.load(bytesOf(groups)));
+
+    const auto entities = document.entities();
+    ASSERT_EQ(entities.size(), 2 * layers);
+    for (int i = 0; i < entities.size(); ++i) {
+        EXPECT_EQ(entities[i]->attributes()->layerName(), QStringLiteral("L%1").arg(i / 2));
+        EXPECT_EQ(entities[i]->attributes()->color(), i % 2 == 0 ? 0 : 256);
+    }
+}
+
+TEST_F(DXFReaderTest, ZerosOfEitherSignAreKeptApart)
+{
+    ASSERT_TRUE(reader.load(bytesOf(
+        {{0, "LWPOLYLINE"}, {90, "0"}, {48, "0.0"}, {0, "LWPOLYLINE"}, {90, "0"}, {48, "-0.0"}})));
+
+    ASSERT_EQ(document.entities().size(), 2);
+    EXPECT_FALSE(std::signbit(document.entities()[0]->attributes()->lineTypeScale()));
+    EXPECT_TRUE(std::signbit(document.entities()[1]->attributes()->lineTypeScale()));
 }
 
 TEST_F(DXFReaderTest, EveryDifferenceOfAttributesIsKept)

@@ -25,6 +25,7 @@
 #include <cctype>
 #include <clocale>
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <future>
@@ -32,6 +33,8 @@
 #include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
 
 #include <dl_dxf.h>
 
@@ -108,6 +111,50 @@ private:
     QTextCodec* m_codec;
 };
 #endif
+
+/// Whether a descriptor is that of a regular file, for reading and writing.
+bool isReadAndWritten(int descriptor)
+{
+    struct stat status {
+    };
+    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)
+           && (fcntl(descriptor, F_GETFL) & O_ACCMODE) == O_RDWR;
+}
+
+/// An entity that makes the writer's temporary file unreadable when it is asked for its type.
+class BreakingEntity : public OtherEntity
+{
+public:
+    BreakingEntity()
+        : OtherEntity(1)
+    {
+        for (int descriptor = 0; descriptor < descriptors; ++descriptor)
+            m_isOfOthers.push_back(isReadAndWritten(descriptor));
+    }
+
+    int type() override
+    {
+        for (int descriptor = 0; descriptor < descriptors; ++descriptor) {
+            if (!m_isOfOthers[static_cast<std::size_t>(descriptor)]
+                && isReadAndWritten(descriptor)) {
+                // A folder's bytes cannot be read.
+                const int directory = open("/", O_RDONLY | O_DIRECTORY);
+                dup2(directory, descriptor);
+                close(directory);
+                ++m_broken;
+            }
+        }
+        return OtherEntity::type();
+    }
+
+    int broken() const { return m_broken; }
+
+private:
+    static constexpr int descriptors = 256;
+
+    std::vector<bool> m_isOfOthers;
+    int m_broken = 0;
+};
 
 const char* const emptyDrawing = "999\ndxflib 3.26.4.0\n"
                                  "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1009\n"
@@ -422,6 +469,19 @@ TEST_F(DXFWriterTest, FullDiskIsReportedAndLeavesNoBytes)
     }
 
     EXPECT_TRUE(bytes.isEmpty());
+    const QStringList messages = takeDebugMessages();
+    ASSERT_EQ(messages.size(), 1);
+    EXPECT_TRUE(messages.first().startsWith(QStringLiteral("\"DXFWriter: Cannot write ")));
+}
+
+TEST_F(DXFWriterTest, TemporaryFileThatCannotBeReadIsReported)
+{
+    const auto breaking = QSharedPointer<BreakingEntity>::create();
+    document.addEntity(breaking);
+
+    EXPECT_TRUE(DXFWriter(document).save().isEmpty());
+
+    EXPECT_EQ(breaking->broken(), 1);
     const QStringList messages = takeDebugMessages();
     ASSERT_EQ(messages.size(), 1);
     EXPECT_TRUE(messages.first().startsWith(QStringLiteral("\"DXFWriter: Cannot write ")));

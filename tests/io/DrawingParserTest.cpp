@@ -43,13 +43,13 @@ int openDescriptors()
                                 .size());
 }
 
-/// Throws at its third vertex.
-class ThrowingReader : public DXFReader
+/// Does something at its third vertex, and may throw there.
+class ActingReader : public DXFReader
 {
 public:
-    ThrowingReader(DXFDocument& document, std::function<void()> raise)
+    ActingReader(DXFDocument& document, std::function<void()> act)
         : DXFReader(document)
-        , m_raise(std::move(raise))
+        , m_act(std::move(act))
     {
     }
 
@@ -57,20 +57,20 @@ public:
     {
         DXFReader::addVertex(data);
         if (++m_vertices == 3)
-            m_raise();
+            m_act();
     }
 
 private:
-    std::function<void()> m_raise;
+    std::function<void()> m_act;
     int m_vertices = 0;
 };
 
 /// Writes something else into its file at its third vertex.
-class OverwritingReader : public ThrowingReader
+class OverwritingReader : public ActingReader
 {
 public:
     OverwritingReader(DXFDocument& document, const QString& fileName)
-        : ThrowingReader(document, [fileName] { overwrite(fileName); })
+        : ActingReader(document, [fileName] { overwrite(fileName); })
     {
     }
 
@@ -314,6 +314,42 @@ TEST_F(DrawingParserTest, LongLinesAtAllPlacesOfABufferAreFound)
     EXPECT_TRUE(DXFReader(document).load(fileWith(std::string(300000, 'x'))));
 }
 
+TEST_F(DrawingParserTest, LinesAsLongAsDxflibBearsAreReadInBothForms)
+{
+    for (const std::size_t length : {1021U, 1022U, 1023U, 1024U}) {
+        auto groups = twoPolylines();
+        groups.insert(groups.begin(), {999, std::string(length, 'c')});
+        DXFDocument fromFile;
+        DXFDocument fromBytes;
+
+        ASSERT_TRUE(DXFReader(fromFile).load(fileWith(drawingOf(groups)))) << length;
+        ASSERT_TRUE(DXFReader(fromBytes).load(bytesOf(groups))) << length;
+
+        EXPECT_EQ(fromFile.entities().size(), 2) << length;
+        EXPECT_EQ(fromBytes.entities().size(), 2) << length;
+    }
+}
+
+/// The memory for so many vertices is not to be had, and is asked for at the count already.
+TEST_F(DrawingParserTest, HugeCountsAreBorneInBothForms)
+{
+    const std::string whole = textOf(twoPolylines());
+    for (const std::string& record :
+         {std::string("0\nLWPOLYLINE\n90\n2147483647\n"),
+          std::string("0\nLWPOLYLINE\n90\n2147483647"),
+          std::string("0\nLWPOLYLINE\r\r\n90\n2147483647\n0\nLINE\n"),
+          std::string("0\nLWPOLYLINE\r\r\r\n90\n2147483647\r\r\n0\nLINE\r\r\n")}) {
+        DXFDocument fromFile;
+        DXFDocument fromBytes;
+
+        EXPECT_TRUE(DXFReader(fromFile).load(fileWith(whole + record))) << record;
+        EXPECT_TRUE(DXFReader(fromBytes).load(QByteArray::fromStdString(whole + record))) << record;
+
+        EXPECT_GE(fromFile.entities().size(), 2) << record;
+        EXPECT_EQ(fromFile.entities().size(), fromBytes.entities().size()) << record;
+    }
+}
+
 TEST_F(DrawingParserTest, LastPolylineWithoutEndIsLost)
 {
     for (const char* end : {"", "0", "  0", "0\n", "\n", "90\n", "90"}) {
@@ -440,10 +476,10 @@ TEST_F(DrawingParserTest, ExceptionsEndALoad)
         DXFDocument fromFile;
         DXFDocument fromBytes;
 
-        EXPECT_FALSE(ThrowingReader(fromFile, raise).load(name));
+        EXPECT_FALSE(ActingReader(fromFile, raise).load(name));
         EXPECT_EQ(takeDebugMessages(), QStringList(QLatin1Char('"') + name
                                                    + QLatin1String("\"  could not be opened.\n")));
-        EXPECT_FALSE(ThrowingReader(fromBytes, raise).load(bytesOf(twoPolylines())));
+        EXPECT_FALSE(ActingReader(fromBytes, raise).load(bytesOf(twoPolylines())));
         EXPECT_EQ(takeDebugMessages(),
                   QStringList(QStringLiteral("DXFReader::Could not parse dxf data")));
 
@@ -476,7 +512,7 @@ protected:
             ASSERT_TRUE(DXFReader(document).load(fileWith(drawingOf(groups))));
             ASSERT_TRUE(DXFReader(document).load(bytesOf(groups)));
             DXFReader(document).load(path("missing"));
-            ThrowingReader(document, [] { throw 1; }).load(path("drawing.dxf"));
+            ActingReader(document, [] { throw 1; }).load(path("drawing.dxf"));
             takeDebugMessages();
 
             ASSERT_GE(document.entities().size(), 4);
@@ -518,6 +554,22 @@ TEST_F(DrawingParserLocaleTest, DifferentLocalesStayDifferent)
     ASSERT_NE(std::setlocale(LC_NUMERIC, "en_IN.UTF-8"), nullptr);
 
     expectNumbersRead();
+}
+
+/// Other threads of the host may be at work with it.
+TEST_F(DrawingParserLocaleTest, LocaleOfCStaysWhileADrawingIsRead)
+{
+    std::locale::global(std::locale("de_DE.UTF-8"));
+    ASSERT_NE(std::setlocale(LC_ALL, "ps_AF.UTF-8"), nullptr);
+    std::string whileReading;
+    const auto look = [&whileReading] {
+        whileReading = std::setlocale(LC_ALL, nullptr);
+    };
+    DXFDocument document;
+
+    ASSERT_TRUE(ActingReader(document, look).load(bytesOf(twoPolylines())));
+
+    EXPECT_EQ(whileReading, "ps_AF.UTF-8");
 }
 
 TEST_F(DrawingParserLocaleTest, LocaleWithoutANameStays)

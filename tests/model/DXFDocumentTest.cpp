@@ -100,6 +100,22 @@ TEST_F(DXFDocumentTest, LayerNamesAreCaseSensitive)
     EXPECT_TRUE(document->getLayer(QStringLiteral("Walls")).isNull());
 }
 
+TEST_F(DXFDocumentTest, NamesThatDifferByABlankAreDifferent)
+{
+    const QStringList names{QStringLiteral("walls"), QStringLiteral("walls "),
+                            QStringLiteral(" walls"), QStringLiteral("wal ls")};
+    for (const QString& name : names) {
+        EXPECT_TRUE(document->addLayer(makeLayer(name, 1)));
+        EXPECT_TRUE(document->addLineType(
+            QSharedPointer<DXFLineType>::create(name, QString(), 0, 0, 0.0, nullptr)));
+    }
+
+    for (const QString& name : names) {
+        EXPECT_EQ(document->getLayer(name)->name(), name);
+        EXPECT_EQ(document->getLineType(name)->name(), name);
+    }
+}
+
 TEST_F(DXFDocumentTest, LayersKeepTheOrderOfArrival)
 {
     const auto z = makeLayer(QStringLiteral("z"), 1);

@@ -540,6 +540,19 @@ TEST_F(DXFPolylineTest, BulgesAreLostAlsoWhereThePointsStay)
     }
 }
 
+TEST_F(DXFPolylineTest, HeightsAreLostAlsoWhereThePointsStay)
+{
+    for (int raised = 0; raised < 2; ++raised) {
+        DXFPolyline polyline(0, 0, 0);
+        polyline.appendPoint(DXFVertex(a.x(), a.y(), raised == 0 ? 3 : 0, true, 0));
+        polyline.appendPoint(DXFVertex(b.x(), b.y(), raised == 1 ? 3 : 0, true, 0));
+
+        polyline.setSegments(chainOf({QLineF(a, b)}));
+
+        EXPECT_THAT(polyline.vertices(), Each(Property(&DXFVertex::z, 0.0)));
+    }
+}
+
 TEST_F(DXFPolylineTest, ZerosKeepTheSignThatTheChainGives)
 {
     const auto polyline = makePolyline({QPointF(0.0, 0.0), QPointF(-0.0, 1)});

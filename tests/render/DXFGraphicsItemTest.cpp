@@ -449,6 +449,15 @@ TEST_F(DXFGraphicsItemTest, PaintWithoutADocumentLeavesThePainterAlone)
     EXPECT_THAT(recorder.calls(), IsEmpty());
 }
 
+TEST_F(DXFGraphicsItemTest, PaintWithoutAPainterDoesNothing)
+{
+    item.setDocument(makeDocument({makePolyline({{0, 0}, {1, 1}})}));
+
+    item.paint(nullptr, nullptr, nullptr);
+
+    expectRect(item.boundingRect(), 0, 0, 1, 1);
+}
+
 TEST_F(DXFGraphicsItemTest, EachSegmentIsDrawnByItsOwnCallInOrder)
 {
     const auto document = makeDocument(

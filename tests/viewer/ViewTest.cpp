@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
+#include <climits>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -334,6 +335,9 @@ INSTANTIATE_TEST_SUITE_P(
                       WheelRow{"TieGoesToTheVerticalTheOtherWay", {-120, 120}, 260},
                       WheelRow{"VerticalIsLarger", {119, -120}, 240},
                       WheelRow{"VerticalIsLargerTheOtherWay", {-119, 120}, 260},
+                      WheelRow{"AsFarUpAsCanBe", {INT_MIN + 1, INT_MAX}, 260},
+                      WheelRow{"AsFarDownAsCanBe", {INT_MAX, INT_MIN}, 240},
+                      WheelRow{"AsFarRightAsCanBe", {INT_MIN, INT_MAX}, 240},
                       WheelRow{"NotTurnedAtAll", {0, 0}, 240}),
     [](const auto& row) { return std::string(row.param.name); });
 
