@@ -6,6 +6,7 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/Polylines.h"
+#include "dxfviewer/model/SpecialValues.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,9 +22,6 @@ constexpr unsigned seed = 20;
 constexpr double longestStep = 20.0;
 constexpr double decimalsFactor = 1000.0;
 
-constexpr int byLayerColor = 256;
-constexpr int noTrueColor = -1;
-constexpr int byLayerWidth = -1;
 constexpr int layerColors = 8;
 
 int segmentsPerPolyline(const Plan& plan)
@@ -139,8 +137,8 @@ QSharedPointer<DXFDocument> makeDocument(const Plan& plan)
     for (int i = 0; i < plan.segments / perPolyline; ++i) {
         const auto polyline = QSharedPointer<DXFPolyline>::create(0U, 0U, 0U);
         polyline->setAttributes(QSharedPointer<DXFAttributes>::create(
-            layerName(i % plan.layers), byLayerColor, noTrueColor, byLayerWidth,
-            QStringLiteral("BYLAYER"), 1.0, -1, false));
+            layerName(i % plan.layers), dxfviewer::byLayerColor, dxfviewer::noTrueColor,
+            dxfviewer::byLayerWidth, QStringLiteral("BYLAYER"), 1.0, -1, false));
         for (int vertex = 0; vertex <= perPolyline; ++vertex) {
             const QPointF point = walk.next();
             polyline->appendPoint(DXFVertex(point.x(), point.y(), 0.0, true, 0.0));

@@ -3,6 +3,7 @@
 #include "dxfviewer/flatten/DocumentFiller.h"
 
 #include "dxfviewer/flatten/BlockWeights.h"
+#include "dxfviewer/io/Utf8.h"
 #include "dxfviewer/model/DXFAttributes.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFLayer.h"
@@ -21,11 +22,6 @@ constexpr int foregroundColor = 7;
 constexpr int defaultWidth = -3;
 constexpr int noHandle = -1;
 constexpr const char* continuous = "CONTINUOUS";
-
-QString decoded(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
 
 std::uint64_t pairOf(std::size_t context, std::size_t look)
 {

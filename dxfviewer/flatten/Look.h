@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "dxfviewer/model/SpecialValues.h"
+
 #include <cstddef>
 #include <string>
 #include <unordered_map>
@@ -11,12 +13,6 @@ namespace dxfviewer
 {
 
 class Record;
-
-constexpr int byBlockColor = 0;
-constexpr int byLayerColor = 256;
-constexpr int noTrueColor = -1;
-constexpr int byLayerWidth = -1;
-constexpr int byBlockWidth = -2;
 
 /// What a record says about the attributes of its entity.
 struct Look {

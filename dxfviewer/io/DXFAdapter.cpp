@@ -2,12 +2,16 @@
 
 #include "dxfviewer/io/DXFAdapter.h"
 
+#include "dxfviewer/io/Utf8.h"
 #include "dxfviewer/model/DXFAttributes.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
 #include "dxfviewer/model/DXFPolyline.h"
 
 #include <string>
+
+using dxfviewer::decoded;
+using dxfviewer::encoded;
 
 namespace
 {
@@ -17,21 +21,10 @@ constexpr bool layerIsOn = false;
 constexpr bool vertexFlag = true;
 constexpr double noElevation = 0.0;
 
-QString decoded(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
-
 /// Most line types are by layer, and share one text.
 QString decodedLineType(const std::string& text)
 {
     return text == "BYLAYER" ? QStringLiteral("BYLAYER") : decoded(text);
-}
-
-std::string encoded(const QString& text)
-{
-    const QByteArray utf8 = text.toUtf8();
-    return std::string(utf8.constData(), static_cast<std::size_t>(utf8.size()));
 }
 
 } // namespace

@@ -4,16 +4,20 @@
 
 #include "dxfviewer/io/DXFAdapter.h"
 #include "dxfviewer/io/DrawingParser.h"
+#include "dxfviewer/io/Utf8.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
+#include "dxfviewer/model/Identical.h"
 #include "dxfviewer/model/Polylines.h"
 
 #include <QDebug>
 
-#include <cmath>
 #include <functional>
 #include <string_view>
+
+using dxfviewer::decoded;
+using dxfviewer::identical;
 
 namespace
 {
@@ -21,21 +25,11 @@ namespace
 constexpr int unknownType = -1;
 
 // Enough for the layers and colours of most drawings.
-constexpr std::size_t convertedSlots = 256;
-
-QString decoded(const std::string& text)
-{
-    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-}
+constexpr std::size_t convertedEntries = 256;
 
 void logName(const char* callback)
 {
     qDebug("%s", callback);
-}
-
-bool identical(double a, double b)
-{
-    return a == b && std::signbit(a) == std::signbit(b);
 }
 
 /// Whether both records convert to the same attributes.
@@ -51,7 +45,7 @@ bool convertAlike(const DL_Attributes& a, const DL_Attributes& b)
 
 DXFReader::DXFReader(DXFDocument& document)
     : m_document(document)
-    , m_converted(convertedSlots)
+    , m_converted(convertedEntries)
 {
 }
 
@@ -89,14 +83,14 @@ void DXFReader::importEntity(QSharedPointer<DXFEntity> entity)
 
 QSharedPointer<DXFAttributes> DXFReader::currentAttributes()
 {
-    Converted& known = slotOf(attributes);
+    Converted& known = entryFor(attributes);
     if (!known.attributes || !convertAlike(known.record, attributes))
         known = {attributes, DXFAdapter::makeAttributes(attributes)};
     return known.attributes;
 }
 
 /// Where the conversion of a record is kept, until another one needs the place.
-DXFReader::Converted& DXFReader::slotOf(const DL_Attributes& record)
+DXFReader::Converted& DXFReader::entryFor(const DL_Attributes& record)
 {
     const auto hash =
         std::hash<std::string>()(record.getLayer()) + static_cast<std::size_t>(record.getColor());
@@ -191,230 +185,62 @@ void DXFReader::setVariableDouble(const std::string& key, double value, int code
              << QString::number(code);
 }
 
-void DXFReader::add3dFace(const DL_3dFaceData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addArc(const DL_ArcData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addAttribute(const DL_AttributeData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addCircle(const DL_CircleData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addControlPoint(const DL_ControlPointData&)
-{
-    logName(__func__);
-}
-
+// One line each: clang-format would make four of it.
+// clang-format off
+void DXFReader::add3dFace(const DL_3dFaceData&) { logName(__func__); }
+void DXFReader::addArc(const DL_ArcData&) { logName(__func__); }
+void DXFReader::addAttribute(const DL_AttributeData&) { logName(__func__); }
+void DXFReader::addCircle(const DL_CircleData&) { logName(__func__); }
+void DXFReader::addControlPoint(const DL_ControlPointData&) { logName(__func__); }
 void DXFReader::addDimAlign(const DL_DimensionData&, const DL_DimAlignedData&)
-{
-    logName(__func__);
-}
-
+{ logName(__func__); }
 void DXFReader::addDimAngular(const DL_DimensionData&, const DL_DimAngular2LData&)
-{
-    logName(__func__);
-}
-
+{ logName(__func__); }
 void DXFReader::addDimAngular3P(const DL_DimensionData&, const DL_DimAngular3PData&)
-{
-    logName(__func__);
-}
-
+{ logName(__func__); }
 void DXFReader::addDimDiametric(const DL_DimensionData&, const DL_DimDiametricData&)
-{
-    logName(__func__);
-}
-
+{ logName(__func__); }
 void DXFReader::addDimLinear(const DL_DimensionData&, const DL_DimLinearData&)
-{
-    logName(__func__);
-}
-
+{ logName(__func__); }
 void DXFReader::addDimOrdinate(const DL_DimensionData&, const DL_DimOrdinateData&)
-{
-    logName(__func__);
-}
-
+{ logName(__func__); }
 void DXFReader::addDimRadial(const DL_DimensionData&, const DL_DimRadialData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addEllipse(const DL_EllipseData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addFitPoint(const DL_FitPointData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addHatch(const DL_HatchData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addHatchEdge(const DL_HatchEdgeData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addHatchLoop(const DL_HatchLoopData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addImage(const DL_ImageData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addInsert(const DL_InsertData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addKnot(const DL_KnotData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addLeader(const DL_LeaderData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addLeaderVertex(const DL_LeaderVertexData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addLine(const DL_LineData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addLinetypeDash(double)
-{
-    logName(__func__);
-}
-
-void DXFReader::addMText(const DL_MTextData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addMTextChunk(const std::string&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addPoint(const DL_PointData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addRay(const DL_RayData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addSolid(const DL_SolidData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addSpline(const DL_SplineData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addText(const DL_TextData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addTrace(const DL_TraceData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXDataApp(const std::string&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXDataInt(int, int)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXDataReal(int, double)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXDataString(int, const std::string&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXLine(const DL_XLineData&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXRecord(const std::string&)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXRecordBool(int, bool)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXRecordInt(int, int)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXRecordReal(int, double)
-{
-    logName(__func__);
-}
-
-void DXFReader::addXRecordString(int, const std::string&)
-{
-    logName(__func__);
-}
-
-void DXFReader::endBlock()
-{
-    logName(__func__);
-}
-
-void DXFReader::linkImage(const DL_ImageDefData&)
-{
-    logName(__func__);
-}
-
+{ logName(__func__); }
+void DXFReader::addEllipse(const DL_EllipseData&) { logName(__func__); }
+void DXFReader::addFitPoint(const DL_FitPointData&) { logName(__func__); }
+void DXFReader::addHatch(const DL_HatchData&) { logName(__func__); }
+void DXFReader::addHatchEdge(const DL_HatchEdgeData&) { logName(__func__); }
+void DXFReader::addHatchLoop(const DL_HatchLoopData&) { logName(__func__); }
+void DXFReader::addImage(const DL_ImageData&) { logName(__func__); }
+void DXFReader::addInsert(const DL_InsertData&) { logName(__func__); }
+void DXFReader::addKnot(const DL_KnotData&) { logName(__func__); }
+void DXFReader::addLeader(const DL_LeaderData&) { logName(__func__); }
+void DXFReader::addLeaderVertex(const DL_LeaderVertexData&) { logName(__func__); }
+void DXFReader::addLine(const DL_LineData&) { logName(__func__); }
+void DXFReader::addLinetypeDash(double) { logName(__func__); }
+void DXFReader::addMText(const DL_MTextData&) { logName(__func__); }
+void DXFReader::addMTextChunk(const std::string&) { logName(__func__); }
+void DXFReader::addPoint(const DL_PointData&) { logName(__func__); }
+void DXFReader::addRay(const DL_RayData&) { logName(__func__); }
+void DXFReader::addSolid(const DL_SolidData&) { logName(__func__); }
+void DXFReader::addSpline(const DL_SplineData&) { logName(__func__); }
+void DXFReader::addText(const DL_TextData&) { logName(__func__); }
+void DXFReader::addTrace(const DL_TraceData&) { logName(__func__); }
+void DXFReader::addXDataApp(const std::string&) { logName(__func__); }
+void DXFReader::addXDataInt(int, int) { logName(__func__); }
+void DXFReader::addXDataReal(int, double) { logName(__func__); }
+void DXFReader::addXDataString(int, const std::string&) { logName(__func__); }
+void DXFReader::addXLine(const DL_XLineData&) { logName(__func__); }
+void DXFReader::addXRecord(const std::string&) { logName(__func__); }
+void DXFReader::addXRecordBool(int, bool) { logName(__func__); }
+void DXFReader::addXRecordInt(int, int) { logName(__func__); }
+void DXFReader::addXRecordReal(int, double) { logName(__func__); }
+void DXFReader::addXRecordString(int, const std::string&) { logName(__func__); }
+void DXFReader::endBlock() { logName(__func__); }
+void DXFReader::linkImage(const DL_ImageDefData&) { logName(__func__); }
 void DXFReader::setVariableVector(const std::string&, double, double, double, int)
-{
-    logName(__func__);
-}
+{ logName(__func__); }
+// clang-format on
 
 void DXFReader::processCodeValuePair(unsigned int, const std::string&) {}
 

@@ -127,7 +127,7 @@ private:
     };
 
     QSharedPointer<DXFAttributes> currentAttributes();
-    Converted& slotOf(const DL_Attributes& record);
+    Converted& entryFor(const DL_Attributes& record);
 
     DXFDocument& m_document;
     QSharedPointer<DXFEntity> m_currentEntity;

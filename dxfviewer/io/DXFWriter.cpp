@@ -8,6 +8,7 @@
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
 #include "dxfviewer/model/Polylines.h"
+#include "dxfviewer/model/SpecialValues.h"
 
 #include <QDebug>
 #include <QTemporaryFile>
@@ -19,6 +20,10 @@
 
 using dxfviewer::GroupWriter;
 
+using dxfviewer::byLayerColor;
+using dxfviewer::byLayerWidth;
+using dxfviewer::noTrueColor;
+
 namespace
 {
 
@@ -27,10 +32,7 @@ constexpr int unknownType = -1;
 constexpr DL_Codes::version fileVersion = DL_Codes::AC1009;
 constexpr int appIdHandle = 0x12;
 
-constexpr int byLayerColor = 256;
 constexpr int defaultLayerColor = 7;
-constexpr int noColor24 = -1;
-constexpr int byLayerWidth = -1;
 
 QSharedPointer<DXFLineType> continuousLineType()
 {
@@ -39,12 +41,12 @@ QSharedPointer<DXFLineType> continuousLineType()
 
 DL_Attributes defaultLayerAttributes(const std::string& name)
 {
-    return DL_Attributes(name, defaultLayerColor, noColor24, byLayerWidth, "CONTINUOUS");
+    return DL_Attributes(name, defaultLayerColor, noTrueColor, byLayerWidth, "CONTINUOUS");
 }
 
 DL_Attributes newEntityAttributes()
 {
-    return DL_Attributes("0", byLayerColor, noColor24, byLayerWidth, "BYLAYER");
+    return DL_Attributes("0", byLayerColor, noTrueColor, byLayerWidth, "BYLAYER");
 }
 
 QSharedPointer<DXFLayer> defaultLayer()

@@ -3,6 +3,7 @@
 #include "dxfviewer/io/DrawingParser.h"
 
 #include "dxfviewer/io/ClassicNumbers.h"
+#include "dxfviewer/io/File.h"
 #include "dxfviewer/io/GroupScan.h"
 #include "dxfviewer/io/IReadingSteps.h"
 #include "dxfviewer/io/TextCheck.h"
@@ -19,7 +20,6 @@
 #include <exception>
 #include <filesystem>
 #include <istream>
-#include <memory>
 #include <optional>
 #include <sstream>
 #include <streambuf>
@@ -30,6 +30,7 @@ namespace
 {
 
 using dxfviewer::ClassicNumbers;
+using dxfviewer::File;
 
 // For files that do not tell their size.
 constexpr std::size_t leastRoom = 1 << 17;
@@ -73,11 +74,6 @@ private:
 };
 
 Parser::Kept* Parser::s_abandoned = nullptr;
-
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, FileCloser>;
 
 /// Null unless it is a regular file: others may block, or never end.
 File openRegularFile(const std::string& name)
@@ -125,15 +121,12 @@ public:
 
     void add(std::string_view text)
     {
-        const std::size_t scanned =
-            dxfviewer::scanGroups(text, [this](std::string_view code, std::string_view value) {
-                addGroup(code, value, value.data() + value.size() + 1);
-                return true;
-            });
-        // A last value may lack its line feed or be missing. dxflib never reads a code without one.
-        const std::string_view rest = text.substr(scanned);
-        if (const std::size_t length = rest.find('\n'); length != std::string_view::npos)
-            addGroup(rest.substr(0, length), rest.substr(length + 1), text.data() + text.size());
+        const char* const end = text.data() + text.size();
+        dxfviewer::scanGroups(text, [this, end](std::string_view code, std::string_view value) {
+            const char* const valueEnd = value.data() + value.size();
+            addGroup(code, value, valueEnd == end ? end : valueEnd + 1);
+            return true;
+        });
     }
 
 private:

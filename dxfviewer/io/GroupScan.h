@@ -123,31 +123,29 @@ inline bool isBareVersionComment(int code, std::string_view value)
 }
 
 /**
- * Calls a function with each pair of lines that are both complete, as long as it returns true.
+ * Calls a function with each pair of lines, as long as it returns true.
  *
- * Returns the number of bytes of the pairs that it was called with.
+ * The last value may lack its line feed or be missing. Returns what is left then: a code without
+ * line feed, which dxflib never reads.
  */
 template <typename Visit>
-std::size_t scanGroups(std::string_view text, Visit visit)
+std::string_view scanGroups(std::string_view text, Visit visit)
 {
-    const char* const begin = text.data();
-    const char* const end = begin + text.size();
-    const char* at = begin;
+    const char* at = text.data();
+    const char* const end = at + text.size();
     for (;;) {
         const char* const codeEnd = lineEnd(at, end);
         if (codeEnd == end)
             break;
         const char* const value = codeEnd + 1;
         const char* const valueEnd = lineEnd(value, end);
-        if (valueEnd == end)
-            break;
         const std::string_view codeLine(at, static_cast<std::size_t>(codeEnd - at));
         const std::string_view valueLine(value, static_cast<std::size_t>(valueEnd - value));
-        at = valueEnd + 1;
+        at = valueEnd == end ? end : valueEnd + 1;
         if (!visit(codeLine, valueLine))
             break;
     }
-    return static_cast<std::size_t>(at - begin);
+    return {at, static_cast<std::size_t>(end - at)};
 }
 
 } // namespace dxfviewer

@@ -2,10 +2,10 @@
 
 #pragma once
 
+#include "dxfviewer/io/File.h"
+
 #include <dl_writer_ascii.h>
 
-#include <cstdio>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -36,16 +36,12 @@ public:
     bool finish();
 
 private:
-    struct FileCloser {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
     void appendCode(int code) const;
     void appendLine(std::string_view line) const;
     void flushIfLong() const;
     void flush() const;
 
-    mutable std::unique_ptr<std::FILE, FileCloser> m_file;
+    mutable File m_file;
     mutable std::string m_text;
     mutable bool m_failed = false;
 };

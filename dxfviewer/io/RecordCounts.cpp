@@ -2,8 +2,6 @@
 
 #include "dxfviewer/io/RecordCounts.h"
 
-#include "dxfviewer/io/GroupScan.h"
-
 #include <algorithm>
 #include <limits>
 
@@ -28,12 +26,14 @@ namespace dxfviewer
 void AnnouncedCount::beginRecord()
 {
     m_announced = false;
+    m_replacesOne = false;
     m_count = 0;
     m_items = 0;
 }
 
 void AnnouncedCount::announce(int count)
 {
+    m_replacesOne = m_announced && m_count != 0;
     m_announced = true;
     m_count = count;
     m_items = 0;
@@ -86,6 +86,25 @@ void RecordCounts::beginRecord(std::string_view kind)
             m_loops.beginRecord();
         }
     }
+}
+
+void RecordCounts::endRecord()
+{
+    for (AnnouncedCount& count : *this)
+        count.endRecord(count.count());
+}
+
+bool RecordCounts::isSound() const
+{
+    return (!m_currentLoops || m_currentLoops->isSound())
+           && std::all_of(begin(), end(),
+                          [](const AnnouncedCount& count) { return count.isSound(); });
+}
+
+bool RecordCounts::isSoundWithoutEnd() const
+{
+    return std::all_of(begin(), end(),
+                       [](const AnnouncedCount& count) { return count.isSoundWithoutEnd(); });
 }
 
 void RecordCounts::select(std::size_t first, std::size_t last)

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "dxfviewer/io/GroupScan.h"
+
 #include <QtGlobal>
 
 #include <array>
@@ -37,6 +39,8 @@ public:
     void addItem() { ++m_items; }
 
     bool isAnnounced() const { return m_announced; }
+    /// Whether the last announcement replaces one that dxflib has allocated for.
+    bool replacesOne() const { return m_replacesOne; }
     int count() const { return m_count; }
     /// What the record may announce at most, or must if it announces nothing.
     int soundCount() const;
@@ -51,6 +55,7 @@ private:
     int m_countCode;
     int m_itemCode;
     bool m_announced = false;
+    bool m_replacesOne = false;
     int m_count = 0;
     std::size_t m_items = 0;
     int m_carried = 0;
@@ -80,9 +85,19 @@ public:
     RecordCounts();
 
     void beginRecord(std::string_view kind);
+    /// Takes note of a group of the record. Returns the count that it announces; null if none.
+    AnnouncedCount* addGroup(int code, std::string_view value);
+    /// dxflib has read the record as it is.
+    void endRecord();
 
-    AnnouncedCount* begin() { return m_begin; }
-    AnnouncedCount* end() { return m_end; }
+    /// Whether dxflib can be given the record.
+    bool isSound() const;
+    /// The same for a record that is not ended.
+    bool isSoundWithoutEnd() const;
+
+    /// The counts of the record.
+    AnnouncedCount* begin() const { return m_begin; }
+    AnnouncedCount* end() const { return m_end; }
     /// Null in other records.
     HatchLoops* hatchLoops() { return m_currentLoops; }
 
@@ -97,5 +112,22 @@ private:
     HatchLoops m_loops;
     HatchLoops* m_currentLoops = nullptr;
 };
+
+// This is done for every group of every drawing, so it stands here to be inlined.
+inline AnnouncedCount* RecordCounts::addGroup(int code, std::string_view value)
+{
+    AnnouncedCount* announced = nullptr;
+    for (AnnouncedCount& count : *this) {
+        if (code == count.itemCode()) {
+            count.addItem();
+        } else if (code == count.countCode()) {
+            count.announce(toInt(value));
+            announced = &count;
+        }
+    }
+    if (m_currentLoops)
+        m_currentLoops->addGroup(code, value);
+    return announced;
+}
 
 } // namespace dxfviewer

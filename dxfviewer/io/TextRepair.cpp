@@ -48,7 +48,7 @@ private:
     void addCount(int code, std::string_view value);
     void addLine(std::string_view line);
     void endRecord(bool delivered);
-    void mendCount(AnnouncedCount& count, Place& place, bool delivered);
+    void repairCount(AnnouncedCount& count, Place& place, bool delivered);
     void replace(const Place& place, const std::string& text);
 
     std::string m_text;
@@ -62,16 +62,10 @@ private:
 Repair::Repair(std::string_view text)
 {
     m_text.reserve(text.size() + text.size() / spareShare);
-    const std::size_t scanned =
-        dxfviewer::scanGroups(text, [this](std::string_view codeLine, std::string_view valueLine) {
-            addGroup(codeLine, valueLine);
-            return true;
-        });
-
-    // A last value may lack its line feed or be missing. A code without line feed is never read.
-    const std::string_view rest = text.substr(scanned);
-    if (const std::size_t codeLength = rest.find('\n'); codeLength != std::string_view::npos)
-        addGroup(rest.substr(0, codeLength), rest.substr(codeLength + 1));
+    dxfviewer::scanGroups(text, [this](std::string_view codeLine, std::string_view valueLine) {
+        addGroup(codeLine, valueLine);
+        return true;
+    });
     endRecord(false);
 }
 
@@ -99,21 +93,14 @@ void Repair::addGroup(std::string_view codeLine, std::string_view valueLine)
 /// Takes note of the group whose value is about to be added.
 void Repair::addCount(int code, std::string_view value)
 {
-    auto place = m_places.begin();
-    for (AnnouncedCount& count : m_counts) {
-        if (code == count.itemCode()) {
-            count.addItem();
-        } else if (code == count.countCode()) {
-            // Only the last one counts: dxflib must not allocate for the others.
-            if (count.isAnnounced() && count.count() != 0)
-                replace(*place, "0");
-            count.announce(dxfviewer::toInt(value));
-            *place = {m_text.size(), value.size()};
-        }
-        ++place;
-    }
-    if (auto* loops = m_counts.hatchLoops())
-        loops->addGroup(code, value);
+    const AnnouncedCount* announced = m_counts.addGroup(code, value);
+    if (!announced)
+        return;
+    Place& place = m_places[static_cast<std::size_t>(announced - m_counts.begin())];
+    // Only the last one counts: dxflib must not allocate for the others.
+    if (announced->replacesOne())
+        replace(place, "0");
+    place = {m_text.size(), value.size()};
 }
 
 void Repair::addLine(std::string_view line)
@@ -126,7 +113,7 @@ void Repair::endRecord(bool delivered)
 {
     auto place = m_places.begin();
     for (AnnouncedCount& count : m_counts)
-        mendCount(count, *place++, delivered);
+        repairCount(count, *place++, delivered);
 
     auto* loops = m_counts.hatchLoops();
     if (delivered && loops && !loops->isSound()) {
@@ -135,12 +122,12 @@ void Repair::endRecord(bool delivered)
     }
 }
 
-void Repair::mendCount(AnnouncedCount& count, Place& place, bool delivered)
+void Repair::repairCount(AnnouncedCount& count, Place& place, bool delivered)
 {
     const int sound = count.soundCount();
     const std::string digits = std::to_string(sound);
     if (count.isSound()) {
-        // Nothing to mend.
+        // It stays as it is.
     } else if (count.isAnnounced()) {
         replace(place, digits);
     } else if (delivered) {

@@ -32,6 +32,17 @@ std::size_t sequenceLength(char lead)
 namespace dxfviewer
 {
 
+QString decoded(const std::string& text)
+{
+    return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+std::string encoded(const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    return std::string(utf8.constData(), static_cast<std::size_t>(utf8.size()));
+}
+
 std::size_t utf8Prefix(std::string_view text, std::size_t longest)
 {
     if (text.size() <= longest)

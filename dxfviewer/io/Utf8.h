@@ -2,11 +2,18 @@
 
 #pragma once
 
+#include <QString>
+
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace dxfviewer
 {
+
+/// dxflib's texts are UTF-8.
+QString decoded(const std::string& text);
+std::string encoded(const QString& text);
 
 /**
  * How much of a text to keep so that it is at most as long as said.

@@ -3,10 +3,11 @@
 #include "dxfviewer/model/DXFPolyline.h"
 
 #include "dxfviewer/model/IdSet.h"
+#include "dxfviewer/model/Identical.h"
 
 #include <algorithm>
-#include <cmath>
 
+using dxfviewer::identical;
 using dxfviewer::IdSet;
 
 namespace
@@ -37,12 +38,6 @@ bool coincide(double a, double b)
 bool coincide(const QPointF& a, const QPointF& b)
 {
     return coincide(a.x(), b.x()) && coincide(a.y(), b.y());
-}
-
-/// Tells zeros of different sign apart: both are written to a file as they are.
-bool identical(double a, double b)
-{
-    return a == b && std::signbit(a) == std::signbit(b);
 }
 
 bool liesAt(const DXFVertex& vertex, const QPointF& point)

@@ -6,17 +6,15 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFEntity.h"
 #include "dxfviewer/model/DXFLayer.h"
+#include "dxfviewer/model/SpecialValues.h"
 
 #include <QDebug>
 
 namespace
 {
 
-constexpr int byBlockColor = 0;
-constexpr int byLayerColor = 256;
-constexpr int noTrueColor = -1;
-constexpr int byLayerWidth = -1;
-constexpr int byBlockWidth = -2;
+using namespace dxfviewer;
+
 constexpr int thinWidth = 1;
 constexpr Qt::GlobalColor unresolvedColor = Qt::black;
 

@@ -6,6 +6,7 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFEntity.h"
 #include "dxfviewer/model/DXFLayer.h"
+#include "dxfviewer/model/SpecialValues.h"
 
 #include <QHash>
 
@@ -19,8 +20,6 @@ namespace
 
 constexpr double leastContrast = 3.0;
 
-constexpr int byLayer = 256;
-constexpr int noTrueColor = -1;
 constexpr int plainNumber = 7;
 constexpr int lastNumber = 255;
 constexpr int firstHueNumber = 10;
@@ -132,7 +131,8 @@ QColor DisplayColors::colorOf(const DXFEntity& entity, const DXFDocument& docume
     const auto attributes = entity.attributes();
     if (m_single.isValid() || !attributes)
         return indexColor(plainNumber);
-    if (attributes->color() != byLayer || attributes->color24() != noTrueColor)
+    if (attributes->color() != dxfviewer::byLayerColor
+        || attributes->color24() != dxfviewer::noTrueColor)
         return resolved(attributes->color(), attributes->color24());
 
     const auto layer = document.getLayer(attributes->layerName());
@@ -145,8 +145,8 @@ QColor DisplayColors::colorOf(const DXFEntity& entity, const DXFDocument& docume
 
 QColor DisplayColors::resolved(int number, int color24) const
 {
-    return color24 == noTrueColor ? indexColor(number)
-                                  : legible(QColor(static_cast<QRgb>(color24)));
+    return color24 == dxfviewer::noTrueColor ? indexColor(number)
+                                             : legible(QColor(static_cast<QRgb>(color24)));
 }
 
 QColor DisplayColors::indexColor(int number) const

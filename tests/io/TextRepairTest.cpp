@@ -15,7 +15,6 @@
 using namespace dxftest;
 using dxfviewer::isSound;
 using dxfviewer::repaired;
-using dxfviewer::TextCheck;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -88,29 +87,6 @@ TEST(TextRepairTest, PromisesAreKeptForDamagedDrawings)
     EXPECT_GT(damaged, 200);
 }
 
-TEST(TextRepairTest, PiecesOfATextAreLookedAtLikeTheWhole)
-{
-    for (unsigned seed = 0; seed < 200; ++seed) {
-        DrawingGenerator generator(seed);
-        auto groups = generator.makeDrawing(12);
-        if (seed % 2 == 0)
-            generator.damage(groups);
-        const std::string text = textOf(groups);
-
-        TextCheck check;
-        std::string rest;
-        for (std::size_t at = 0; at < text.size();) {
-            const auto length = static_cast<std::size_t>(generator.number(1, 300));
-            rest += text.substr(at, length);
-            at += length;
-            rest.erase(0, check.add(rest));
-        }
-        check.addEnd(rest);
-
-        EXPECT_EQ(check.isSound(), isSound(text)) << seed;
-    }
-}
-
 TEST(TextRepairTest, LongLineIsCut)
 {
     for (const std::size_t length : {1024U, 1025U, 2000U, 5000U}) {
@@ -119,12 +95,6 @@ TEST(TextRepairTest, LongLineIsCut)
         EXPECT_FALSE(isSound(drawingOf(groups)));
         EXPECT_THAT(repairedValues(groups, 999), ElementsAre(std::string(1023, 'c')));
     }
-}
-
-TEST(TextRepairTest, CarriageReturnCountsAsPartOfALine)
-{
-    EXPECT_TRUE(isSound(drawingOf({{1, std::string(1022, 'c') + '\r'}})));
-    EXPECT_FALSE(isSound(drawingOf({{1, std::string(1023, 'c') + '\r'}})));
 }
 
 TEST(TextRepairTest, SoundTextChangesOnlyAtItsEnd)
@@ -152,7 +122,7 @@ TEST(TextRepairTest, LineThatIsNotUtf8IsCutAnywhere)
     EXPECT_THAT(repairedValues(groups, 1), ElementsAre(std::string(1023, '\xa4')));
 }
 
-TEST(TextRepairTest, LongLineWithoutLineEndIsMended)
+TEST(TextRepairTest, LongLineWithoutLineEndIsRepaired)
 {
     expectPromisesKept(std::string(3000, 'x'));
     expectPromisesKept(std::string(3000, '\r'));
@@ -181,12 +151,6 @@ TEST(TextRepairTest, BlankRealBecomesZero)
     }
 }
 
-TEST(TextRepairTest, BlankTextAndIntegerStay)
-{
-    for (const int code : {1, 9, 60, 109, 150, 209, 240, 1009, 1060})
-        EXPECT_TRUE(isSound(drawingOf({{0, "LINE"}, {code, ""}}))) << code;
-}
-
 TEST(TextRepairTest, BareVersionCommentIsDropped)
 {
     EXPECT_THAT(parsedRepaired({{999, "dxflib"}, {999, "x"}}, "addComment"),
@@ -213,11 +177,6 @@ TEST(TextRepairTest, CountsAreLoweredToWhatTheRecordHolds)
         for (const int code : {72, 73, 74})
             EXPECT_THAT(repairedValues(spline, code), ElementsAre(sound)) << count;
     }
-}
-
-TEST(TextRepairTest, LowerCountStays)
-{
-    EXPECT_TRUE(isSound(drawingOf({{0, "LWPOLYLINE"}, {90, "1"}, {10, "1"}, {10, "2"}})));
 }
 
 TEST(TextRepairTest, OnlyTheLastCountOfARecordStays)
@@ -274,42 +233,6 @@ TEST(TextRepairTest, NothingIsCarriedOverToTheNextRecord)
     EXPECT_THAT(parsedRepaired(groups, "endEntity").size(), 8U);
 }
 
-TEST(TextRepairTest, RecordsAfterOthersWithoutItemsNeedNothing)
-{
-    EXPECT_TRUE(
-        isSound(drawingOf({{0, "LWPOLYLINE"}, {0, "SPLINE"}, {0, "LEADER"}, {0, "HATCH"}})));
-    EXPECT_TRUE(isSound(drawingOf({{0, "HATCH"}, {92, "1"}, {0, "HATCH"}})));
-    EXPECT_FALSE(isSound(drawingOf({{0, "HATCH"}, {92, "2"}, {0, "HATCH"}})));
-    EXPECT_FALSE(isSound(drawingOf({{0, "HATCH"}, {93, "2"}, {0, "HATCH"}})));
-    EXPECT_TRUE(isSound(drawingOf({{0, "HATCH"}, {93, "2"}, {0, "HATCH"}, {92, "0"}})));
-}
-
-TEST(TextRepairTest, SettingNamedLikeARecordCountsAsOne)
-{
-    EXPECT_FALSE(isSound(drawingOf({{9, "LWPOLYLINE"}, {90, "99"}})));
-}
-
-TEST(TextRepairTest, NamesOfRecordsAreComparedAsDxflibDoes)
-{
-    EXPECT_FALSE(isSound("0\nLWPOLYLINE\r\n90\n9\n"));
-    EXPECT_FALSE(isSound("0\nLWPOLYLINE\r\r\n90\n9\n"));
-    EXPECT_TRUE(isSound("0\n LWPOLYLINE\n90\n9\n"));
-    EXPECT_TRUE(isSound("0\nLWPOLYLINE \n90\n9\n"));
-}
-
-TEST(TextRepairTest, CodesAreReadAsDxflibDoes)
-{
-    for (const char* code : {"90", " 90", "\t90\r", "+90", "90x", "0090", "4294967386"})
-        EXPECT_FALSE(isSound("0\nLWPOLYLINE\n" + std::string(code) + "\n9\n")) << code;
-    for (const char* code : {"9 0", "-90", "x90", "90000"})
-        EXPECT_TRUE(isSound("0\nLWPOLYLINE\n" + std::string(code) + "\n9\n")) << code;
-}
-
-TEST(TextRepairTest, GarbageCodeEndsARecord)
-{
-    EXPECT_TRUE(isSound("0\nLWPOLYLINE\nwhat\n\n90\n9\n"));
-}
-
 TEST(TextRepairTest, EverythingElseIsDeliveredInTheSameOrder)
 {
     for (unsigned seed = 0; seed < 50; ++seed) {
@@ -329,7 +252,7 @@ TEST(TextRepairTest, EverythingElseIsDeliveredInTheSameOrder)
     }
 }
 
-TEST(TextRepairTest, WorkAndMemoryStayLinear)
+TEST(TextRepairTest, RepairOfManyCountsAndRecordsStaysSmall)
 {
     std::string text;
     for (int i = 0; i < 20000; ++i)
