@@ -7,6 +7,7 @@
 
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/MetaMethods.h"
 #include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 #include "tests/support/ToolAccess.h"
@@ -20,7 +21,6 @@
 #include <QGraphicsView>
 #include <QImage>
 #include <QKeyEvent>
-#include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
 #include <QSignalSpy>
@@ -141,14 +141,10 @@ TEST_F(DXFEditorTest, HasFourPrivateSlotsInOrderAndNothingElse)
 
     EXPECT_STREQ(meta.className(), "DXFEditor");
     EXPECT_EQ(meta.superClass(), &QGraphicsObject::staticMetaObject);
-    QList<QByteArray> signatures;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        signatures.append(meta.method(i).methodSignature());
-        EXPECT_EQ(meta.method(i).methodType(), QMetaMethod::Slot);
-        EXPECT_EQ(meta.method(i).access(), QMetaMethod::Private);
-    }
-    EXPECT_THAT(signatures,
-                ElementsAre("onDeleteRequested()", "redrawDoc()", "setupTool()", "cleanupTool()"));
+    EXPECT_THAT(ownMethodsOf(meta),
+                ElementsAre("private slot void onDeleteRequested()",
+                            "private slot void redrawDoc()", "private slot void setupTool()",
+                            "private slot void cleanupTool()"));
     EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 0);
 }
 
@@ -263,6 +259,13 @@ TEST_F(PlainSceneTest, OverlayCoversTheDrawingAndFarMore)
 {
     EXPECT_EQ(overlay->boundingRect(), reached());
     EXPECT_EQ(plain.sceneRect(), reached());
+}
+
+TEST_F(PlainSceneTest, OverlayCoversTheDrawingWhereItIsMoved)
+{
+    plainItem->setPos(70000, -80000);
+
+    EXPECT_EQ(overlay->boundingRect(), reached().translated(70000, -80000));
 }
 
 TEST_F(PlainSceneTest, SceneDoesNotGrowWithQuestions)

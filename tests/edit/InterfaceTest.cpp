@@ -9,21 +9,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QMetaMethod>
 #include <QPainterPath>
 
 #include <type_traits>
 
 namespace
 {
-
-/// The number of a class's own signals and slots, all of which return nothing.
-int countMethods(const QMetaObject& meta)
-{
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-        EXPECT_STREQ(meta.method(i).typeName(), "void") << meta.method(i).methodSignature().data();
-    return meta.methodCount() - meta.methodOffset();
-}
 
 // The geometry, which comes with the eraser's header
 
@@ -59,7 +50,6 @@ TEST(ISelectionToolInterfaceTest, NeedsNoMoreThanItsTwoOperations)
 
     EXPECT_EQ(tool.parent(), nullptr);
     EXPECT_EQ(tool.metaObject(), &ISelectionTool::staticMetaObject);
-    EXPECT_EQ(countMethods(*tool.metaObject()), 1);
 }
 
 static_assert(std::is_same_v<decltype(&RubberTool::itemsUnderMouse),
@@ -82,7 +72,6 @@ TEST(RubberToolInterfaceTest, IsAToolOfADocument)
     EXPECT_FALSE((std::is_constructible_v<RubberTool, QSharedPointer<DXFDocument>, QObject*>));
     EXPECT_FALSE(std::is_abstract_v<RubberTool>);
     EXPECT_FALSE(std::is_final_v<RubberTool>);
-    EXPECT_EQ(countMethods(RubberTool::staticMetaObject), 1);
 }
 
 // The command
@@ -142,7 +131,6 @@ TEST(DXFEditorInterfaceTest, IsAGraphicsObjectOverAnItem)
     EXPECT_FALSE(std::is_default_constructible_v<DXFEditor>);
     EXPECT_TRUE(std::has_virtual_destructor_v<DXFEditor>);
     EXPECT_FALSE(std::is_final_v<DXFEditor>);
-    EXPECT_EQ(countMethods(DXFEditor::staticMetaObject), 4);
 }
 
 } // namespace

@@ -150,10 +150,13 @@ static_assert(
     is_same_v<decltype(&DXFDocument::selectedIDs), QVector<int> (DXFDocument::*)() const>);
 static_assert(is_same_v<decltype(&DXFDocument::setup), void (DXFDocument::*)()>);
 
+// Hosts that were compiled before call virtual functions by their places. Nothing else tells when
+// one moves: its signature stays, and what is compiled anew calls the new place.
+
 /// The place of a virtual function in the table of its class, as the C++ ABI of all compilers but
 /// Microsoft's has it: an offset, marked in one of the two words of a pointer to the function.
 template <typename Function>
-std::ptrdiff_t slotOf(Function function)
+std::ptrdiff_t placeOf(Function function)
 {
     struct Words {
         std::ptrdiff_t pointer;
@@ -169,18 +172,18 @@ std::ptrdiff_t slotOf(Function function)
 TEST(InterfaceTest, VirtualFunctionsOfEntitiesHaveTheirPlaces)
 {
     // The destructor has the first two.
-    EXPECT_EQ(slotOf(&DXFEntity::type), 2);
-    EXPECT_EQ(slotOf(&DXFEntity::toString), 3);
-    EXPECT_EQ(slotOf(&DXFEntity::setup), 4);
-    EXPECT_EQ(slotOf(&DXFEntity::clone), 5);
+    EXPECT_EQ(placeOf(&DXFEntity::type), 2);
+    EXPECT_EQ(placeOf(&DXFEntity::toString), 3);
+    EXPECT_EQ(placeOf(&DXFEntity::setup), 4);
+    EXPECT_EQ(placeOf(&DXFEntity::clone), 5);
 }
 
 TEST(InterfaceTest, PolylinesAddNoVirtualFunctions)
 {
-    EXPECT_EQ(slotOf(&DXFPolyline::type), 2);
-    EXPECT_EQ(slotOf(&DXFPolyline::toString), 3);
-    EXPECT_EQ(slotOf(&DXFPolyline::setup), 4);
-    EXPECT_EQ(slotOf(&DXFPolyline::clone), 5);
+    EXPECT_EQ(placeOf(&DXFPolyline::type), 2);
+    EXPECT_EQ(placeOf(&DXFPolyline::toString), 3);
+    EXPECT_EQ(placeOf(&DXFPolyline::setup), 4);
+    EXPECT_EQ(placeOf(&DXFPolyline::clone), 5);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "tests/support/AtMessage.h"
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/MetaMethods.h"
 #include "tests/support/OtherEntity.h"
 #include "tests/support/Patience.h"
 #include "tests/support/WindowParts.h"
@@ -21,7 +22,6 @@
 #include <QDir>
 #include <QGraphicsScene>
 #include <QLayout>
-#include <QMetaMethod>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -115,15 +115,10 @@ TEST_F(DXFViewerTest, HasFourPrivateSlotsInOrderAndNothingElse)
 
     EXPECT_STREQ(meta.className(), "DXFViewer");
     EXPECT_EQ(meta.superClass(), &QMainWindow::staticMetaObject);
-    QList<QByteArray> signatures;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        signatures.append(meta.method(i).methodSignature());
-        EXPECT_EQ(meta.method(i).methodType(), QMetaMethod::Slot);
-        EXPECT_EQ(meta.method(i).access(), QMetaMethod::Private);
-    }
-    EXPECT_THAT(signatures,
-                ElementsAre("on_actionOpen_dxf_triggered()", "on_actionSave_dxf_triggered()",
-                            "on_actionEdit_dxf_toggled(bool)", "postLoad()"));
+    EXPECT_THAT(ownMethodsOf(meta), ElementsAre("private slot void on_actionOpen_dxf_triggered()",
+                                                "private slot void on_actionSave_dxf_triggered()",
+                                                "private slot void on_actionEdit_dxf_toggled(bool)",
+                                                "private slot void postLoad()"));
     EXPECT_EQ(meta.method(meta.methodOffset() + 2).parameterNames(), QList<QByteArray>{"arg1"});
     EXPECT_EQ(meta.propertyCount() - meta.propertyOffset(), 0);
 }

@@ -693,11 +693,14 @@ protected:
     QPointer<QUndoStack> stack;
 
 private:
+    /// In a loop of the kind that a program runs in, which eventually() has not.
     void runUntilTheEditorIsGone()
     {
         QEventLoop loop;
         QObject::connect(editor, &QObject::destroyed, &loop, &QEventLoop::quit);
+        QTimer::singleShot(patienceMs, &loop, &QEventLoop::quit);
         loop.exec();
+        EXPECT_EQ(editor, nullptr) << "it did not go";
     }
 };
 
@@ -798,6 +801,39 @@ TEST_F(MovingStackTest, SwitchingOffInAMoveWithinAMove)
     EXPECT_EQ(depth, 2);
     EXPECT_TRUE(eventually([&] { return overlay.isNull(); }));
     EXPECT_EQ(entityCount(), 3);
+}
+
+TEST_F(MovingStackTest, SwitchingOffInAMoveInsideTheDialogOfAnother)
+{
+    DialogInSlot dialog;
+    int moves = 0;
+
+    endWhenTheStackMoves([&] {
+        if (++moves == 1) {
+            QTimer::singleShot(0, stack, &QUndoStack::redo);
+            dialog.ask();
+        } else {
+            toggle(*window, false);
+        }
+        EXPECT_NE(stack, nullptr) << "it is not done with its moves";
+    });
+
+    EXPECT_EQ(moves, 2);
+    EXPECT_TRUE(dialog.isAnswered());
+    EXPECT_EQ(entityCount(), 2);
+}
+
+TEST_F(MovingStackTest, ToolGoesAtOnceAlsoWhenTheEditorCannot)
+{
+    endWhenTheStackMoves([this] {
+        const QPointer<ISelectionTool> tool = toolOf(*editor);
+        ASSERT_NE(tool, nullptr);
+
+        toggle(*window, false);
+
+        EXPECT_NE(editor, nullptr);
+        EXPECT_EQ(tool, nullptr) << "it would go on asking for deletions";
+    });
 }
 
 TEST_F(MovingStackTest, MoveWithinTheLastSignalOfAMoveIsCounted)
@@ -1230,7 +1266,7 @@ TEST_P(ExitTest, WindowLeakedInTheMiddleOfAStrokeEndsCleanly)
 }
 
 INSTANTIATE_TEST_SUITE_P(Manners, ExitTest,
-                         ::testing::Values("destroyed", "quit", "exit", "leaked"),
+                         ::testing::Values("destroyed", "quit", "exit", "leaked", "second"),
                          [](const auto& manner) { return std::string(manner.param); });
 
 } // namespace

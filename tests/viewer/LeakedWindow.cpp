@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 // A host that leaks a window in edit mode, in the middle of a stroke, and exits. The argument says
-// how: "destroyed", "quit", "exit" or "leaked". It must end with 0 and without a word.
+// how: "destroyed", "quit", "exit", "leaked" or "second". It must end with 0 and without a word.
 
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "dxfviewer/viewer/View.h"
@@ -76,6 +76,12 @@ int main(int argc, char** argv)
     if (manner == "leaked") {
         static auto* application = new QApplication(argc, argv);
         return run(*application, manner);
+    }
+    if (manner == "second") {
+        const QApplication first(argc, argv);
+        if (!leakWindowInAStroke())
+            return failure("the stroke erased nothing");
+        delete window;
     }
     QApplication application(argc, argv);
     return run(application, manner);
