@@ -1,5 +1,6 @@
 #!/bin/sh
-# Compiles every installed header by itself, in a host that has stricter settings than the library.
+# Compiles every installed header, in a host that has stricter settings than the library. That each
+# compiles by itself is seen in the build; what is missing among the installed ones is seen here.
 #
 # usage: headers.sh COMPILER INCLUDE_FOLDER QT_MODULE
 set -eu
@@ -15,10 +16,7 @@ if grep -rL DXFVIEWER_EXPORT "$include/dxfviewer" | grep .; then
 fi
 
 cd "$include"
-# shellcheck disable=SC2016,SC2086 # the inner shell expands; the flags are many words
-find dxfviewer -name '*.h' | sort | xargs -P 2 -I '{}' sh -c '
-    header=$1
-    shift
-    echo "#include <$header>" | "$@" || { echo "$header does not compile by itself" >&2; exit 1; }
-' sh '{}' "$compiler" -std=c++17 -fPIC -fsyntax-only -x c++ -Wall -Wextra -Werror -DQT_NO_KEYWORDS \
-    $others -I . -
+# shellcheck disable=SC2086 # the flags are many words
+find dxfviewer -name '*.h' | sort | sed 's/.*/#include <&>/' |
+    "$compiler" -std=c++17 -fPIC -fsyntax-only -x c++ -Wall -Wextra -Werror -DQT_NO_KEYWORDS \
+        $others -I . -
