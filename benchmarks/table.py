@@ -212,8 +212,8 @@ def short_form(context, figures):
             )
     note = (
         f"A million segments in polylines of ten; {context['date']}, {context['machine']}, "
-        f"Qt {context['qt']}, commit {context['commit']}. The ratio is that to what limits the "
-        "operation; [docs/benchmarks.md](docs/benchmarks.md) says what that is, and has more."
+        f"Qt {context['qt']}, commit {context['commit']}. The ratio compares the operation "
+        "with the work that limits it; [docs/benchmarks.md](docs/benchmarks.md) says what that is, and has more."
     )
     return note + "\n\n" + table(rows, ["operation", "figure", "ratio"])
 

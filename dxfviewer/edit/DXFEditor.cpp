@@ -54,8 +54,8 @@ DXFEditor::~DXFEditor()
     m_isEnding = true;
     releaseItem();
     cleanupTool();
-    // Clearing the stack moves its index, and a group that holds it tells of its end. Whoever
-    // listens must find no overlay that is no longer whole.
+    // Clearing the stack moves its index, and a group that holds it says that it goes. A slot that
+    // hears of this must not find an overlay that is half destroyed.
     leaveScene();
     m_stack.blockSignals(true);
 }

@@ -53,7 +53,7 @@ int mainDelta(const QWheelEvent& event)
 
 /// Keeps a scroll bar from ranges that its style cannot paint. A drawing seen from very near is
 /// wider than whole numbers reach, and the style's sums then come to zero.
-void mendRange(QScrollBar& bar)
+void repairRange(QScrollBar& bar)
 {
     const qint64 range = qint64(bar.maximum()) - bar.minimum();
     const qint64 excess = range - (widestScroll - largestPagePx);
@@ -77,7 +77,7 @@ View::View(QWidget* parent)
     setAttribute(Qt::WA_MouseTracking);
     setInteractive(true);
     for (QScrollBar* bar : {horizontalScrollBar(), verticalScrollBar()})
-        connect(bar, &QScrollBar::rangeChanged, bar, [bar] { mendRange(*bar); });
+        connect(bar, &QScrollBar::rangeChanged, bar, [bar] { repairRange(*bar); });
 }
 
 View::~View() = default;

@@ -621,7 +621,7 @@ TEST_F(DXFEditorTest, NewToolMayBeSetUpAfterCleaningUp)
     EXPECT_THAT(document->selectedIDs(), ElementsAre(ids[2]));
 }
 
-TEST_F(DXFEditorTest, ToolOfALaterSetupSelectsButNobodyHearsItAsk)
+TEST_F(DXFEditorTest, RequestsOfALaterToolAreNotHeard)
 {
     showView();
     call("cleanupTool");

@@ -214,7 +214,7 @@ class HostPolylineTest : public DeleteItemsTest
 protected:
     HostPolylineTest() { use({QSharedPointer<HostPolyline>::create(QStringLiteral("plumber"))}); }
 
-    /// Whose the polyline at a place is; null if it is nobody's.
+    /// The owner of the polyline at a place; null if it has none.
     QString ownerAt(int index) const
     {
         const auto polyline = at(index).dynamicCast<HostPolyline>();

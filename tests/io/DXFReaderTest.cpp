@@ -9,6 +9,7 @@
 #include "dxfviewer/model/DXFPolyline.h"
 #include "tests/io/DrawingText.h"
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/OtherEntity.h"
 
@@ -34,11 +35,8 @@ protected:
 
     QString fileWith(const std::string& text)
     {
-        const QString name = folder.filePath(QStringLiteral("drawing.dxf"));
-        QFile file(name);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::fromStdString(text));
-        return name;
+        return dxftest::fileWith(QByteArray::fromStdString(text),
+                                 folder.filePath(QStringLiteral("drawing.dxf")));
     }
 
     QTemporaryDir folder;

@@ -12,6 +12,7 @@
 #include "tests/io/DrawingText.h"
 #include "tests/io/TestLocales.h"
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/OtherEntity.h"
 
@@ -168,13 +169,6 @@ const char* const emptyDrawing = "999\ndxflib 3.26.4.0\n"
                                  "  0\nENDTAB\n  0\nENDSEC\n"
                                  "  0\nSECTION\n  2\nBLOCKS\n  0\nENDSEC\n"
                                  "  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n";
-
-QByteArray contentOf(const QString& name)
-{
-    QFile file(name);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
 
 void writeEveryPart(DXFWriter& writer)
 {

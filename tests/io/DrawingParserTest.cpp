@@ -10,6 +10,7 @@
 #include "tests/io/DrawingText.h"
 #include "tests/io/TestLocales.h"
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <gmock/gmock.h>
@@ -191,10 +192,7 @@ protected:
 
     QString fileWith(const std::string& text) const
     {
-        QFile file(path("drawing.dxf"));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::fromStdString(text));
-        return file.fileName();
+        return dxftest::fileWith(QByteArray::fromStdString(text), path("drawing.dxf"));
     }
 
     void expectRefused(const QString& name)
@@ -271,7 +269,7 @@ TEST_F(DrawingParserTest, FileIsReadUpToAReadError)
     }
 }
 
-TEST_F(DrawingParserTest, DamagedFileIsMended)
+TEST_F(DrawingParserTest, DamagedFileIsRepaired)
 {
     auto groups = twoPolylines();
     groups.insert(groups.begin(), {999, std::string(5000, 'c')});

@@ -11,6 +11,7 @@
 #include "dxfviewer/model/DXFPolyline.h"
 #include "tests/io/CallRecorder.h"
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <QDir>
@@ -48,13 +49,6 @@ QStringList tablesOf(const DXFDocument& document)
     for (const auto& lineType : lineTypes)
         lines.append(lineType->toString());
     return lines;
-}
-
-QByteArray contentOf(const QString& name)
-{
-    QFile file(name);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-    return file.readAll();
 }
 
 // The sanitizers make reading slow, and all drawings at once would take longer than a test may.

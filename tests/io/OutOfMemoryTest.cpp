@@ -2,6 +2,7 @@
 
 #include "dxfviewer/io/DXFReader.h"
 #include "dxfviewer/model/DXFDocument.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <gmock/gmock.h>
@@ -77,10 +78,7 @@ class MemoryTest : public LoggedTest
 protected:
     QString fileWith(const QByteArray& text)
     {
-        QFile file(folder.filePath(QStringLiteral("drawing.dxf")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-        return file.fileName();
+        return dxftest::fileWith(text, folder.filePath(QStringLiteral("drawing.dxf")));
     }
 
     void expectReadable()

@@ -10,6 +10,7 @@
 #include "dxfviewer/model/DXFLineType.h"
 #include "dxfviewer/model/DXFPolyline.h"
 #include "tests/io/CallRecorder.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <QDir>
@@ -23,13 +24,6 @@ using namespace dxftest;
 
 namespace
 {
-
-QByteArray contentOf(const QString& name)
-{
-    QFile file(name);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-    return file.readAll();
-}
 
 /// Writes a drawing with a layer 0 and a continuous line type by nothing but dxflib.
 void writeByDxflib(const DXFDocument& document, const QString& name)
