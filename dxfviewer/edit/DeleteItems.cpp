@@ -2,15 +2,17 @@
 
 #include "dxfviewer/edit/DeleteItems.h"
 
+#include "dxfviewer/edit/Snapshot.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/IdSet.h"
 #include "dxfviewer/model/PolylineAccess.h"
+#include "dxfviewer/model/PolylineState.h"
 #include "dxfviewer/model/Polylines.h"
 
 #include <QScopedValueRollback>
 
 #include <algorithm>
-#include <typeinfo>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -22,21 +24,6 @@ namespace
 {
 
 using EntityList = QList<QSharedPointer<DXFEntity>>;
-
-/**
- * A clone as DXFEntity::clone() makes it.
- *
- * A plain polyline's clone lies in one block with its reference counts. A command keeps a clone of
- * every entity, so that a block less for each counts in time and in memory.
- */
-QSharedPointer<DXFEntity> cloneOf(DXFEntity& entity)
-{
-    if (typeid(entity) != typeid(DXFPolyline))
-        return QSharedPointer<DXFEntity>(entity.clone());
-    auto copy = QSharedPointer<DXFPolyline>::create(static_cast<const DXFPolyline&>(entity));
-    copy->regenerateID();
-    return copy;
-}
 
 /// Removes the entries of the entities that are erased, which are in the order of the list.
 void remove(const std::vector<const DXFEntity*>& erased, EntityList& entities)
@@ -54,11 +41,21 @@ void remove(const std::vector<const DXFEntity*>& erased, EntityList& entities)
     entities.erase(kept, entities.end());
 }
 
-bool losesNothing(const QVector<Segment>& segments, const IdSet& deleted)
+bool losesNothing(const DXFPolyline& polyline, const IdSet& deleted)
 {
-    return std::none_of(segments.cbegin(), segments.cend(), [&deleted](const Segment& segment) {
-        return deleted.contains(segment.id());
-    });
+    const auto& segments = PolylineAccess::segments(polyline);
+    return !PolylineAccess::mayHaveAny(polyline, deleted)
+           || std::none_of(segments.cbegin(), segments.cend(), [&deleted](const Segment& segment) {
+                  return deleted.contains(segment.id());
+              });
+}
+
+/// What becomes of a polyline that loses nothing. Its list stays shared with the snapshots.
+void giveSegmentsAgain(DXFPolyline& polyline)
+{
+    polyline.setSegments(PolylineAccess::segments(polyline));
+    if (auto* state = PolylineAccess::state(polyline))
+        state->noteSegmentsGivenAgain(polyline);
 }
 
 } // namespace
@@ -72,6 +69,7 @@ struct DeleteItems::Run {
 DeleteItems::DeleteItems(QSharedPointer<DXFDocument> document, QVector<int> const& ids)
     : m_document(std::move(document))
     , m_ids(ids)
+    , m_snapshot(std::make_unique<dxfviewer::Snapshot>())
 {
 }
 
@@ -81,7 +79,7 @@ void DeleteItems::redo()
 {
     if (!m_document)
         return;
-    takeSnapshot();
+    m_snapshot->take(m_document->entities());
 
     std::vector<const DXFEntity*> erased;
     const EntityList added = cutAll(erased);
@@ -94,16 +92,7 @@ void DeleteItems::undo()
     if (!m_document)
         return;
 
-    // The list stays what it is, unless somebody else holds it too, and gets other entries.
-    EntityList& entities = m_document->m_entities;
-    while (entities.size() > m_snapshot.size())
-        entities.removeLast();
-    auto clone = m_snapshot.begin();
-    for (auto& entity : entities)
-        (clone++)->swap(entity);
-    for (; clone != m_snapshot.end(); ++clone)
-        entities.append(*clone);
-    m_snapshot.clear();
+    m_snapshot->restore(m_document->m_entities);
 }
 
 void DeleteItems::splitPoly(QSharedPointer<DXFPolyline> const& polyline)
@@ -121,17 +110,12 @@ void DeleteItems::splitPoly(QSharedPointer<DXFPolyline> const& polyline)
         m_document->addEntity(piece);
 }
 
-void DeleteItems::takeSnapshot()
+QVector<Segment> DeleteItems::segmentsOf(const Run& run)
 {
-    m_snapshot.clear();
-    int nullKey = 0;
-    const EntityList entities = m_document->entities();
-    for (const auto& entity : entities) {
-        auto copy = entity ? cloneOf(*entity) : nullptr;
-        // Null entries have no id; no id is negative, so each finds a key of its own there.
-        const int key = entity ? entity->id() : --nullKey;
-        m_snapshot.insert(m_snapshot.cend(), key, nullptr).value().swap(copy);
-    }
+    QVector<Segment> segments;
+    segments.reserve(static_cast<int>(run.end - run.begin));
+    std::copy(run.begin, run.end, std::back_inserter(segments));
+    return segments;
 }
 
 QVector<DeleteItems::Run> DeleteItems::survivingRuns(const QVector<Segment>& segments,
@@ -173,12 +157,10 @@ DeleteItems::EntityList DeleteItems::cutAll(std::vector<const DXFEntity*>& erase
 bool DeleteItems::cut(DXFPolyline& polyline, const IdSet& deleted, PiecesByOrigin& formerPieces,
                       EntityList& added)
 {
-    const QVector<Segment>& all = PolylineAccess::segments(polyline);
-    if (all.isEmpty())
+    if (!PolylineAccess::hasSegments(polyline))
         return false;
-    if (losesNothing(all, deleted)) {
-        // Its own list, so that it stays shared with the snapshot.
-        polyline.setSegments(all);
+    if (losesNothing(polyline, deleted)) {
+        giveSegmentsAgain(polyline);
         return true;
     }
 
@@ -187,8 +169,7 @@ bool DeleteItems::cut(DXFPolyline& polyline, const IdSet& deleted, PiecesByOrigi
     if (runs.isEmpty())
         return false;
     const Run& first = runs.first();
-    polyline.setSegments(segments.mid(static_cast<int>(first.begin - segments.constData()),
-                                      static_cast<int>(first.end - first.begin)));
+    polyline.setSegments(segmentsOf(first));
     for (auto run = runs.cbegin() + 1; run != runs.cend(); ++run)
         added.append(makePiece(polyline, *run, formerPieces));
     return true;
@@ -198,7 +179,7 @@ QSharedPointer<DXFPolyline> DeleteItems::makePiece(DXFPolyline& cutPolyline, con
                                                    PiecesByOrigin& formerPieces)
 {
     QSharedPointer<DXFPolyline> piece(cutPolyline.clone());
-    PolylineAccess::setVerticesAlong(*piece, run.begin, run.end);
+    piece->setSegments(segmentsOf(run));
     piece->setup();
 
     const int origin = run.begin->id();

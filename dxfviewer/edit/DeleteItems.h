@@ -7,11 +7,11 @@
 
 #include <QHash>
 #include <QList>
-#include <QMap>
 #include <QSharedPointer>
 #include <QUndoCommand>
 #include <QVector>
 
+#include <memory>
 #include <vector>
 
 class DXFDocument;
@@ -21,7 +21,8 @@ class DXFPolyline;
 namespace dxfviewer
 {
 class IdSet;
-}
+class Snapshot;
+} // namespace dxfviewer
 
 /**
  * Deletes segments from a document, as one undoable step.
@@ -55,18 +56,18 @@ private:
 
     struct Run;
 
-    void takeSnapshot();
     EntityList cutAll(std::vector<const DXFEntity*>& erased);
     bool cut(DXFPolyline& polyline, const dxfviewer::IdSet& deleted, PiecesByOrigin& formerPieces,
              EntityList& added);
     QSharedPointer<DXFPolyline> makePiece(DXFPolyline& cutPolyline, const Run& run,
                                           PiecesByOrigin& formerPieces);
+    static QVector<Segment> segmentsOf(const Run& run);
     static QVector<Run> survivingRuns(const QVector<Segment>& segments,
                                       const dxfviewer::IdSet& deleted);
 
     QSharedPointer<DXFDocument> m_document;
     QVector<int> m_ids;
-    QMap<int, QSharedPointer<DXFEntity>> m_snapshot;
+    std::unique_ptr<dxfviewer::Snapshot> m_snapshot;
     // The segments of the cut-off pieces as they were first made, by the id of the segment that
     // each piece began with before: one piece for an id, unless polylines share their segments'
     // ids, as clones do. A redo gives its pieces the same segment ids again, so that commands

@@ -34,7 +34,8 @@ constexpr double relativeSlack = 1e-12;
 constexpr double absoluteSlack = 1e-150;
 
 /**
- * Decides for most segments with a few comparisons that they are not under the eraser.
+ * Decides for most segments with a few comparisons that they are not under the eraser, and
+ * for most polylines, that none of their segments is.
  *
  * A segment is far away only if its extent in x or in y is, by more than rounding could explain,
  * outside the radius. Whatever cannot be decided so, NaN and infinities included, is not far away,
@@ -47,6 +48,12 @@ public:
         : m_center(center)
         , m_radius(radius + absoluteSlack)
     {
+    }
+
+    bool isFarFrom(const PolylineAccess::Bounds& bounds) const
+    {
+        return isBeyond(m_center.x(), bounds.left, bounds.right)
+               || isBeyond(m_center.y(), bounds.top, bounds.bottom);
     }
 
     bool isFarFrom(const QLineF& line) const
@@ -117,7 +124,7 @@ QVector<int> RubberTool::itemsUnderMouse(QPointF pos) const
     const auto entities = m_document->entities();
     for (const auto& entity : entities) {
         const DXFPolyline* polyline = asPolyline(entity);
-        if (!polyline)
+        if (!polyline || reach.isFarFrom(PolylineAccess::bounds(*polyline)))
             continue;
         for (const Segment& segment : PolylineAccess::segments(*polyline)) {
             const QLineF line = segment.line();

@@ -9,6 +9,7 @@
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
 #include "dxfviewer/model/Identical.h"
+#include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/Polylines.h"
 
 #include <QDebug>
@@ -149,6 +150,8 @@ void DXFReader::endEntity()
         return;
 
     importEntity(m_currentEntity);
+    if (auto* polyline = dxfviewer::asPolyline(m_currentEntity))
+        dxfviewer::PolylineAccess::trim(*polyline);
     m_document.addEntity(m_currentEntity);
     // It stays current: dxflib ends some entities that it never began, and each such end lists the
     // polyline once more.

@@ -7,6 +7,7 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
+#include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/Polylines.h"
 #include "dxfviewer/model/SpecialValues.h"
 
@@ -263,7 +264,8 @@ void DXFWriter::writePolyline(const QSharedPointer<DXFPolyline>& polyline)
     m_parser->writePolyline(*m_writer, DXFAdapter::makePolyline(polyline),
                             attributes ? DXFAdapter::makeAttributes(attributes)
                                        : newEntityAttributes());
-    for (const DXFVertex& vertex : polyline->vertices())
+    const auto vertices = dxfviewer::PolylineAccess::vertices(*polyline);
+    for (const DXFVertex& vertex : vertices)
         m_parser->writeVertex(*m_writer, DXFAdapter::makeVertex(vertex));
     m_parser->writePolylineEnd(*m_writer);
 }

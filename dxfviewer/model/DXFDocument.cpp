@@ -72,7 +72,10 @@ void DXFDocument::setSelected(QVector<int> ids)
     for (const auto& entity : qAsConst(m_entities)) {
         if (!entity)
             continue;
-        entity->setSelected(set.contains(entity->id()));
+        // Written only where it changes: memory that is only read stays cheap to walk through.
+        const bool isSelected = set.contains(entity->id());
+        if (isSelected != entity->isSelected())
+            entity->setSelected(isSelected);
         if (auto* polyline = asPolyline(entity))
             PolylineAccess::selectSegments(*polyline, set);
     }
@@ -84,7 +87,9 @@ void DXFDocument::setHovered(QVector<int> ids)
     for (const auto& entity : qAsConst(m_entities)) {
         if (!entity)
             continue;
-        entity->setHovered(set.contains(entity->id()));
+        const bool isHovered = set.contains(entity->id());
+        if (isHovered != entity->isHovered())
+            entity->setHovered(isHovered);
         if (auto* polyline = asPolyline(entity))
             PolylineAccess::hoverSegments(*polyline, set);
     }
@@ -99,6 +104,8 @@ QVector<int> DXFDocument::selectedIDs() const
             continue;
         if (polyline->isSelected())
             ids.append(polyline->id());
+        if (!PolylineAccess::isAnySegmentSelected(*polyline))
+            continue;
         for (const Segment& segment : PolylineAccess::segments(*polyline)) {
             if (segment.isSelected())
                 ids.append(segment.id());

@@ -48,6 +48,8 @@ public:
     void setAttributes(QSharedPointer<DXFAttributes> attributes);
 
 private:
+    friend class dxfviewer::PolylineAccess;
+
     QColor m_color;
     int m_lineWidth = 0;
     QSharedPointer<DXFAttributes> m_attributes;

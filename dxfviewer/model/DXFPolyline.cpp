@@ -3,21 +3,27 @@
 #include "dxfviewer/model/DXFPolyline.h"
 
 #include "dxfviewer/model/IdSet.h"
-#include "dxfviewer/model/Identical.h"
+#include "dxfviewer/model/PolylineAccess.h"
+#include "dxfviewer/model/PolylineState.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
-using dxfviewer::identical;
 using dxfviewer::IdSet;
+using dxfviewer::PolylineAccess;
 
 namespace
 {
 
 constexpr unsigned int closedBit = 1;
 
-// Room for most polylines, so that reading them does not move vertices about. setup() gives back
-// what is too much.
+// Room for most polylines, so that reading them does not move vertices about. What is too much is
+// given back at the end.
 constexpr int firstVertices = 12;
+
+// Far enough below the greatest float that no rounding leads beyond it.
+constexpr double largestBound = 1e38;
 
 QPointF pointOf(const DXFVertex& vertex)
 {
@@ -40,31 +46,64 @@ bool coincide(const QPointF& a, const QPointF& b)
     return coincide(a.x(), b.x()) && coincide(a.y(), b.y());
 }
 
-bool liesAt(const DXFVertex& vertex, const QPointF& point)
+/// Tells zeros of different sign apart: both are written to a file as they are.
+bool isPositiveZero(double value)
 {
-    return identical(vertex.x(), point.x()) && identical(vertex.y(), point.y())
-           && identical(vertex.z(), 0.0) && identical(vertex.bulge(), 0.0);
+    return value == 0.0 && !std::signbit(value);
 }
 
-/// Whether the vertices are already what verticesAlong() would return.
-bool lieAlong(const QVector<DXFVertex>& vertices, const Segment* begin, const Segment* end)
+/// Whether there is no more to a vertex than its point.
+bool isPlain(const DXFVertex& vertex)
 {
-    return vertices.size() == end - begin + 1 && liesAt(vertices.first(), begin->line().p1())
-           && std::equal(begin, end, vertices.cbegin() + 1,
-                         [](const Segment& segment, const DXFVertex& vertex) {
-                             return liesAt(vertex, segment.line().p2());
-                         });
+    return isPositiveZero(vertex.z()) && isPositiveZero(vertex.bulge());
 }
 
-QVector<DXFVertex> verticesAlong(const Segment* begin, const Segment* end)
+/// More than what rounding to a float adds or takes away.
+double floatSlack(double value)
 {
-    QVector<DXFVertex> vertices;
-    vertices.reserve(static_cast<int>(end - begin) + 1);
-    vertices.append(vertexAt(begin->line().p1()));
-    for (const Segment* segment = begin; segment != end; ++segment)
-        vertices.append(vertexAt(segment->line().p2()));
-    return vertices;
+    constexpr double relative = std::numeric_limits<float>::epsilon();
+    constexpr double absolute = std::numeric_limits<float>::min();
+    return std::abs(value) * relative + absolute;
 }
+
+float boundBelow(double value)
+{
+    return static_cast<float>(value - floatSlack(value));
+}
+
+float boundAbove(double value)
+{
+    return static_cast<float>(value + floatSlack(value));
+}
+
+/// The extent of points, as long as all of them are finite.
+class Extent
+{
+public:
+    void add(const QPointF& point)
+    {
+        left = std::min(left, point.x());
+        right = std::max(right, point.x());
+        top = std::min(top, point.y());
+        bottom = std::max(bottom, point.y());
+        // Comparisons pass over NaN. This sum is 0 until a coordinate is not finite.
+        m_poison += (point.x() + point.y()) * 0.0;
+    }
+
+    bool isBounded() const
+    {
+        return m_poison == 0.0 && left <= right && left >= -largestBound && right <= largestBound
+               && top >= -largestBound && bottom <= largestBound;
+    }
+
+    double left = std::numeric_limits<double>::infinity();
+    double top = left;
+    double right = -left;
+    double bottom = -left;
+
+private:
+    double m_poison = 0.0;
+};
 
 void appendSegment(QVector<Segment>& segments, const QPointF& from, const QPointF& to)
 {
@@ -75,35 +114,134 @@ void appendSegment(QVector<Segment>& segments, const QPointF& from, const QPoint
 using FlagGetter = bool (IDeletable::*)() const;
 using FlagSetter = void (IDeletable::*)(bool);
 
-/// Sets a flag of every segment to whether its id is in the set. A list in which nothing changes
-/// stays shared with whoever else holds it: most polylines are far from the eraser.
+/// Sets a flag of every segment to whether its id is in the set, and returns whether any has it
+/// then. A list in which nothing changes stays shared with whoever else holds it: most polylines
+/// are far from the eraser.
 template <FlagGetter isSet, FlagSetter set>
-void flagSegments(QVector<Segment>& segments, const IdSet& ids)
+bool flagSegments(QVector<Segment>& segments, const IdSet& ids)
 {
+    bool isAnySet = false;
+    const auto isListed = [&](const Segment& segment) {
+        const bool listed = ids.contains(segment.id());
+        isAnySet = isAnySet || listed;
+        return listed;
+    };
     const auto firstChange =
-        std::find_if(segments.cbegin(), segments.cend(), [&ids](const Segment& segment) {
-            return ids.contains(segment.id()) != (segment.*isSet)();
+        std::find_if(segments.cbegin(), segments.cend(), [&](const Segment& segment) {
+            return isListed(segment) != (segment.*isSet)();
         });
     const auto unchanged = firstChange - segments.cbegin();
-    if (unchanged == segments.size())
-        return;
-
-    std::for_each(segments.begin() + unchanged, segments.end(),
-                  [&ids](Segment& segment) { (segment.*set)(ids.contains(segment.id())); });
+    if (unchanged != segments.size()) {
+        std::for_each(segments.begin() + unchanged, segments.end(),
+                      [&](Segment& segment) { (segment.*set)(isListed(segment)); });
+    }
+    return isAnySet;
 }
 
 } // namespace
 
+DXFPolyline::Geometry::Geometry(unsigned int m, unsigned int n, unsigned int givenFlags)
+    : mVertices(m)
+    , nVertices(n)
+    , flags(givenFlags)
+{
+    summarize();
+}
+
+int DXFPolyline::Geometry::vertexNumber() const
+{
+    switch (derived) {
+    case Derived::AllPoints:
+        return static_cast<int>(segments.size()) + 1;
+    case Derived::AllButTheLastPoint:
+        return static_cast<int>(segments.size());
+    case Derived::None:
+        break;
+    }
+    return static_cast<int>(vertices.size());
+}
+
+QPointF DXFPolyline::Geometry::pointAt(int vertex) const
+{
+    if (derived == Derived::None)
+        return pointOf(vertices.at(vertex));
+    return vertex == 0 ? segments.constFirst().line().p1() : segments.at(vertex - 1).line().p2();
+}
+
+QVector<DXFVertex> DXFPolyline::Geometry::derivedVertices() const
+{
+    const int count = vertexNumber();
+    QVector<DXFVertex> points;
+    points.reserve(count);
+    for (int i = 0; i < count; ++i)
+        points.append(vertexAt(pointAt(i)));
+    return points;
+}
+
+void DXFPolyline::Geometry::keepVertices() const
+{
+    if (derived != Derived::None && vertices.isEmpty())
+        vertices = derivedVertices();
+}
+
+void DXFPolyline::Geometry::setClosed(bool closed)
+{
+    flags = closed ? flags | closedBit : flags & ~closedBit;
+}
+
+/// Looks at all segments and notes what is to be known of them.
+void DXFPolyline::Geometry::summarize()
+{
+    Extent extent;
+    isAnySelected = false;
+    isAnyHovered = false;
+    leastId = std::numeric_limits<int>::max();
+    greatestId = std::numeric_limits<int>::min();
+    for (const Segment& segment : qAsConst(segments)) {
+        extent.add(segment.line().p1());
+        extent.add(segment.line().p2());
+        isAnySelected = isAnySelected || segment.isSelected();
+        isAnyHovered = isAnyHovered || segment.isHovered();
+        leastId = std::min(leastId, PolylineAccess::assignedId(segment));
+        greatestId = std::max(greatestId, PolylineAccess::assignedId(segment));
+    }
+
+    constexpr float unknown = std::numeric_limits<float>::quiet_NaN();
+    bounds = {unknown, unknown, unknown, unknown};
+    if (extent.isBounded())
+        bounds = {boundBelow(extent.left), boundBelow(extent.top), boundAbove(extent.right),
+                  boundAbove(extent.bottom)};
+}
+
 DXFPolyline::DXFPolyline(unsigned int mVertices, unsigned int nVertices, unsigned int flags)
-    : m_mVertices(mVertices)
-    , m_nVertices(nVertices)
-    , m_flags(flags)
+    : m_geometry(mVertices, nVertices, flags)
 {
 }
 
-DXFPolyline::DXFPolyline(const DXFPolyline&) = default;
-DXFPolyline& DXFPolyline::operator=(const DXFPolyline&) = default;
-DXFPolyline::~DXFPolyline() = default;
+DXFPolyline::DXFPolyline(const DXFPolyline& other)
+    : DXFEntity(other)
+    , m_geometry(other.m_geometry)
+    , m_ownColor(other.m_ownColor)
+    , m_ownLineWidth(other.m_ownLineWidth)
+{
+}
+
+DXFPolyline& DXFPolyline::operator=(const DXFPolyline& other)
+{
+    DXFEntity::operator=(other);
+    m_geometry = other.m_geometry;
+    m_ownColor = other.m_ownColor;
+    m_ownLineWidth = other.m_ownLineWidth;
+    if (m_areVerticesKnown)
+        m_geometry.keepVertices();
+    return *this;
+}
+
+DXFPolyline::~DXFPolyline()
+{
+    if (m_state)
+        m_state->forgetPolyline();
+}
 
 int DXFPolyline::type()
 {
@@ -115,30 +253,45 @@ QString DXFPolyline::toString() const
     // The label of the third value has no colon. That is its fixed form.
     return QStringLiteral("[POLYLINE vertexNumber: %1, mVertices: %2, nVertices %3, flags: %4]")
         .arg(vertexNumber())
-        .arg(m_mVertices)
-        .arg(m_nVertices)
-        .arg(m_flags, 0, 16);
+        .arg(mVertices())
+        .arg(nVertices())
+        .arg(flags(), 0, 16);
 }
 
 void DXFPolyline::setup()
 {
-    if (!m_needsSetup)
+    if (!m_geometry.needsSetup)
         return;
-    m_needsSetup = false;
+    m_geometry.needsSetup = false;
 
-    // The reader adds vertices one by one, which leaves room for more than there are.
-    m_vertices.squeeze();
-    m_segments = QVector<Segment>();
-    if (m_vertices.size() < 2)
-        return;
+    const bool getsClosed = isClosed() && vertexNumber() > 2;
+    QVector<DXFVertex>& vertices = m_geometry.vertices;
+    const bool arePlain =
+        vertexNumber() > 1 && std::all_of(vertices.cbegin(), vertices.cend(), isPlain);
+    const Derived derived = getsClosed ? Derived::AllButTheLastPoint : Derived::AllPoints;
+    m_geometry.segments = newSegments(getsClosed);
+    m_geometry.derived = arePlain ? derived : Derived::None;
+    m_geometry.summarize();
+    if (arePlain && !m_areVerticesKnown)
+        vertices = QVector<DXFVertex>();
+    else
+        vertices.squeeze();
+}
 
-    const bool getsClosed = isClosed() && m_vertices.size() > 2;
-    m_segments.reserve(m_vertices.size() - (getsClosed ? 0 : 1));
-    for (auto vertex = m_vertices.cbegin() + 1; vertex != m_vertices.cend(); ++vertex)
-        appendSegment(m_segments, pointOf(*(vertex - 1)), pointOf(*vertex));
+QVector<Segment> DXFPolyline::newSegments(bool getsClosed) const
+{
+    const int vertexCount = vertexNumber();
+    QVector<Segment> segments;
+    if (vertexCount < 2)
+        return segments;
+
+    segments.reserve(vertexCount - (getsClosed ? 0 : 1));
+    for (int i = 1; i < vertexCount; ++i)
+        appendSegment(segments, m_geometry.pointAt(i - 1), m_geometry.pointAt(i));
     if (getsClosed)
-        appendSegment(m_segments, m_segments.constFirst().line().p1(),
-                      m_segments.constLast().line().p2());
+        appendSegment(segments, segments.constFirst().line().p1(),
+                      segments.constLast().line().p2());
+    return segments;
 }
 
 DXFPolyline* DXFPolyline::clone()
@@ -150,30 +303,37 @@ DXFPolyline* DXFPolyline::clone()
 
 bool DXFPolyline::isClosed() const
 {
-    return (m_flags & closedBit) != 0;
+    return (flags() & closedBit) != 0;
 }
 
-void DXFPolyline::setClosed(bool closed)
+const QVector<DXFVertex>& DXFPolyline::vertices() const
 {
-    m_flags = closed ? m_flags | closedBit : m_flags & ~closedBit;
+    m_areVerticesKnown = true;
+    m_geometry.keepVertices();
+    return m_geometry.vertices;
+}
+
+int DXFPolyline::vertexNumber() const
+{
+    return m_geometry.vertexNumber();
 }
 
 void DXFPolyline::appendPoint(const DXFVertex& vertex)
 {
-    if (m_vertices.isEmpty())
-        m_vertices.reserve(firstVertices);
-    m_vertices.append(vertex);
-    m_verticesFollowSegments = false;
+    m_geometry.keepVertices();
+    m_geometry.derived = Derived::None;
+    if (m_geometry.vertices.isEmpty())
+        m_geometry.vertices.reserve(firstVertices);
+    m_geometry.vertices.append(vertex);
 }
 
 /// Whether setSegments() was called with this very list before and nothing has changed since.
 /// Every polyline of a drawing is given its own segments again whenever anything is erased, so
-/// this must not cost a walk, nor a look at where the vertices lie in memory.
+/// this must not look at where they lie in memory.
 bool DXFPolyline::isMadeOf(const QVector<Segment>& segments) const
 {
-    return m_verticesFollowSegments && m_needsSetup
-           && segments.constData() == m_segments.constData()
-           && segments.size() == m_segments.size();
+    return m_geometry.derived == Derived::AllPoints && m_geometry.needsSetup
+           && segments.isSharedWith(m_geometry.segments);
 }
 
 void DXFPolyline::setSegments(const QVector<Segment>& segments)
@@ -181,56 +341,73 @@ void DXFPolyline::setSegments(const QVector<Segment>& segments)
     if (isMadeOf(segments))
         return;
 
-    m_segments = segments;
-    setVerticesAlong(segments.constData(), segments.constData() + segments.size());
-    m_verticesFollowSegments = !segments.isEmpty();
-}
-
-/// Does what setSegments() does but for taking the segments: the next setup() makes new ones.
-void DXFPolyline::setVerticesAlong(const Segment* begin, const Segment* end)
-{
-    m_mVertices = 0;
-    m_nVertices = 0;
-    m_needsSetup = true;
-    m_verticesFollowSegments = false;
-    if (begin == end)
+    const bool isSameList = segments.isSharedWith(m_geometry.segments);
+    m_geometry.mVertices = 0;
+    m_geometry.nVertices = 0;
+    m_geometry.needsSetup = true;
+    if (segments.isEmpty()) {
+        m_geometry.keepVertices();
+        m_geometry.derived = Derived::None;
+    } else if (!isSameList || m_geometry.derived != Derived::AllPoints) {
+        m_geometry.vertices = QVector<DXFVertex>();
+        m_geometry.derived = Derived::AllPoints;
+    }
+    if (!isSameList) {
+        m_geometry.segments = segments;
+        m_geometry.summarize();
+    }
+    if (segments.isEmpty())
         return;
 
-    // Vertices that are right already stay shared with the clones that undo keeps.
-    if (!lieAlong(m_vertices, begin, end))
-        m_vertices = verticesAlong(begin, end);
-    setClosed(coincide(begin->line().p1(), (end - 1)->line().p2()));
+    m_geometry.setClosed(
+        coincide(segments.constFirst().line().p1(), segments.constLast().line().p2()));
+    if (m_areVerticesKnown)
+        m_geometry.keepVertices();
 }
 
 /// Gives each segment the id and the flags of its counterpart in a list of the same length.
 void DXFPolyline::takeSegmentIdsFrom(const QVector<Segment>& segments)
 {
-    if (segments.size() != m_segments.size())
+    if (segments.size() != m_geometry.segments.size())
         return;
+    QVector<Segment> renamed = m_geometry.segments;
     auto former = segments.cbegin();
-    for (Segment& segment : m_segments) {
+    for (Segment& segment : renamed) {
         const QLineF line = segment.line();
         segment = *former++;
         segment.setLine(line);
     }
+    m_geometry.segments = renamed;
+    m_geometry.summarize();
 }
 
 void DXFPolyline::setSelectedSegments(QVector<int> ids)
 {
-    selectSegments(IdSet(ids));
+    PolylineAccess::selectSegments(*this, IdSet(ids));
 }
 
 void DXFPolyline::setHoveredSegments(QVector<int> ids)
 {
-    hoverSegments(IdSet(ids));
+    PolylineAccess::hoverSegments(*this, IdSet(ids));
+}
+
+/// Gives ids to the segments that have none, in a list of the polyline's own: whoever else holds
+/// the list would get the same ids.
+void DXFPolyline::assignIds()
+{
+    for (const Segment& segment : m_geometry.segments)
+        segment.id();
+    m_geometry.summarize();
 }
 
 void DXFPolyline::selectSegments(const IdSet& ids)
 {
-    flagSegments<&IDeletable::isSelected, &IDeletable::setSelected>(m_segments, ids);
+    m_geometry.isAnySelected =
+        flagSegments<&IDeletable::isSelected, &IDeletable::setSelected>(m_geometry.segments, ids);
 }
 
 void DXFPolyline::hoverSegments(const IdSet& ids)
 {
-    flagSegments<&IDeletable::isHovered, &IDeletable::setHovered>(m_segments, ids);
+    m_geometry.isAnyHovered =
+        flagSegments<&IDeletable::isHovered, &IDeletable::setHovered>(m_geometry.segments, ids);
 }

@@ -13,6 +13,7 @@ namespace dxfviewer
 {
 class IdSet;
 class PolylineAccess;
+class PolylineState;
 } // namespace dxfviewer
 
 /**
@@ -50,11 +51,11 @@ public:
      */
     DXFPolyline* clone() override;
 
-    const QVector<DXFVertex>& vertices() const { return m_vertices; }
-    int vertexNumber() const { return static_cast<int>(m_vertices.size()); }
-    unsigned int mVertices() const { return m_mVertices; }
-    unsigned int nVertices() const { return m_nVertices; }
-    unsigned int flags() const { return m_flags; }
+    const QVector<DXFVertex>& vertices() const;
+    int vertexNumber() const;
+    unsigned int mVertices() const { return m_geometry.mVertices; }
+    unsigned int nVertices() const { return m_geometry.nVertices; }
+    unsigned int flags() const { return m_geometry.flags; }
     bool isClosed() const;
 
     /// Adds a vertex at the end. The segments follow only while a setup() is due: before the first
@@ -62,7 +63,7 @@ public:
     void appendPoint(const DXFVertex& vertex);
 
     /// The segments as they are now; empty before the first setup(). Copying them is cheap.
-    QVector<Segment> segments() const { return m_segments; }
+    QVector<Segment> segments() const { return m_geometry.segments; }
 
     /**
      * Gives the polyline the geometry of a chain of segments.
@@ -83,23 +84,61 @@ public:
 private:
     friend class dxfviewer::PolylineAccess;
 
+    /// A rectangle around all segments, a little too large. If a coordinate is no finite number,
+    /// the bounds are NaN, for which no comparison holds.
+    struct Bounds {
+        float left;
+        float top;
+        float right;
+        float bottom;
+    };
+
+    /// The vertices that follow from the segments, so that they need not be kept.
+    enum class Derived : quint8 { None, AllPoints, AllButTheLastPoint };
+
+    /// What a clone has in common with its original, apart from what every entity has.
+    struct Geometry {
+        Geometry(unsigned int mVertices, unsigned int nVertices, unsigned int flags);
+
+        int vertexNumber() const;
+        QPointF pointAt(int vertex) const;
+        QVector<DXFVertex> derivedVertices() const;
+        void keepVertices() const;
+        void setClosed(bool closed);
+        void summarize();
+
+        bool needsSetup = true;
+        Derived derived = Derived::None;
+        // What walks over all polylines ask first, so that few lists have to be opened. An
+        // unassigned id is less than all others. The range of ids and the bounds may be wider
+        // than need be.
+        bool isAnySelected;
+        bool isAnyHovered;
+        int leastId;
+        int greatestId;
+        Bounds bounds;
+        unsigned int mVertices;
+        unsigned int nVertices;
+        unsigned int flags;
+        QVector<Segment> segments;
+        // Empty while they are derived and nobody has asked for them.
+        mutable QVector<DXFVertex> vertices;
+    };
+
+    bool isMadeOf(const QVector<Segment>& segments) const;
+    QVector<Segment> newSegments(bool getsClosed) const;
     void takeSegmentIdsFrom(const QVector<Segment>& segments);
+    void assignIds();
     void selectSegments(const dxfviewer::IdSet& ids);
     void hoverSegments(const dxfviewer::IdSet& ids);
-    bool isMadeOf(const QVector<Segment>& segments) const;
-    void setVerticesAlong(const Segment* begin, const Segment* end);
-    void setClosed(bool closed);
 
-    bool m_needsSetup = true;
-    // Whether setSegments() made the vertices and they are still those.
-    bool m_verticesFollowSegments = false;
-    QVector<Segment> m_segments;
+    Geometry m_geometry;
     // A second pair that nothing reads: what is painted are the values of DXFEntity. It is part of
     // what a polyline is made of and stays for that reason alone.
     QColor m_ownColor;
     int m_ownLineWidth = 0;
-    unsigned int m_mVertices;
-    unsigned int m_nVertices;
-    unsigned int m_flags;
-    QVector<DXFVertex> m_vertices;
+    // Whoever called vertices() has a reference to them, which has to stay good.
+    mutable bool m_areVerticesKnown = false;
+    // What delete commands keep of the polyline. It belongs to them, and clears this when it goes.
+    dxfviewer::PolylineState* m_state = nullptr;
 };

@@ -6,6 +6,11 @@
 
 #include <QtGlobal>
 
+namespace dxfviewer
+{
+class PolylineAccess;
+}
+
 /**
  * What every selectable thing of a drawing has: an id and two interaction flags.
  *
@@ -33,6 +38,8 @@ public:
     void setHovered(bool hovered) { m_hovered = hovered; }
 
 private:
+    friend class dxfviewer::PolylineAccess;
+
     static constexpr qint32 unassigned = -1;
 
     int assignId() const;

@@ -25,16 +25,34 @@ public:
         const unsigned offset = static_cast<unsigned>(id) - m_first;
         if (offset > m_last)
             return false;
-        return m_bits.empty() ? isListed(offset) : m_bits[offset];
+        return m_words.empty() ? isListed(offset)
+                               : (m_words[offset / wordBits] & bitOf(offset)) != 0;
+    }
+
+    /// Whether an id from least to greatest may be in the list. False is certain; true is not where
+    /// the range is so wide that one had better look at the ids in it.
+    bool mayContainAny(int least, int greatest) const
+    {
+        const qint64 first = qMax<qint64>(qint64(least) - m_leastId, 0);
+        const qint64 last = qMin<qint64>(qint64(greatest) - m_leastId, m_last);
+        return first <= last && !m_isEmpty
+               && isAnyListed(static_cast<unsigned>(first), static_cast<unsigned>(last));
     }
 
 private:
+    static constexpr unsigned wordBits = 64;
+
+    static quint64 bitOf(unsigned offset) { return quint64(1) << (offset % wordBits); }
+
     bool isListed(unsigned offset) const;
+    bool isAnyListed(unsigned first, unsigned last) const;
 
     // The ids are kept as offsets from the smallest one. Of no ids at all, none is listed.
+    bool m_isEmpty = true;
+    int m_leastId = 0;
     unsigned m_first = 0;
     unsigned m_last = 0;
-    std::vector<bool> m_bits;
+    std::vector<quint64> m_words;
     std::vector<unsigned> m_sorted;
 };
 

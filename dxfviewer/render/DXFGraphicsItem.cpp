@@ -5,15 +5,20 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/Polylines.h"
+#include "dxfviewer/render/VisibleArea.h"
 
 #include <QDebug>
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 using dxfviewer::asPolyline;
 using dxfviewer::PolylineAccess;
+using dxfviewer::VisibleArea;
 
 namespace
 {
@@ -34,6 +39,15 @@ class Bounds
 public:
     const QRectF& rect() const { return m_rect; }
 
+    void unite(const DXFPolyline& polyline)
+    {
+        if (m_isSteady && isWithin(PolylineAccess::bounds(polyline)))
+            return;
+        for (const Segment& segment : PolylineAccess::segments(polyline))
+            unite(segment.line());
+    }
+
+private:
     void unite(const QLineF& line)
     {
         if (m_isSteady && isWithin(line.x1(), line.dx(), m_rect.left(), m_rect.right())
@@ -44,7 +58,20 @@ public:
                      && isExtent(m_rect.height(), m_rect.top(), m_rect.bottom());
     }
 
-private:
+    /// Whether no line in the polyline's bounds moves ours, whatever is rounded on the way.
+    bool isWithin(const PolylineAccess::Bounds& bounds) const
+    {
+        return isWellWithin(bounds.left, bounds.right, m_rect.left(), m_rect.right())
+               && isWellWithin(bounds.top, bounds.bottom, m_rect.top(), m_rect.bottom());
+    }
+
+    static bool isWellWithin(double least, double greatest, double from, double to)
+    {
+        constexpr double rounding = 8 * std::numeric_limits<double>::epsilon();
+        const double slack = rounding * std::max(std::abs(least), std::abs(greatest));
+        return least - slack > from && greatest + slack < to;
+    }
+
     static bool isWithin(double start, double extent, double from, double to)
     {
         const double end = start + extent;
@@ -86,12 +113,6 @@ void drawSegment(QPainter& painter, const Segment& segment)
 {
     const QLineF line = segment.line();
     painter.drawLines(&line, 1);
-}
-
-void drawSegments(QPainter& painter, const QVector<Segment>& segments)
-{
-    for (const Segment& segment : segments)
-        drawSegment(painter, segment);
 }
 
 /// The pens of one painting. Making a pen, and even handing it to the painter, costs as much as
@@ -151,20 +172,52 @@ private:
     const Kept* m_inUse = nullptr;
 };
 
-void drawEntity(QPainter& painter, EntityPens& pens, const DXFEntity& entity,
-                const QVector<Segment>& segments)
+/// Draws the polylines of a document one by one.
+class Drawing
 {
-    bool isFirst = true;
-    Look current = Look::Plain;
-    for (const Segment& segment : segments) {
-        const Look look = lookOf(segment);
-        if (isFirst || look != current)
-            pens.use(entity.lineWidth(), colorOf(look, entity.color()));
-        isFirst = false;
-        current = look;
-        drawSegment(painter, segment);
+public:
+    Drawing(QPainter& painter, const QPen* overridePen)
+        : m_painter(painter)
+        , m_overridePen(overridePen)
+        , m_pens(painter)
+        , m_area(painter)
+    {
+        if (!overridePen)
+            return;
+        painter.setPen(*overridePen);
+        m_area.setPen(*overridePen);
     }
-}
+
+    void draw(const DXFPolyline& polyline)
+    {
+        if (!m_overridePen)
+            m_area.setCosmeticPen(polyline.lineWidth());
+        const auto part = m_area.visiblePart(PolylineAccess::bounds(polyline));
+        if (part == VisibleArea::Part::None)
+            return;
+
+        // A copy: the painter may be a host's own, whose calls do who knows what.
+        const auto segments = polyline.segments();
+        bool hasPen = m_overridePen != nullptr;
+        Look current = Look::Plain;
+        for (const Segment& segment : segments) {
+            if (part == VisibleArea::Part::Some && m_area.hides(segment.line()))
+                continue;
+            const Look look = lookOf(segment);
+            if (!hasPen || (!m_overridePen && look != current))
+                m_pens.use(polyline.lineWidth(), colorOf(look, polyline.color()));
+            hasPen = true;
+            current = look;
+            drawSegment(m_painter, segment);
+        }
+    }
+
+private:
+    QPainter& m_painter;
+    const QPen* m_overridePen;
+    EntityPens m_pens;
+    VisibleArea m_area;
+};
 
 } // namespace
 
@@ -200,11 +253,8 @@ void DXFGraphicsItem::refresh()
     Bounds bounds;
     const auto entities = m_document->entities();
     for (const auto& entity : entities) {
-        const DXFPolyline* polyline = asPolyline(entity);
-        if (!polyline)
-            continue;
-        for (const Segment& segment : PolylineAccess::segments(*polyline))
-            bounds.unite(segment.line());
+        if (const DXFPolyline* polyline = asPolyline(entity))
+            bounds.unite(*polyline);
     }
     m_rect = bounds.rect();
 }
@@ -233,19 +283,11 @@ void DXFGraphicsItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /
         return;
 
     painter->save();
-    if (m_overridePen)
-        painter->setPen(*m_overridePen);
-    EntityPens pens(*painter);
+    Drawing drawing(*painter, m_overridePen.get());
     const auto entities = m_document->entities();
     for (const auto& entity : entities) {
-        const DXFPolyline* polyline = asPolyline(entity);
-        if (!polyline)
-            continue;
-        const auto segments = polyline->segments();
-        if (m_overridePen)
-            drawSegments(*painter, segments);
-        else
-            drawEntity(*painter, pens, *entity, segments);
+        if (const DXFPolyline* polyline = asPolyline(entity))
+            drawing.draw(*polyline);
     }
     painter->restore();
 }

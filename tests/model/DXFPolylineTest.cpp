@@ -378,14 +378,13 @@ TEST_F(DXFPolylineTest, HoveringAssignsMissingIds)
     EXPECT_THAT(segmentIdsOf(polyline), ElementsAre(highest + 1, highest + 2));
 }
 
-TEST_F(DXFPolylineTest, MissingIdsAreAssignedInOrderAlsoOnceTheListIsNoLongerShared)
+TEST_F(DXFPolylineTest, MissingIdsAreAssignedInOrderWhateverIsSelected)
 {
     const QVector<QLineF> lines{QLineF(a, b), QLineF(b, c), QLineF(c, a), QLineF(a, c)};
     for (const int selected : {-1, 0, 1, 2, 3}) {
         QVector<Segment> chain = chainOf(lines);
         if (selected >= 0)
             chain[selected].setSelected(true);
-        const auto shared = chain;
         DXFPolyline polyline(0, 0, 0);
         polyline.setSegments(chain);
         const int highest = highestId();
@@ -395,8 +394,37 @@ TEST_F(DXFPolylineTest, MissingIdsAreAssignedInOrderAlsoOnceTheListIsNoLongerSha
         EXPECT_THAT(segmentIdsOf(polyline),
                     ElementsAre(highest + 1, highest + 2, highest + 3, highest + 4))
             << selected;
-        EXPECT_EQ(polyline.segments().constData() == shared.constData(), selected < 0);
     }
+}
+
+TEST_F(DXFPolylineTest, WhoSharesAListWithoutIdsGetsIdsOfHisOwn)
+{
+    const auto chain = chainOf({QLineF(a, b), QLineF(b, c)});
+    DXFPolyline first(0, 0, 0);
+    first.setSegments(chain);
+    DXFPolyline second(0, 0, 0);
+    second.setSegments(chain);
+    const int highest = highestId();
+
+    first.setSelectedSegments({});
+    second.setHoveredSegments({});
+
+    EXPECT_THAT(segmentIdsOf(first), ElementsAre(highest + 1, highest + 2));
+    EXPECT_THAT(segmentIdsOf(second), ElementsAre(highest + 3, highest + 4));
+    EXPECT_EQ(chain.first().id(), highest + 5);
+}
+
+TEST_F(DXFPolylineTest, SelectingAgainAssignsNoFurtherIds)
+{
+    DXFPolyline polyline(0, 0, 0);
+    polyline.setSegments(chainOf({QLineF(a, b), QLineF(b, c)}));
+    polyline.setSelectedSegments({});
+    const auto ids = segmentIdsOf(polyline);
+
+    polyline.setSelectedSegments({ids.last()});
+
+    EXPECT_EQ(segmentIdsOf(polyline), ids);
+    EXPECT_TRUE(polyline.segments().last().isSelected());
 }
 
 TEST_F(DXFPolylineTest, SelectingWhatIsSelectedKeepsTheListShared)
@@ -708,6 +736,63 @@ TEST_F(DXFPolylineTest, SameChainAgainDropsAVertexAppendedMeanwhile)
     polyline.setSegments(chain);
 
     EXPECT_EQ(pointsOf(polyline), QVector<QPointF>({a, b, c}));
+}
+
+TEST_F(DXFPolylineTest, ReferenceToTheVerticesStaysGood)
+{
+    const auto polyline = makePolyline({a, b, c}, true);
+    const auto& vertices = polyline->vertices();
+
+    polyline->setup();
+    ASSERT_EQ(vertices.size(), 3);
+    EXPECT_EQ(vertices.last().x(), c.x());
+
+    polyline->setSegments(chainOf({QLineF(a, d)}));
+    ASSERT_EQ(vertices.size(), 2);
+    EXPECT_EQ(vertices.last().y(), d.y());
+
+    polyline->setSegments({});
+    EXPECT_EQ(vertices.size(), 2);
+
+    *polyline = *makePolyline({a, b, c, d});
+    EXPECT_EQ(vertices.size(), 4);
+}
+
+TEST_F(DXFPolylineTest, ReferenceToTheVerticesIsGoodInAnAssignedPolylineToo)
+{
+    DXFPolyline source(0, 0, 0);
+    source.setSegments(chainOf({QLineF(a, b), QLineF(b, c)}));
+    DXFPolyline polyline(0, 0, 0);
+    const auto& vertices = polyline.vertices();
+
+    polyline = source;
+
+    ASSERT_EQ(vertices.size(), 3);
+    EXPECT_EQ(vertices.last().x(), c.x());
+}
+
+TEST_F(DXFPolylineTest, VerticesFollowFromSegmentsWheneverTheyAreAskedFor)
+{
+    for (const bool closed : {false, true}) {
+        const auto polyline = makePolyline({a, b, c}, closed);
+        polyline->setup();
+
+        EXPECT_EQ(polyline->vertexNumber(), 3);
+        EXPECT_EQ(pointsOf(*polyline), QVector<QPointF>({a, b, c}));
+    }
+}
+
+TEST_F(DXFPolylineTest, VertexAppendedAfterTheSetupFollowsTheOthers)
+{
+    for (const bool closed : {false, true}) {
+        const auto polyline = makePolyline({a, b, c}, closed);
+        polyline->setup();
+
+        polyline->appendPoint(DXFVertex(d.x(), d.y(), 0, true, 0));
+
+        EXPECT_EQ(polyline->vertexNumber(), 4);
+        EXPECT_EQ(pointsOf(*polyline), QVector<QPointF>({a, b, c, d}));
+    }
 }
 
 struct Closing {

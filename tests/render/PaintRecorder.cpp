@@ -10,12 +10,15 @@ namespace dxftest
 namespace
 {
 
-constexpr int edge = 1000;
+constexpr int edge = 100;
 constexpr int dotsPerInch = 100;
 
 } // namespace
 
-PaintRecorder::PaintRecorder() = default;
+PaintRecorder::PaintRecorder(QPaintEngine::Type type)
+    : m_engine(type)
+{
+}
 
 int PaintRecorder::metric(PaintDeviceMetric metric) const
 {
@@ -37,8 +40,9 @@ int PaintRecorder::metric(PaintDeviceMetric metric) const
     }
 }
 
-PaintRecorder::Engine::Engine()
+PaintRecorder::Engine::Engine(Type type)
     : QPaintEngine(AllFeatures)
+    , m_type(type)
 {
 }
 

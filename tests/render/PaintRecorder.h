@@ -17,11 +17,12 @@ struct DrawnLines {
     QPen pen;
 };
 
-/// A device that draws nothing but writes down every call that draws lines.
+/// A device that draws nothing but writes down every call that draws lines. It may pass for one of
+/// another type.
 class PaintRecorder : public QPaintDevice
 {
 public:
-    PaintRecorder();
+    explicit PaintRecorder(QPaintEngine::Type type = QPaintEngine::User);
 
     QVector<DrawnLines> calls() const { return m_engine.calls; }
     /// How often something else than lines was drawn.
@@ -36,11 +37,11 @@ private:
     class Engine : public QPaintEngine
     {
     public:
-        Engine();
+        explicit Engine(Type type);
 
         bool begin(QPaintDevice* device) override;
         bool end() override;
-        Type type() const override { return User; }
+        Type type() const override { return m_type; }
         void updateState(const QPaintEngineState& state) override;
         void drawLines(const QLineF* lines, int count) override;
         void drawLines(const QLine* lines, int count) override;
@@ -50,6 +51,9 @@ private:
 
         QVector<DrawnLines> calls;
         int otherCalls = 0;
+
+    private:
+        Type m_type;
     };
 
     mutable Engine m_engine;

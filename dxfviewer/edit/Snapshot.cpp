@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/edit/Snapshot.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <typeinfo>
+#include <utility>
+
+namespace dxfviewer
+{
+
+namespace
+{
+
+using Match = PolylineState::Match;
+
+/// The entity if it is a polyline that no subclass has added to; else null.
+DXFPolyline* asPlainPolyline(DXFEntity* entity)
+{
+    return entity && typeid(*entity) == typeid(DXFPolyline) ? static_cast<DXFPolyline*>(entity)
+                                                            : nullptr;
+}
+
+} // namespace
+
+Snapshot::Snapshot() = default;
+Snapshot::~Snapshot() = default;
+
+void Snapshot::take(const EntityList& entities)
+{
+    m_entries.clear();
+    m_otherClones.clear();
+    m_entries.reserve(static_cast<std::size_t>(entities.size()));
+    int nullKey = 0;
+    for (const auto& entity : entities) {
+        if (auto* polyline = asPlainPolyline(entity.data()))
+            m_entries.push_back(entryOf(*polyline));
+        else
+            m_entries.push_back(entryOf(entity, --nullKey));
+    }
+    sort();
+}
+
+Snapshot::Entry Snapshot::entryOf(DXFPolyline& polyline)
+{
+    // The clone takes its id first, as if it were made now.
+    const int cloneId = IDeletable().id();
+    PolylineState::Pointer state(PolylineAccess::state(polyline));
+    const Match match = state ? state->match(polyline) : Match::Different;
+    if (match == Match::Different)
+        state = new PolylineState(polyline);
+    const bool areSegmentsGivenAgain = match == Match::SegmentsGivenAgain;
+    return {std::move(state), polyline.id(), areSegmentsGivenAgain ? -cloneId : cloneId};
+}
+
+/// Null entries have no id; no id is negative, so each finds a key of its own there.
+Snapshot::Entry Snapshot::entryOf(const QSharedPointer<DXFEntity>& entity, int nullKey)
+{
+    m_otherClones.emplace_back(entity ? entity->clone() : nullptr);
+    const int place = static_cast<int>(m_otherClones.size()) - 1;
+    return {{}, entity ? entity->id() : nullKey, place};
+}
+
+/// Of entries with the same key the last one counts.
+void Snapshot::sort()
+{
+    const auto isBefore = [](const Entry& a, const Entry& b) {
+        return a.key < b.key;
+    };
+    const auto isSame = [](const Entry& a, const Entry& b) {
+        return a.key == b.key;
+    };
+    if (!std::is_sorted(m_entries.begin(), m_entries.end(), isBefore))
+        std::stable_sort(m_entries.begin(), m_entries.end(), isBefore);
+    const auto firstKept = std::unique(m_entries.rbegin(), m_entries.rend(), isSame).base();
+    m_entries.erase(m_entries.begin(), firstKept);
+}
+
+QSharedPointer<DXFEntity> Snapshot::takeClone(Entry& entry)
+{
+    if (!entry.state)
+        return std::move(m_otherClones[static_cast<std::size_t>(entry.idOrPlace)]);
+    const auto clone = entry.state->clone(std::abs(entry.idOrPlace), entry.idOrPlace < 0);
+    entry.state.reset();
+    return clone;
+}
+
+void Snapshot::restore(EntityList& entities)
+{
+    // Entities go when the list is complete: a host's own may look at it in that moment.
+    std::vector<QSharedPointer<DXFEntity>> replaced;
+    replaced.reserve(static_cast<std::size_t>(entities.size()));
+    while (entities.size() > static_cast<int>(m_entries.size()))
+        replaced.push_back(entities.takeLast());
+
+    auto entry = m_entries.begin();
+    for (auto& entity : entities) {
+        replaced.push_back(takeClone(*entry++));
+        replaced.back().swap(entity);
+    }
+    for (; entry != m_entries.end(); ++entry)
+        entities.append(takeClone(*entry));
+    m_entries = {};
+    m_otherClones = {};
+}
+
+} // namespace dxfviewer

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include "dxfviewer/model/PolylineState.h"
+
+#include <QList>
+#include <QSharedPointer>
+
+#include <vector>
+
+namespace dxfviewer
+{
+
+/**
+ * Clones of all entities of a document, in the order of the ids of their originals.
+ *
+ * Each clone has the next id from the moment of the snapshot. The clones of plain polylines,
+ * though, are made only when they are asked for: until then there is a state, which the snapshots
+ * of several commands share as long as the polyline does not change.
+ */
+class Snapshot
+{
+public:
+    using EntityList = QList<QSharedPointer<DXFEntity>>;
+
+    Snapshot();
+    ~Snapshot();
+
+    /// Replaces what was taken before.
+    void take(const EntityList& entities);
+
+    /// Puts the clones into the list, in place of all that is there. The snapshot is empty then.
+    void restore(EntityList& entities);
+
+private:
+    Q_DISABLE_COPY(Snapshot)
+
+    /// A plain polyline has a state; of any other entity the clone stands among the other clones.
+    struct Entry {
+        PolylineState::Pointer state;
+        int key;
+        // The clone's id, negative if it gets its segments given again. Without a state, the
+        // place of the clone among the others.
+        int idOrPlace;
+    };
+
+    static Entry entryOf(DXFPolyline& polyline);
+    Entry entryOf(const QSharedPointer<DXFEntity>& entity, int nullKey);
+    void sort();
+    QSharedPointer<DXFEntity> takeClone(Entry& entry);
+
+    std::vector<Entry> m_entries;
+    std::vector<QSharedPointer<DXFEntity>> m_otherClones;
+};
+
+} // namespace dxfviewer

@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "dxfviewer/render/VisibleArea.h"
+
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace dxfviewer
+{
+
+namespace
+{
+
+// Pixels around a line that rounding and smoothing may reach.
+constexpr double softEdge = 4.0;
+
+// A cosmetic line of one pixel is clipped in floating point before anything else is done with it.
+constexpr double trustedForThinLines = 1e9;
+// Others become outlines in fixed point numbers, with limits not far beyond this.
+constexpr double trustedForOutlines = 3e4;
+
+// Within these the inverse of a scaling, which clip rectangles go through, is good to a pixel.
+constexpr double leastScale = 1e-6;
+constexpr double greatestScale = 1e6;
+
+bool makesPixels(const QPaintEngine& engine)
+{
+    return engine.type() == QPaintEngine::Raster || engine.type() == QPaintEngine::OpenGL
+           || engine.type() == QPaintEngine::OpenGL2;
+}
+
+bool isModest(double scale)
+{
+    return std::abs(scale) > leastScale && std::abs(scale) < greatestScale;
+}
+
+/// The range of one coordinate on the device of what lies in some bounds of the drawing.
+struct Range {
+    Range(double factorX, double x1, double x2, double factorY, double y1, double y2, double offset)
+    {
+        const double x[] = {factorX * x1, factorX * x2};
+        const double y[] = {factorY * y1, factorY * y2};
+        from = std::min(x[0], x[1]) + std::min(y[0], y[1]) + offset;
+        to = std::max(x[0], x[1]) + std::max(y[0], y[1]) + offset;
+    }
+
+    double from;
+    double to;
+};
+
+} // namespace
+
+VisibleArea::VisibleArea(const QPainter& painter)
+{
+    const QPaintEngine* engine = painter.paintEngine();
+    const QPaintDevice* device = engine ? engine->paintDevice() : nullptr;
+    if (!device || !makesPixels(*engine) || !painter.deviceTransform().isAffine())
+        return;
+
+    m_isKnown = true;
+    setTransform(painter.deviceTransform());
+    m_drawsThinLinesExactly = engine->type() == QPaintEngine::Raster;
+    // Some devices count pixels, some do not. More area than there is does no harm.
+    m_pixelRatio = std::max(1.0, static_cast<double>(device->devicePixelRatioF()));
+    m_area = QRectF(0, 0, device->width() * m_pixelRatio, device->height() * m_pixelRatio);
+    if (painter.hasClipping())
+        clipTo(painter);
+}
+
+void VisibleArea::setTransform(const QTransform& toDevice)
+{
+    m_dx = toDevice.dx();
+    m_dy = toDevice.dy();
+    if (toDevice.type() >= QTransform::TxScale) {
+        m_xx = toDevice.m11();
+        m_yy = toDevice.m22();
+    }
+    if (toDevice.type() > QTransform::TxScale) {
+        m_yx = toDevice.m21();
+        m_xy = toDevice.m12();
+    }
+    m_stretch = std::sqrt(m_xx * m_xx + m_xy * m_xy + m_yx * m_yx + m_yy * m_yy);
+}
+
+void VisibleArea::clipTo(const QPainter& painter)
+{
+    const bool isInvertedWell = m_xy == 0.0 && m_yx == 0.0 && isModest(m_xx) && isModest(m_yy)
+                                && std::abs(m_dx) < trustedForThinLines
+                                && std::abs(m_dy) < trustedForThinLines;
+    const QRectF clip = painter.clipBoundingRect();
+    if (isInvertedWell && !clip.isEmpty())
+        m_area &= painter.deviceTransform().mapRect(clip).adjusted(-softEdge, -softEdge, softEdge,
+                                                                   softEdge);
+}
+
+void VisibleArea::setPen(const QPen& pen)
+{
+    // A line has no joins, but it costs nothing to have their miters in.
+    const double reach = pen.widthF() * std::max(1.0, pen.miterLimit());
+    if (pen.isCosmetic())
+        setReach(reach * m_pixelRatio, pen.widthF() <= 1.0);
+    else
+        setReach(reach * m_stretch, false);
+}
+
+void VisibleArea::setCosmeticPen(int width)
+{
+    setReach(2.0 * std::abs(width) * m_pixelRatio, width <= 1);
+}
+
+void VisibleArea::setReach(double reach, bool isThin)
+{
+    const double margin = reach + softEdge;
+    m_trusted = isThin && m_drawsThinLinesExactly ? trustedForThinLines : trustedForOutlines;
+    m_left = m_area.left() - margin;
+    m_top = m_area.top() - margin;
+    m_right = m_area.right() + margin;
+    m_bottom = m_area.bottom() + margin;
+}
+
+VisibleArea::Part VisibleArea::visiblePart(const PolylineAccess::Bounds& bounds) const
+{
+    const Range x(m_xx, bounds.left, bounds.right, m_yx, bounds.top, bounds.bottom, m_dx);
+    const Range y(m_xy, bounds.left, bounds.right, m_yy, bounds.top, bounds.bottom, m_dy);
+    // What is not a number is not trusted either.
+    const bool isTrusted = m_isKnown && x.from > -m_trusted && x.to < m_trusted
+                           && y.from > -m_trusted && y.to < m_trusted;
+    if (!isTrusted)
+        return Part::All;
+    if (x.to < m_left || x.from > m_right || y.to < m_top || y.from > m_bottom)
+        return Part::None;
+    if (x.from >= m_left && x.to <= m_right && y.from >= m_top && y.to <= m_bottom)
+        return Part::All;
+    return Part::Some;
+}
+
+bool VisibleArea::hides(const QLineF& line) const
+{
+    const double x1 = m_xx * line.x1() + m_yx * line.y1() + m_dx;
+    const double x2 = m_xx * line.x2() + m_yx * line.y2() + m_dx;
+    if ((x1 < m_left && x2 < m_left) || (x1 > m_right && x2 > m_right))
+        return true;
+    const double y1 = m_xy * line.x1() + m_yy * line.y1() + m_dy;
+    const double y2 = m_xy * line.x2() + m_yy * line.y2() + m_dy;
+    return (y1 < m_top && y2 < m_top) || (y1 > m_bottom && y2 > m_bottom);
+}
+
+} // namespace dxfviewer
