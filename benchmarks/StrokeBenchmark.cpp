@@ -3,16 +3,20 @@
 #include "Comparison.h"
 
 #include "dxfviewer/viewer/DXFViewer.h"
+#include "dxfviewer/viewer/View.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QGraphicsScene>
-#include <QGraphicsView>
+#include <QImage>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QTest>
 
 #include <algorithm>
 #include <chrono>
+#include <memory>
+#include <string>
 #include <vector>
 
 namespace
@@ -20,17 +24,28 @@ namespace
 
 using namespace dxfbench;
 
-constexpr int moves = 60;
-constexpr int loadTimeoutMs = 120000;
-constexpr int windowSize = 800;
+constexpr int mostMoves = 60;
+constexpr int leastMoves = 15;
+constexpr int movedSegments = 20000000;
+constexpr int loadTimeoutMs = 600000;
+constexpr QSize windowSize(1000, 800);
 constexpr double median = 0.5;
 constexpr double percentile99 = 0.99;
 constexpr double milliseconds = 1e3;
+constexpr int limitRounds = 5;
 
-using Seconds = std::vector<double>;
+/// What a user waits for after one event: processor time and time on the clock.
+struct Wait {
+    double processor = 0.0;
+    double clock = 0.0;
+};
+using Waits = std::vector<Wait>;
 
-double quantile(Seconds seconds, double share)
+double quantile(const Waits& waits, double Wait::*time, double share)
 {
+    std::vector<double> seconds;
+    for (const Wait& wait : waits)
+        seconds.push_back(wait.*time);
     std::sort(seconds.begin(), seconds.end());
     const double last = static_cast<double>(seconds.size() - 1);
     return seconds.at(static_cast<std::size_t>(share * last + 0.5));
@@ -46,75 +61,190 @@ public:
     {
     }
 
-    double press(const QPoint& at)
+    Wait press(const QPoint& at)
     {
         return send(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
     }
-    double moveTo(const QPoint& at)
+    Wait moveTo(const QPoint& at, Qt::MouseButtons held)
     {
-        return send(QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton);
+        return send(QEvent::MouseMove, at, Qt::NoButton, held);
     }
-    double release(const QPoint& at)
+    Wait release(const QPoint& at)
     {
         return send(QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
     }
 
 private:
-    double send(QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButtons held)
+    Wait send(QEvent::Type type, const QPoint& at, Qt::MouseButton button, Qt::MouseButtons held)
     {
         using Clock = std::chrono::steady_clock;
         const auto start = Clock::now();
+        const double startOfThread = threadSeconds();
         QMouseEvent event(type, at, m_viewport.mapTo(m_viewport.window(), at),
                           m_viewport.mapToGlobal(at), button, held, Qt::NoModifier);
         QApplication::sendEvent(&m_viewport, &event);
         QApplication::processEvents();
-        return std::chrono::duration<double>(Clock::now() - start).count();
+        return {threadSeconds() - startOfThread,
+                std::chrono::duration<double>(Clock::now() - start).count()};
     }
 
     QWidget& m_viewport;
 };
 
-/// Straight across the middle of the window.
-Seconds stroke(QGraphicsView& view)
+/// A window in edit mode that shows a drawing, all of it or the middle of it.
+class ShownDrawing
 {
-    PatientMouse mouse(view);
-    const int y = view.viewport()->height() / 2;
-    const int width = view.viewport()->width();
-    const auto pointAt = [&](int step) {
-        return QPoint(width * (step + 1) / (moves + 2), y);
-    };
+public:
+    ShownDrawing(const Plan& plan, int zoomSteps)
+        : m_plan(plan)
+    {
+        m_window.resize(windowSize);
+        m_window.show();
+        m_view = m_window.findChild<View*>();
+        m_window.loadData(makeText(plan));
+        m_isShown =
+            QTest::qWaitFor([&] { return !m_view->scene()->items().isEmpty(); }, loadTimeoutMs);
+        for (int step = 0; step < zoomSteps; ++step)
+            m_view->zoomCalc(1);
+        m_window.findChild<QAction*>(QStringLiteral("actionEdit_dxf"))->setChecked(true);
+        QApplication::processEvents();
+    }
 
-    Seconds seconds{mouse.press(pointAt(0))};
-    for (int step = 1; step <= moves; ++step)
-        seconds.push_back(mouse.moveTo(pointAt(step)));
-    seconds.push_back(mouse.release(pointAt(moves)));
-    return seconds;
+    bool isShown() const { return m_isShown; }
+
+    /// Moves without a button.
+    Waits hover()
+    {
+        PatientMouse mouse(*m_view);
+        mouse.moveTo(pointAt(0), Qt::NoButton);
+        Waits waits;
+        for (int step = 1; step <= moves(); ++step)
+            waits.push_back(mouse.moveTo(pointAt(step), Qt::NoButton));
+        return waits;
+    }
+
+    /// Straight across the middle of the window.
+    Waits drag()
+    {
+        PatientMouse mouse(*m_view);
+        Waits waits{mouse.press(pointAt(0))};
+        for (int step = 1; step <= moves(); ++step)
+            waits.push_back(mouse.moveTo(pointAt(step), Qt::LeftButton));
+        waits.push_back(mouse.release(pointAt(moves())));
+        return waits;
+    }
+
+    /// Seconds that it takes to find the visible lines in a plain array and draw them.
+    double plainPaintSeconds() const
+    {
+        const std::vector<QLineF> lines = plainLines();
+        QImage image(m_view->viewport()->size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        const QRectF visible = m_view->mapToScene(m_view->viewport()->rect()).boundingRect();
+        double best = 0.0;
+        for (int round = 0; round < limitRounds; ++round) {
+            QPainter painter(&image);
+            painter.setTransform(m_view->viewportTransform());
+            QPen pen(Qt::black, 1);
+            pen.setCosmetic(true);
+            painter.setPen(pen);
+            const double seconds = secondsOf([&] { drawVisible(painter, lines, visible); });
+            best = round == 0 ? seconds : std::min(best, seconds);
+        }
+        return best;
+    }
+
+private:
+    int moves() const { return std::clamp(movedSegments / m_plan.segments, leastMoves, mostMoves); }
+
+    QPoint pointAt(int step) const
+    {
+        const QSize size = m_view->viewport()->size();
+        return QPoint(size.width() * (step + 1) / (moves() + 2), size.height() / 2);
+    }
+
+    std::vector<QLineF> plainLines() const
+    {
+        std::vector<QLineF> lines;
+        const auto document = makeReadyDocument(m_plan);
+        for (const auto& [begin, end] : spansOf(*document)) {
+            for (const Segment* segment = begin; segment != end; ++segment)
+                lines.push_back(segment->line());
+        }
+        return lines;
+    }
+
+    static void drawVisible(QPainter& painter, const std::vector<QLineF>& lines,
+                            const QRectF& visible)
+    {
+        for (const QLineF& line : lines) {
+            if (std::max(line.x1(), line.x2()) >= visible.left()
+                && std::min(line.x1(), line.x2()) <= visible.right()
+                && std::max(line.y1(), line.y2()) >= visible.top()
+                && std::min(line.y1(), line.y2()) <= visible.bottom())
+                painter.drawLines(&line, 1);
+        }
+    }
+
+    Plan m_plan;
+    DXFViewer m_window;
+    View* m_view = nullptr;
+    bool m_isShown = false;
+};
+
+void report(benchmark::State& state, const Waits& waits, double limit)
+{
+    state.SetIterationTime(quantile(waits, &Wait::processor, median));
+    state.counters["median_ms"] = quantile(waits, &Wait::processor, median) * milliseconds;
+    state.counters["p99_ms"] = quantile(waits, &Wait::processor, percentile99) * milliseconds;
+    state.counters["clock_ms"] = quantile(waits, &Wait::clock, median) * milliseconds;
+    state.counters["limit_ms"] = limit * milliseconds;
 }
 
-void strokeInWindow(benchmark::State& state, const Plan& plan)
+using Act = Waits (ShownDrawing::*)();
+
+void wait(benchmark::State& state, const Plan& plan, int zoomSteps, Act act)
 {
-    DXFViewer window;
-    window.resize(windowSize, windowSize);
-    window.show();
-    auto* view = window.findChild<QGraphicsView*>();
-    auto* edit = window.findChild<QAction*>(QStringLiteral("actionEdit_dxf"));
-    window.loadData(makeText(plan));
-    if (!QTest::qWaitFor([&] { return !view->scene()->items().isEmpty(); }, loadTimeoutMs)) {
+    ShownDrawing drawing(plan, zoomSteps);
+    if (!drawing.isShown()) {
         state.SkipWithError("the drawing is not shown");
         return;
     }
-    edit->setChecked(true);
-    QApplication::processEvents();
-
     for (auto _ : state) {
-        const Seconds seconds = stroke(*view);
-        state.SetIterationTime(quantile(seconds, median));
-        state.SetComplexityN(plan.segments);
-        state.counters["median_ms"] = quantile(seconds, median) * milliseconds;
-        state.counters["p99_ms"] = quantile(seconds, percentile99) * milliseconds;
+        const Waits waits = (drawing.*act)();
+        report(state, waits, drawing.plainPaintSeconds());
     }
 }
 
-const int registered = registerForAllDrawings("stroke_event", strokeInWindow);
+struct Case {
+    const char* shape;
+    Plan plan;
+};
+constexpr Case cases[] = {
+    {"one_polyline", {Shape::OnePolyline, 1000000}}, {"ten_each", {Shape::TenEach, 100000}},
+    {"ten_each", {Shape::TenEach, 1000000}},         {"ten_each", {Shape::TenEach, 10000000}},
+    {"one_each", {Shape::OneEach, 100000}},          {"one_each", {Shape::OneEach, 1000000}}};
+
+int registerWaits(const char* name, int zoomSteps, Act act)
+{
+    for (const Case& one : cases) {
+        const std::string fullName =
+            std::string(name) + '/' + one.shape + '/' + std::to_string(one.plan.segments);
+        benchmark::RegisterBenchmark(fullName.c_str(),
+                                     [plan = one.plan, zoomSteps, act](benchmark::State& state) {
+                                         wait(state, plan, zoomSteps, act);
+                                     })
+            ->UseManualTime()
+            ->Iterations(1)
+            ->Unit(benchmark::kMillisecond);
+    }
+    return 0;
+}
+
+constexpr int zoomedIn = 15;
+const int registered = registerWaits("hover_whole", 0, &ShownDrawing::hover)
+                       + registerWaits("hover_zoomed", zoomedIn, &ShownDrawing::hover)
+                       + registerWaits("drag_whole", 0, &ShownDrawing::drag)
+                       + registerWaits("drag_zoomed", zoomedIn, &ShownDrawing::drag);
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "dxfviewer/edit/Snapshot.h"
 #include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/model/EntityWalk.h"
 #include "dxfviewer/model/IdSet.h"
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/PolylineState.h"
@@ -13,32 +14,40 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 #include <utility>
 #include <vector>
 
 using dxfviewer::asPolyline;
+using dxfviewer::forEachEntity;
 using dxfviewer::IdSet;
 using dxfviewer::PolylineAccess;
+using dxfviewer::Snapshot;
 
 namespace
 {
 
 using EntityList = QList<QSharedPointer<DXFEntity>>;
 
-/// Removes the entries of the entities that are erased, which are in the order of the list.
-void remove(const std::vector<const DXFEntity*>& erased, EntityList& entities)
+/// Removes entries from a list. The places are in order.
+void remove(const std::vector<int>& places, EntityList& entities)
 {
-    if (erased.empty())
+    // One by one moves all that follows each time, but only the list's own pointers.
+    constexpr std::size_t few = 8;
+    if (places.size() <= few) {
+        std::for_each(places.crbegin(), places.crend(),
+                      [&entities](int place) { entities.removeAt(place); });
         return;
-    auto next = erased.cbegin();
-    auto kept = entities.begin();
-    for (auto& entity : entities) {
-        if (next != erased.cend() && entity.data() == *next)
-            ++next;
-        else
-            (kept++)->swap(entity);
     }
-    entities.erase(kept, entities.end());
+    auto next = places.cbegin();
+    int place = 0;
+    const auto isNext = [&](const QSharedPointer<DXFEntity>&) {
+        const bool isErased = next != places.cend() && place == *next;
+        next += isErased ? 1 : 0;
+        ++place;
+        return isErased;
+    };
+    entities.erase(std::remove_if(entities.begin(), entities.end(), isNext), entities.end());
 }
 
 bool losesNothing(const DXFPolyline& polyline, const IdSet& deleted)
@@ -58,6 +67,15 @@ void giveSegmentsAgain(DXFPolyline& polyline)
         state->noteSegmentsGivenAgain(polyline);
 }
 
+/// Whether a deletion certainly leaves an entity as it is.
+bool isUntouched(const QSharedPointer<DXFEntity>& entity, const IdSet& deleted)
+{
+    const DXFPolyline* polyline = asPolyline(entity);
+    return !polyline
+           || (PolylineAccess::isMadeOfItsSegments(*polyline)
+               && !PolylineAccess::mayHaveAny(*polyline, deleted));
+}
+
 } // namespace
 
 /// Consecutive segments that a deletion leaves.
@@ -69,7 +87,7 @@ struct DeleteItems::Run {
 DeleteItems::DeleteItems(QSharedPointer<DXFDocument> document, QVector<int> const& ids)
     : m_document(std::move(document))
     , m_ids(ids)
-    , m_snapshot(std::make_unique<dxfviewer::Snapshot>())
+    , m_snapshot(std::make_unique<Snapshot>())
 {
 }
 
@@ -79,11 +97,24 @@ void DeleteItems::redo()
 {
     if (!m_document)
         return;
-    m_snapshot->take(m_document->entities());
+    const std::vector<int> touched = takeSnapshot(m_document->entities());
 
-    std::vector<const DXFEntity*> erased;
-    const EntityList added = cutAll(erased);
-    remove(erased, m_document->m_entities);
+    EntityList entities = m_document->entities();
+    std::vector<int> erased;
+    const EntityList added = cutAll(entities, touched, erased);
+    // What is erased goes when the list is complete: a host's own may look at it in that moment.
+    EntityList gone;
+    for (const int place : erased)
+        gone.append(entities.at(place));
+    if (entities.isSharedWith(m_document->m_entities)) {
+        // Released before the list is changed, which would be copied else.
+        entities = EntityList();
+        remove(erased, m_document->m_entities);
+    } else {
+        // A host's own polyline has changed the list when it was cloned.
+        for (const auto& entity : qAsConst(gone))
+            m_document->deleteEntity(entity);
+    }
     m_document->m_entities += added;
 }
 
@@ -136,18 +167,42 @@ QVector<DeleteItems::Run> DeleteItems::survivingRuns(const QVector<Segment>& seg
     return runs;
 }
 
-/// Cuts the deleted segments out of all polylines. Returns the pieces that are to be added to the
-/// document; the polylines of which nothing is left go to erased, in the document's order.
-DeleteItems::EntityList DeleteItems::cutAll(std::vector<const DXFEntity*>& erased)
+/// Returns the places of the entities that the deletion may touch.
+std::vector<int> DeleteItems::takeSnapshot(const EntityList& entities)
+{
+    const IdSet deleted(m_ids);
+    std::vector<int> touched;
+    int place = 0;
+    m_snapshot->begin(static_cast<int>(entities.size()));
+    const auto add = [&](const QSharedPointer<DXFEntity>& entity) {
+        m_snapshot->add(entity);
+        if (!isUntouched(entity, deleted))
+            touched.push_back(place);
+        ++place;
+    };
+    forEachEntity(entities, add, &Snapshot::announce);
+    m_snapshot->end();
+
+    if (m_snapshot->hasHostsClones()) {
+        touched.resize(static_cast<std::size_t>(m_document->m_entities.size()));
+        std::iota(touched.begin(), touched.end(), 0);
+    }
+    return touched;
+}
+
+/// Cuts the deleted segments out of the polylines at some places. Returns the pieces that are to
+/// be added to the document; the places of the polylines of which nothing is left go to erased.
+DeleteItems::EntityList DeleteItems::cutAll(const EntityList& entities,
+                                            const std::vector<int>& places,
+                                            std::vector<int>& erased)
 {
     const IdSet deleted(m_ids);
     PiecesByOrigin formerPieces = m_pieces;
     EntityList added;
-    const EntityList entities = m_document->entities();
-    for (const auto& entity : entities) {
-        DXFPolyline* polyline = asPolyline(entity);
+    for (const int place : places) {
+        DXFPolyline* polyline = asPolyline(entities.at(place));
         if (polyline && !cut(*polyline, deleted, formerPieces, added))
-            erased.push_back(entity.data());
+            erased.push_back(place);
     }
     return added;
 }

@@ -56,7 +56,9 @@ private:
 
     struct Run;
 
-    EntityList cutAll(std::vector<const DXFEntity*>& erased);
+    std::vector<int> takeSnapshot(const EntityList& entities);
+    EntityList cutAll(const EntityList& entities, const std::vector<int>& places,
+                      std::vector<int>& erased);
     bool cut(DXFPolyline& polyline, const dxfviewer::IdSet& deleted, PiecesByOrigin& formerPieces,
              EntityList& added);
     QSharedPointer<DXFPolyline> makePiece(DXFPolyline& cutPolyline, const Run& run,

@@ -3,6 +3,7 @@
 #include "dxfviewer/edit/RubberTool.h"
 
 #include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/model/EntityWalk.h"
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/Polylines.h"
 
@@ -121,17 +122,16 @@ QVector<int> RubberTool::itemsUnderMouse(QPointF pos) const
 
     const double radius = eraserRadiusPx / getViewScaleFactor();
     const Reach reach(pos, radius);
-    const auto entities = m_document->entities();
-    for (const auto& entity : entities) {
+    dxfviewer::forEachEntity(m_document->entities(), [&](const QSharedPointer<DXFEntity>& entity) {
         const DXFPolyline* polyline = asPolyline(entity);
         if (!polyline || reach.isFarFrom(PolylineAccess::bounds(*polyline)))
-            continue;
+            return;
         for (const Segment& segment : PolylineAccess::segments(*polyline)) {
             const QLineF line = segment.line();
             if (!reach.isFarFrom(line) && radius > distPointToSegment(pos, line))
                 ids.append(segment.id());
         }
-    }
+    });
     return ids;
 }
 

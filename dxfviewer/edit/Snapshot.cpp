@@ -2,6 +2,8 @@
 
 #include "dxfviewer/edit/Snapshot.h"
 
+#include "dxfviewer/model/EntityWalk.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <typeinfo>
@@ -27,19 +29,26 @@ DXFPolyline* asPlainPolyline(DXFEntity* entity)
 Snapshot::Snapshot() = default;
 Snapshot::~Snapshot() = default;
 
-void Snapshot::take(const EntityList& entities)
+void Snapshot::begin(int count)
 {
     m_entries.clear();
     m_otherClones.clear();
-    m_entries.reserve(static_cast<std::size_t>(entities.size()));
-    int nullKey = 0;
-    for (const auto& entity : entities) {
-        if (auto* polyline = asPlainPolyline(entity.data()))
-            m_entries.push_back(entryOf(*polyline));
-        else
-            m_entries.push_back(entryOf(entity, --nullKey));
-    }
-    sort();
+    m_hasHostsClones = false;
+    m_entries.reserve(static_cast<std::size_t>(count));
+}
+
+void Snapshot::add(const QSharedPointer<DXFEntity>& entity)
+{
+    if (auto* polyline = asPlainPolyline(entity.data()))
+        m_entries.push_back(entryOf(*polyline));
+    else
+        m_entries.push_back(entryOf(entity));
+}
+
+void Snapshot::announce(const QSharedPointer<DXFEntity>& entity)
+{
+    if (const auto* polyline = asPlainPolyline(entity.data()))
+        prefetch(PolylineAccess::state(*polyline));
 }
 
 Snapshot::Entry Snapshot::entryOf(DXFPolyline& polyline)
@@ -55,15 +64,16 @@ Snapshot::Entry Snapshot::entryOf(DXFPolyline& polyline)
 }
 
 /// Null entries have no id; no id is negative, so each finds a key of its own there.
-Snapshot::Entry Snapshot::entryOf(const QSharedPointer<DXFEntity>& entity, int nullKey)
+Snapshot::Entry Snapshot::entryOf(const QSharedPointer<DXFEntity>& entity)
 {
+    const int place = static_cast<int>(m_otherClones.size());
+    m_hasHostsClones = m_hasHostsClones || entity;
     m_otherClones.emplace_back(entity ? entity->clone() : nullptr);
-    const int place = static_cast<int>(m_otherClones.size()) - 1;
-    return {{}, entity ? entity->id() : nullKey, place};
+    return {{}, entity ? entity->id() : -1 - place, place};
 }
 
 /// Of entries with the same key the last one counts.
-void Snapshot::sort()
+void Snapshot::end()
 {
     const auto isBefore = [](const Entry& a, const Entry& b) {
         return a.key < b.key;

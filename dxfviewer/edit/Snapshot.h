@@ -27,8 +27,16 @@ public:
     Snapshot();
     ~Snapshot();
 
-    /// Replaces what was taken before.
-    void take(const EntityList& entities);
+    /// Forgets what was taken before and makes room for so many entities.
+    void begin(int count);
+    /// Takes the next entity, in the document's order.
+    void add(const QSharedPointer<DXFEntity>& entity);
+    /// Says that an entity is about to be added.
+    static void announce(const QSharedPointer<DXFEntity>& entity);
+    void end();
+
+    /// Whether hosts' own code has made some of the clones. Who knows what else it has done.
+    bool hasHostsClones() const { return m_hasHostsClones; }
 
     /// Puts the clones into the list, in place of all that is there. The snapshot is empty then.
     void restore(EntityList& entities);
@@ -46,12 +54,12 @@ private:
     };
 
     static Entry entryOf(DXFPolyline& polyline);
-    Entry entryOf(const QSharedPointer<DXFEntity>& entity, int nullKey);
-    void sort();
+    Entry entryOf(const QSharedPointer<DXFEntity>& entity);
     QSharedPointer<DXFEntity> takeClone(Entry& entry);
 
     std::vector<Entry> m_entries;
     std::vector<QSharedPointer<DXFEntity>> m_otherClones;
+    bool m_hasHostsClones = false;
 };
 
 } // namespace dxfviewer

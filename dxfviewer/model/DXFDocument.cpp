@@ -5,12 +5,14 @@
 #include "dxfviewer/model/DXFEntity.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/DXFLineType.h"
+#include "dxfviewer/model/EntityWalk.h"
 #include "dxfviewer/model/IdSet.h"
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/Polylines.h"
 #include "dxfviewer/render/DXFPaintHelper.h"
 
 using dxfviewer::asPolyline;
+using dxfviewer::forEachEntity;
 using dxfviewer::IdSet;
 using dxfviewer::PolylineAccess;
 
@@ -69,48 +71,48 @@ bool DXFDocument::deleteEntity(QSharedPointer<DXFEntity> entity)
 void DXFDocument::setSelected(QVector<int> ids)
 {
     const IdSet set(ids);
-    for (const auto& entity : qAsConst(m_entities)) {
+    forEachEntity(m_entities, [&set](const QSharedPointer<DXFEntity>& entity) {
         if (!entity)
-            continue;
+            return;
         // Written only where it changes: memory that is only read stays cheap to walk through.
         const bool isSelected = set.contains(entity->id());
         if (isSelected != entity->isSelected())
             entity->setSelected(isSelected);
         if (auto* polyline = asPolyline(entity))
             PolylineAccess::selectSegments(*polyline, set);
-    }
+    });
 }
 
 void DXFDocument::setHovered(QVector<int> ids)
 {
     const IdSet set(ids);
-    for (const auto& entity : qAsConst(m_entities)) {
+    forEachEntity(m_entities, [&set](const QSharedPointer<DXFEntity>& entity) {
         if (!entity)
-            continue;
+            return;
         const bool isHovered = set.contains(entity->id());
         if (isHovered != entity->isHovered())
             entity->setHovered(isHovered);
         if (auto* polyline = asPolyline(entity))
             PolylineAccess::hoverSegments(*polyline, set);
-    }
+    });
 }
 
 QVector<int> DXFDocument::selectedIDs() const
 {
     QVector<int> ids;
-    for (const auto& entity : m_entities) {
+    forEachEntity(m_entities, [&ids](const QSharedPointer<DXFEntity>& entity) {
         const DXFPolyline* polyline = asPolyline(entity);
         if (!polyline)
-            continue;
+            return;
         if (polyline->isSelected())
             ids.append(polyline->id());
         if (!PolylineAccess::isAnySegmentSelected(*polyline))
-            continue;
+            return;
         for (const Segment& segment : PolylineAccess::segments(*polyline)) {
             if (segment.isSelected())
                 ids.append(segment.id());
         }
-    }
+    });
     return ids;
 }
 

@@ -68,6 +68,12 @@ public:
             polyline.hoverSegments(ids);
     }
 
+    /// Whether setSegments() with the segments that the polyline has would do nothing.
+    static bool isMadeOfItsSegments(const DXFPolyline& polyline)
+    {
+        return polyline.m_geometry.derived == Derived::AllPoints && polyline.m_geometry.needsSetup;
+    }
+
     static bool hasSegments(const DXFPolyline& polyline)
     {
         return polyline.m_geometry.leastId <= polyline.m_geometry.greatestId;

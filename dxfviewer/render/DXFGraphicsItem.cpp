@@ -3,6 +3,7 @@
 #include "dxfviewer/render/DXFGraphicsItem.h"
 
 #include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/model/EntityWalk.h"
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/Polylines.h"
 #include "dxfviewer/render/VisibleArea.h"
@@ -284,10 +285,9 @@ void DXFGraphicsItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /
 
     painter->save();
     Drawing drawing(*painter, m_overridePen.get());
-    const auto entities = m_document->entities();
-    for (const auto& entity : entities) {
+    dxfviewer::forEachEntity(m_document->entities(), [&](const QSharedPointer<DXFEntity>& entity) {
         if (const DXFPolyline* polyline = asPolyline(entity))
             drawing.draw(*polyline);
-    }
+    });
     painter->restore();
 }

@@ -24,7 +24,7 @@ constexpr double trustedForThinLines = 1e9;
 // Others become outlines in fixed point numbers, with limits not far beyond this.
 constexpr double trustedForOutlines = 3e4;
 
-// Within these the inverse of a scaling, which clip rectangles go through, is good to a pixel.
+// Within these the inverse of a scaling is good to much less than a pixel.
 constexpr double leastScale = 1e-6;
 constexpr double greatestScale = 1e6;
 
@@ -84,22 +84,22 @@ void VisibleArea::setTransform(const QTransform& toDevice)
         m_yx = toDevice.m21();
         m_xy = toDevice.m12();
     }
+    m_isUpright = m_xy == 0.0 && m_yx == 0.0 && isModest(m_xx) && isModest(m_yy)
+                  && std::abs(m_dx) < trustedForThinLines && std::abs(m_dy) < trustedForThinLines;
     m_stretch = std::sqrt(m_xx * m_xx + m_xy * m_xy + m_yx * m_yx + m_yy * m_yy);
 }
 
 void VisibleArea::clipTo(const QPainter& painter)
 {
-    const bool isInvertedWell = m_xy == 0.0 && m_yx == 0.0 && isModest(m_xx) && isModest(m_yy)
-                                && std::abs(m_dx) < trustedForThinLines
-                                && std::abs(m_dy) < trustedForThinLines;
     const QRectF clip = painter.clipBoundingRect();
-    if (isInvertedWell && !clip.isEmpty())
+    if (m_isUpright && !clip.isEmpty())
         m_area &= painter.deviceTransform().mapRect(clip).adjusted(-softEdge, -softEdge, softEdge,
                                                                    softEdge);
 }
 
 void VisibleArea::setPen(const QPen& pen)
 {
+    m_cosmeticWidth = -1;
     // A line has no joins, but it costs nothing to have their miters in.
     const double reach = pen.widthF() * std::max(1.0, pen.miterLimit());
     if (pen.isCosmetic())
@@ -108,46 +108,77 @@ void VisibleArea::setPen(const QPen& pen)
         setReach(reach * m_stretch, false);
 }
 
-void VisibleArea::setCosmeticPen(int width)
+void VisibleArea::setNewCosmeticPen(int width)
 {
+    m_cosmeticWidth = width;
     setReach(2.0 * std::abs(width) * m_pixelRatio, width <= 1);
 }
 
 void VisibleArea::setReach(double reach, bool isThin)
 {
     const double margin = reach + softEdge;
-    m_trusted = isThin && m_drawsThinLinesExactly ? trustedForThinLines : trustedForOutlines;
-    m_left = m_area.left() - margin;
-    m_top = m_area.top() - margin;
-    m_right = m_area.right() + margin;
-    m_bottom = m_area.bottom() + margin;
+    const double far = isThin && m_drawsThinLinesExactly ? trustedForThinLines : trustedForOutlines;
+    m_trusted = {-far, -far, far, far};
+    m_visible = {m_area.left() - margin, m_area.top() - margin, m_area.right() + margin,
+                 m_area.bottom() + margin};
+    if (m_isUpright) {
+        m_trustedInDrawing = toDrawing(m_trusted);
+        m_visibleInDrawing = toDrawing(m_visible);
+    }
+}
+
+/// Only of upright drawings. What is rounded is much less than a pixel.
+VisibleArea::Sides VisibleArea::toDrawing(const Sides& device) const
+{
+    const double x[] = {(device.left - m_dx) / m_xx, (device.right - m_dx) / m_xx};
+    const double y[] = {(device.top - m_dy) / m_yy, (device.bottom - m_dy) / m_yy};
+    return {std::min(x[0], x[1]), std::min(y[0], y[1]), std::max(x[0], x[1]), std::max(y[0], y[1])};
+}
+
+VisibleArea::Part VisibleArea::partOf(const Sides& sides, const Sides& trusted,
+                                      const Sides& visible)
+{
+    // What is not a number is not trusted either.
+    const bool isTrusted = sides.left > trusted.left && sides.right < trusted.right
+                           && sides.top > trusted.top && sides.bottom < trusted.bottom;
+    if (!isTrusted)
+        return Part::All;
+    if (sides.right < visible.left || sides.left > visible.right || sides.bottom < visible.top
+        || sides.top > visible.bottom)
+        return Part::None;
+    const bool isWithin = sides.left >= visible.left && sides.right <= visible.right
+                          && sides.top >= visible.top && sides.bottom <= visible.bottom;
+    return isWithin ? Part::All : Part::Some;
 }
 
 VisibleArea::Part VisibleArea::visiblePart(const PolylineAccess::Bounds& bounds) const
 {
+    if (!m_isKnown)
+        return Part::All;
+    if (m_isUpright)
+        return partOf({bounds.left, bounds.top, bounds.right, bounds.bottom}, m_trustedInDrawing,
+                      m_visibleInDrawing);
     const Range x(m_xx, bounds.left, bounds.right, m_yx, bounds.top, bounds.bottom, m_dx);
     const Range y(m_xy, bounds.left, bounds.right, m_yy, bounds.top, bounds.bottom, m_dy);
-    // What is not a number is not trusted either.
-    const bool isTrusted = m_isKnown && x.from > -m_trusted && x.to < m_trusted
-                           && y.from > -m_trusted && y.to < m_trusted;
-    if (!isTrusted)
-        return Part::All;
-    if (x.to < m_left || x.from > m_right || y.to < m_top || y.from > m_bottom)
-        return Part::None;
-    if (x.from >= m_left && x.to <= m_right && y.from >= m_top && y.to <= m_bottom)
-        return Part::All;
-    return Part::Some;
+    return partOf({x.from, y.from, x.to, y.to}, m_trusted, m_visible);
+}
+
+bool VisibleArea::isBeside(const QLineF& line, const Sides& sides)
+{
+    return (line.x1() < sides.left && line.x2() < sides.left)
+           || (line.x1() > sides.right && line.x2() > sides.right)
+           || (line.y1() < sides.top && line.y2() < sides.top)
+           || (line.y1() > sides.bottom && line.y2() > sides.bottom);
 }
 
 bool VisibleArea::hides(const QLineF& line) const
 {
-    const double x1 = m_xx * line.x1() + m_yx * line.y1() + m_dx;
-    const double x2 = m_xx * line.x2() + m_yx * line.y2() + m_dx;
-    if ((x1 < m_left && x2 < m_left) || (x1 > m_right && x2 > m_right))
-        return true;
-    const double y1 = m_xy * line.x1() + m_yy * line.y1() + m_dy;
-    const double y2 = m_xy * line.x2() + m_yy * line.y2() + m_dy;
-    return (y1 < m_top && y2 < m_top) || (y1 > m_bottom && y2 > m_bottom);
+    if (m_isUpright)
+        return isBeside(line, m_visibleInDrawing);
+    const QLineF onDevice(
+        m_xx * line.x1() + m_yx * line.y1() + m_dx, m_xy * line.x1() + m_yy * line.y1() + m_dy,
+        m_xx * line.x2() + m_yx * line.y2() + m_dx, m_xy * line.x2() + m_yy * line.y2() + m_dy);
+    return isBeside(onDevice, m_visible);
 }
 
 } // namespace dxfviewer

@@ -31,7 +31,11 @@ public:
     /// The pen of the lines that are asked about next.
     void setPen(const QPen& pen);
     /// The same for a cosmetic pen that is otherwise as new.
-    void setCosmeticPen(int width);
+    void setCosmeticPen(int width)
+    {
+        if (width != m_cosmeticWidth)
+            setNewCosmeticPen(width);
+    }
 
     /// How much of what lies in the bounds may be visible. If it is all, single lines in the
     /// bounds must not be asked about: they may be where nothing is known.
@@ -41,7 +45,19 @@ public:
     bool hides(const QLineF& line) const;
 
 private:
+    /// A rectangle by its sides.
+    struct Sides {
+        double left = 0.0;
+        double top = 0.0;
+        double right = 0.0;
+        double bottom = 0.0;
+    };
+
     void setTransform(const QTransform& toDevice);
+    Sides toDrawing(const Sides& device) const;
+    static Part partOf(const Sides& sides, const Sides& trusted, const Sides& visible);
+    static bool isBeside(const QLineF& line, const Sides& sides);
+    void setNewCosmeticPen(int width);
     void setReach(double reach, bool isThin);
     void clipTo(const QPainter& painter);
 
@@ -58,12 +74,15 @@ private:
     bool m_drawsThinLinesExactly = false;
     QRectF m_area;
 
+    // Of the pen, if it is a cosmetic one: its width.
+    int m_cosmeticWidth = -1;
     // Of the pen: how far from the device lines may lie, and the area with the pen around it.
-    double m_trusted = 0.0;
-    double m_left = 0.0;
-    double m_top = 0.0;
-    double m_right = 0.0;
-    double m_bottom = 0.0;
+    Sides m_trusted;
+    Sides m_visible;
+    // The same in the drawing, if the painter does not turn it.
+    bool m_isUpright = false;
+    Sides m_trustedInDrawing;
+    Sides m_visibleInDrawing;
 };
 
 } // namespace dxfviewer
