@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 using dxfviewer::IdSet;
@@ -182,6 +183,24 @@ void DXFPolyline::Geometry::keepVertices() const
 {
     if (derived != Derived::None && vertices.isEmpty())
         vertices = derivedVertices();
+}
+
+/// Leaves as much room as the segments will take. The set-up drops vertices polyline by polyline,
+/// and the segments of the next one then find room where the vertices were.
+void DXFPolyline::Geometry::trimVertices()
+{
+    constexpr int vertexSize = sizeof(DXFVertex);
+    constexpr int segmentSize = sizeof(Segment);
+    const int count = static_cast<int>(vertices.size());
+    const int segmentCount = (flags & closedBit) != 0 ? count : count - 1;
+    const qint64 needed = (qint64(segmentCount) * segmentSize + vertexSize - 1) / vertexSize;
+    const qint64 room = qMax<qint64>(count, needed);
+    if (vertices.capacity() <= room)
+        return;
+    QVector<DXFVertex> trimmed;
+    trimmed.reserve(static_cast<int>(room));
+    std::copy(vertices.cbegin(), vertices.cend(), std::back_inserter(trimmed));
+    vertices = trimmed;
 }
 
 void DXFPolyline::Geometry::setClosed(bool closed)

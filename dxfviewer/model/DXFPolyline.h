@@ -104,6 +104,7 @@ private:
         QPointF pointAt(int vertex) const;
         QVector<DXFVertex> derivedVertices() const;
         void keepVertices() const;
+        void trimVertices();
         void setClosed(bool closed);
         void summarize();
 

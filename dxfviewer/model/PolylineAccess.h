@@ -42,8 +42,8 @@ public:
         polyline.m_geometry.vertices = vertices;
     }
 
-    /// Gives back the room that was made for further vertices.
-    static void trim(DXFPolyline& polyline) { polyline.m_geometry.vertices.squeeze(); }
+    /// Gives back most of the room that was made for further vertices.
+    static void trim(DXFPolyline& polyline) { polyline.m_geometry.trimVertices(); }
 
     static bool isAnySegmentSelected(const DXFPolyline& polyline)
     {
