@@ -12,6 +12,10 @@
 #include <cmath>
 #include <random>
 
+using dxfviewer::byLayerColor;
+using dxfviewer::byLayerWidth;
+using dxfviewer::noTrueColor;
+
 namespace dxfbench
 {
 
@@ -137,8 +141,8 @@ QSharedPointer<DXFDocument> makeDocument(const Plan& plan)
     for (int i = 0; i < plan.segments / perPolyline; ++i) {
         const auto polyline = QSharedPointer<DXFPolyline>::create(0U, 0U, 0U);
         polyline->setAttributes(QSharedPointer<DXFAttributes>::create(
-            layerName(i % plan.layers), dxfviewer::byLayerColor, dxfviewer::noTrueColor,
-            dxfviewer::byLayerWidth, QStringLiteral("BYLAYER"), 1.0, -1, false));
+            layerName(i % plan.layers), byLayerColor, noTrueColor, byLayerWidth,
+            QStringLiteral("BYLAYER"), 1.0, -1, false));
         for (int vertex = 0; vertex <= perPolyline; ++vertex) {
             const QPointF point = walk.next();
             polyline->appendPoint(DXFVertex(point.x(), point.y(), 0.0, true, 0.0));
