@@ -2,11 +2,13 @@
 
 #pragma once
 
+#include "dxfviewer/dxfviewer_export.h"
+
 #include <QString>
 #include <QtGlobal>
 
 /// What a FlatteningReader shows, and how finely.
-struct FlatteningOptions {
+struct DXFVIEWER_EXPORT FlatteningOptions {
     /// The longest step along an arc, in degrees: 5.625 makes 64 steps of a full circle. Values
     /// outside 0.01 to 45 are taken for the nearest of these, what is no number for 5.625.
     double maximalStepDegrees = 5.625;
