@@ -46,7 +46,7 @@ void memoryOfDrawing(benchmark::State& state, const Plan& plan)
 /// What the lists of those polylines take that lose a segment: they are made anew.
 double changedBytes(const DXFDocument& document, const QVector<int>& deleted)
 {
-    constexpr double bytesPerSegment = sizeof(Segment) + sizeof(DXFVertex);
+    constexpr double bytesPerSegment = sizeof(Segment);
     double bytes = 0.0;
     const auto entities = document.entities();
     for (const auto& entity : entities) {

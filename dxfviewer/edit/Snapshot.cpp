@@ -87,30 +87,30 @@ void Snapshot::end()
     m_entries.erase(m_entries.begin(), firstKept);
 }
 
-QSharedPointer<DXFEntity> Snapshot::takeClone(Entry& entry)
+QSharedPointer<DXFEntity> Snapshot::cloneOf(const Entry& entry) const
 {
     if (!entry.state)
-        return std::move(m_otherClones[static_cast<std::size_t>(entry.idOrPlace)]);
-    const auto clone = entry.state->clone(std::abs(entry.idOrPlace), entry.idOrPlace < 0);
-    entry.state.reset();
-    return clone;
+        return m_otherClones[static_cast<std::size_t>(entry.idOrPlace)];
+    return entry.state->clone(std::abs(entry.idOrPlace), entry.idOrPlace < 0);
 }
 
 void Snapshot::restore(EntityList& entities)
 {
-    // Entities go when the list is complete: a host's own may look at it in that moment.
-    std::vector<QSharedPointer<DXFEntity>> replaced;
-    replaced.reserve(static_cast<std::size_t>(entities.size()));
-    while (entities.size() > static_cast<int>(m_entries.size()))
-        replaced.push_back(entities.takeLast());
+    // All clones are made before anything changes: memory may run short meanwhile.
+    std::vector<QSharedPointer<DXFEntity>> clones;
+    clones.reserve(m_entries.size());
+    for (const Entry& entry : m_entries)
+        clones.push_back(cloneOf(entry));
 
-    auto entry = m_entries.begin();
-    for (auto& entity : entities) {
-        replaced.push_back(takeClone(*entry++));
-        replaced.back().swap(entity);
-    }
-    for (; entry != m_entries.end(); ++entry)
-        entities.append(takeClone(*entry));
+    // Entities go when the list is complete: a host's own may look at it in that moment.
+    EntityList surplus;
+    while (entities.size() > static_cast<int>(clones.size()))
+        surplus.append(entities.takeLast());
+    auto clone = clones.begin();
+    for (auto& entity : entities)
+        (clone++)->swap(entity);
+    for (; clone != clones.end(); ++clone)
+        entities.append(*clone);
     m_entries = {};
     m_otherClones = {};
 }

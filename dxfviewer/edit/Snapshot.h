@@ -55,7 +55,7 @@ private:
 
     static Entry entryOf(DXFPolyline& polyline);
     Entry entryOf(const QSharedPointer<DXFEntity>& entity);
-    QSharedPointer<DXFEntity> takeClone(Entry& entry);
+    QSharedPointer<DXFEntity> cloneOf(const Entry& entry) const;
 
     std::vector<Entry> m_entries;
     std::vector<QSharedPointer<DXFEntity>> m_otherClones;
