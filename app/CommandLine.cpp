@@ -19,10 +19,10 @@ CommandLine::CommandLine()
     , m_edit(QStringLiteral("edit"), Texts::tr("Start in edit mode."))
     , m_picture(QStringLiteral("picture"),
                 Texts::tr("Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit."),
-                QStringLiteral("FILE"))
+                Texts::tr("FILE"))
     , m_ground(QStringLiteral("ground"),
                Texts::tr("What a picture lies on: dark, light or white (the default)."),
-               QStringLiteral("GROUND"), nameOf(Ground::White))
+               Texts::tr("GROUND"), nameOf(Ground::White))
     , m_report(
           QStringLiteral("report"),
           Texts::tr("Print a line for each drawing, with tabs between: the file, the length of "

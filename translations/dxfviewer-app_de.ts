@@ -23,6 +23,14 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>GROUND</source>
+        <translation>HINTERGRUND</translation>
+    </message>
+    <message>
         <source>Start in edit mode.</source>
         <translation>Im Bearbeitungsmodus starten.</translation>
     </message>

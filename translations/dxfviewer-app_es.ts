@@ -23,6 +23,14 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>FILE</source>
+        <translation>ARCHIVO</translation>
+    </message>
+    <message>
+        <source>GROUND</source>
+        <translation>FONDO</translation>
+    </message>
+    <message>
         <source>Start in edit mode.</source>
         <translation>Iniciar en modo de edición.</translation>
     </message>

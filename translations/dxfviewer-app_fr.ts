@@ -23,6 +23,14 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>FILE</source>
+        <translation>FICHIER</translation>
+    </message>
+    <message>
+        <source>GROUND</source>
+        <translation>FOND</translation>
+    </message>
+    <message>
         <source>Start in edit mode.</source>
         <translation>Démarrer en mode édition.</translation>
     </message>

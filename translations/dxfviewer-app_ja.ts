@@ -23,6 +23,14 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>FILE</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>GROUND</source>
+        <translation>背景</translation>
+    </message>
+    <message>
         <source>Start in edit mode.</source>
         <translation>編集モードで起動します。</translation>
     </message>

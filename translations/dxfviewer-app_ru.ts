@@ -23,6 +23,14 @@
 <context>
     <name>CommandLine</name>
     <message>
+        <source>FILE</source>
+        <translation>ФАЙЛ</translation>
+    </message>
+    <message>
+        <source>GROUND</source>
+        <translation>ФОН</translation>
+    </message>
+    <message>
         <source>Start in edit mode.</source>
         <translation>Сразу включить режим редактирования.</translation>
     </message>

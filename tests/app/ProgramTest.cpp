@@ -27,11 +27,12 @@ struct Outcome {
 class ProgramTest : public dxftest::LoggedTest
 {
 protected:
-    Outcome run(const QStringList& arguments)
+    Outcome run(const QStringList& arguments, const QString& language = QStringLiteral("en"))
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        environment.insert(QStringLiteral("LANGUAGE"), language);
         // The program must see by itself that it needs no display.
         for (const char* display : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
             environment.remove(QLatin1String(display));
@@ -92,6 +93,15 @@ TEST_F(ProgramTest, TellsItsOptions)
     for (const char* option : {"--edit", "--picture <FILE>", "--ground <GROUND>", "--report",
                                "--verbose", "--version", "--help", "DRAWING"})
         EXPECT_THAT(outcome.output, HasSubstr(option));
+}
+
+TEST_F(ProgramTest, NamesTheFileInItsHelpInOneLanguage)
+{
+    const Outcome outcome = run({QStringLiteral("--help")}, QStringLiteral("de"));
+
+    EXPECT_THAT(outcome.output, HasSubstr("--picture <DATEI>"));
+    EXPECT_THAT(outcome.output, HasSubstr("in DATEI speichern"));
+    EXPECT_THAT(outcome.output, HasSubstr("--ground <HINTERGRUND>"));
 }
 
 TEST_F(ProgramTest, RefusesAnUnknownOption)
