@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: GPL-2.0-or-later
 """Makes the tables of docs/benchmarks.md, docs/benchmarks.json and README.md from a run.
 
-Usage: benchmarks/table.py BUILD_FOLDER, from the root of the project. The folder holds the
-benchmarks.json of the run.
+Usage: benchmarks/table.py BUILD_FOLDER [NOTE], from the root of the project. The folder holds the
+benchmarks.json of the run. The note says what else is to be known of it.
 """
 
 import json
@@ -306,6 +306,8 @@ def main():
     build = pathlib.Path(sys.argv[1])
     run = json.loads((build / "benchmarks.json").read_text())
     context = context_of(build, run)
+    if len(sys.argv) > 2:
+        context["note"] = sys.argv[2]
     figures = figures_of(run)
     docs = pathlib.Path("docs")
     (docs / "benchmarks.md").write_text(page(context, figures))
