@@ -276,7 +276,12 @@ void Driver::performIn(Window& window, const Step& step)
             const bool isSettingUp = message.contains(QLatin1String("BYBLOCK"));
             // What is shown then, and what is taken, would be different drawings.
             const int which = isSettingUp && isLoad(step.a) ? 0 : step.a;
+            // Not in the slots that hear of this, either.
+            if (isMaking)
+                m_dying.append(this);
             actInSlot(watched, which, isMaking ? Freedom::DestroysNothing : Freedom::Full);
+            if (isMaking)
+                m_dying.removeLast();
         };
         return;
     }
