@@ -198,6 +198,9 @@ bool Driver::isDying(const QPointer<DXFViewer>& viewer) const
 
 void Driver::hear(const QString& message)
 {
+    // The platform speaks in the middle of its own work, where Qt does not bear an answer.
+    if (message.startsWith(QLatin1String("This plugin does not support")))
+        return;
     if (const auto answer = std::exchange(m_answerToMessage, nullptr))
         answer(message);
 }
