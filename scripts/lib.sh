@@ -12,7 +12,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
     QT6_PACKAGES=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-svg-dev
         libgl1-mesa-dev qt6-translations-l10n)
     DEBIAN_PACKAGES=(file dpkg-dev fakeroot lintian desktop-file-utils appstream)
-    TEST_PACKAGES=(libgtest-dev libgmock-dev xvfb xauth locales fonts-dejavu-core python3)
+    TEST_PACKAGES=(libgtest-dev libgmock-dev xvfb xauth openbox locales fonts-dejavu-core python3)
     DISPLAY_PACKAGES=(xvfb xauth xdotool imagemagick fonts-dejavu-core)
     CLANG_PACKAGES=(clang libclang-rt-14-dev llvm)
     CHECK_PACKAGES=(git clang clang-format clang-tidy codespell shellcheck doxygen python3)
