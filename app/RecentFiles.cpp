@@ -12,7 +12,7 @@
 namespace
 {
 
-const QString key = QStringLiteral("recentDrawings");
+constexpr const char* key = "recentDrawings";
 
 // Of names in the settings that are longer no system makes files.
 constexpr int longestName = 4096;
@@ -42,7 +42,7 @@ QStringList RecentFiles::names() const
     // Another program may have written there, or anybody anything.
     m_settings.sync();
     QStringList names;
-    const QStringList stored = m_settings.value(key).toStringList();
+    const QStringList stored = m_settings.value(QLatin1String(key)).toStringList();
     for (const QString& name : stored) {
         if (isUsable(name) && !names.contains(name) && names.size() < most)
             names.append(name);
@@ -76,7 +76,7 @@ void RecentFiles::clear()
 
 void RecentFiles::write(const QStringList& names)
 {
-    m_settings.setValue(key, QStringList(names.mid(0, most)));
+    m_settings.setValue(QLatin1String(key), QStringList(names.mid(0, most)));
     m_settings.sync();
 }
 
