@@ -25,10 +25,11 @@ constexpr int fewestSteps = 10;
 // The stack keeps a list of its steps, and nobody goes back further.
 constexpr int mostSteps = 100000;
 
-// What a step keeps: a copy of each entity, which shares what did not change with the copies of
-// the steps before, and the segments of the polylines that it cuts.
+// What steps keep: the first a record of each entity, the others what they share of these, and each
+// the segments of the polylines that it cuts.
+constexpr qint64 recordBytes = 160;
 constexpr qint64 bytesPerStep = 1024;
-constexpr qint64 bytesPerEntity = 210;
+constexpr qint64 bytesPerEntity = 24;
 constexpr qint64 bytesPerSegment = 90;
 
 constexpr int memoryShare = 8;
@@ -78,7 +79,8 @@ int StrokeHistory::stepsThatFit(qint64 memoryBytes, const DXFDocument& document)
 {
     const qint64 perStep = bytesPerStep + bytesPerEntity * document.entities().size()
                            + bytesPerSegment * segmentsOfLargest(document);
-    return static_cast<int>(std::clamp<qint64>(memoryBytes / perStep, fewestSteps, mostSteps));
+    const qint64 forSteps = memoryBytes - recordBytes * document.entities().size();
+    return static_cast<int>(std::clamp<qint64>(forSteps / perStep, fewestSteps, mostSteps));
 }
 
 void StrokeHistory::follow(DXFEditor& editor, const DXFDocument& document)
