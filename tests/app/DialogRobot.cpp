@@ -2,6 +2,7 @@
 
 #include "tests/app/DialogRobot.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -39,6 +40,10 @@ void DialogRobot::expectFileName(const QString& fileName)
 {
     expect<QFileDialog>([fileName](QFileDialog& dialog) {
         // As a user types it: selecting leaves a field that has the keyboard alone.
+        // A proposed name that is found in the folder meanwhile would go before the one typed.
+        const auto lists = dialog.findChildren<QAbstractItemView*>();
+        for (QAbstractItemView* list : lists)
+            list->clearSelection();
         dialog.findChild<QLineEdit*>()->setText(fileName);
         static_cast<QDialog&>(dialog).accept();
     });
