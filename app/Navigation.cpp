@@ -2,6 +2,7 @@
 
 #include "Navigation.h"
 
+#include "Extent.h"
 #include "QtVersions.h"
 
 #include <QAction>
@@ -21,9 +22,6 @@ namespace
 // Of the drawing's longer side, on each side of it.
 constexpr double fitMargin = 0.03;
 constexpr double scrollMargin = 1.0;
-// A drawing without any extent is seen as if it were this large.
-constexpr double leastExtent = 1e-9;
-constexpr double unitExtent = 1.0;
 
 constexpr double keyFactor = 1.25;
 constexpr double wheelNotch = 120.0;
@@ -32,26 +30,6 @@ constexpr double doublingsPerNotch = 0.2;
 // Scroll bars count pixels in 32 bits.
 constexpr double mostPixels = 2e8;
 constexpr double leastZoom = 0.05;
-
-QRectF grown(const QRectF& rect, double share)
-{
-    const double margin = std::max(rect.width(), rect.height()) * share;
-    return rect.adjusted(-margin, -margin, margin, margin);
-}
-
-/// The bounds as a rectangle that can be divided by.
-QRectF withExtent(const QRectF& bounds)
-{
-    QRectF rect = bounds.normalized();
-    const double size = std::max(rect.width(), rect.height());
-    if (!std::isfinite(size) || !std::isfinite(rect.x()) || !std::isfinite(rect.y()))
-        return QRectF(0, 0, unitExtent, unitExtent);
-    const double least = std::max(std::abs(rect.center().x()), std::abs(rect.center().y()));
-    if (size > leastExtent * std::max(least, leastExtent))
-        return rect;
-    return QRectF(rect.center() - QPointF(unitExtent, unitExtent) / 2,
-                  QSizeF(unitExtent, unitExtent));
-}
 
 void scroll(QScrollBar& bar, double distance)
 {

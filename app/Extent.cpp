@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "Extent.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+
+// The least extent, in shares of the distance from the origin.
+constexpr double leastShare = 1e-9;
+constexpr double unitExtent = 1.0;
+
+} // namespace
+
+QRectF grown(const QRectF& rect, double share)
+{
+    const double margin = std::max(rect.width(), rect.height()) * share;
+    return rect.adjusted(-margin, -margin, margin, margin);
+}
+
+QRectF withExtent(const QRectF& bounds)
+{
+    const QRectF rect = bounds.normalized();
+    const double size = std::max(rect.width(), rect.height());
+    if (!std::isfinite(size) || !std::isfinite(rect.x()) || !std::isfinite(rect.y()))
+        return QRectF(0, 0, unitExtent, unitExtent);
+    const double distance = std::max(std::abs(rect.center().x()), std::abs(rect.center().y()));
+    if (size > leastShare * std::max(distance, leastShare))
+        return rect;
+    return QRectF(rect.center() - QPointF(unitExtent, unitExtent) / 2,
+                  QSizeF(unitExtent, unitExtent));
+}

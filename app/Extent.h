@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QRectF>
+
+// Rectangles in drawing units that a view can be fitted to.
+
+/// The rectangle with a margin on each side, in shares of its longer side.
+QRectF grown(const QRectF& rect, double share);
+
+/// The bounds as a rectangle that can be divided by. What has no extent, or next to none for where
+/// it lies, becomes one drawing unit wide and high.
+QRectF withExtent(const QRectF& bounds);
