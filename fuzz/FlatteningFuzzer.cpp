@@ -17,7 +17,7 @@ namespace
 constexpr qint64 mostVertices = 50000;
 
 // Bytes after it are groups of the binary form.
-const QByteArray sentinel("AutoCAD Binary DXF\r\n\x1a\0", 22);
+const QByteArray sentinel("Written Binary DXF\r\n\x1a\0", 22);
 
 bool isSegmentChain(const DXFPolyline& polyline)
 {

@@ -15,7 +15,9 @@ namespace
 
 using std::string_view_literals::operator""sv;
 
-constexpr std::string_view sentinel = "AutoCAD Binary DXF\r\n\x1a\0"sv;
+// The binary form begins with a word of its writer's and this.
+constexpr std::size_t sentinelLength = 22;
+constexpr std::string_view sentinelEnd = " Binary DXF\r\n\x1a\0"sv;
 
 // Old releases write codes in one byte, and this one before a code that needs two.
 constexpr unsigned char longCodeFollows = 255;
@@ -66,7 +68,7 @@ class Converter
 {
 public:
     explicit Converter(std::string_view bytes)
-        : m_rest(bytes.substr(sentinel.size()))
+        : m_rest(bytes.substr(sentinelLength))
         , m_hasLongCodes(m_rest.size() > 1
                          && static_cast<unsigned char>(m_rest[0]) != longCodeFollows
                          && static_cast<unsigned char>(m_rest[1]) <= highestSecondByte)
@@ -191,7 +193,9 @@ namespace dxfviewer
 
 bool isBinaryDrawing(std::string_view bytes)
 {
-    return bytes.substr(0, sentinel.size()) == sentinel;
+    const std::string_view start = bytes.substr(0, sentinelLength);
+    return start.size() == sentinelLength
+           && start.substr(sentinelLength - sentinelEnd.size()) == sentinelEnd;
 }
 
 std::string textOfBinary(std::string_view bytes)

@@ -73,7 +73,7 @@ private:
     }
 
     bool m_hasLongCodes;
-    std::string m_bytes = std::string("AutoCAD Binary DXF\r\n\x1a\0", 22);
+    std::string m_bytes = std::string("Written Binary DXF\r\n\x1a\0", 22);
 };
 
 BinaryText twoEntities(bool hasLongCodes)
