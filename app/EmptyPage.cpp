@@ -23,6 +23,8 @@ EmptyPage::EmptyPage(QAbstractScrollArea& view)
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * fontFactor);
     setFont(larger);
+    // Within a view it would be that of the view's own text, whatever the ink is.
+    setForegroundRole(QPalette::WindowText);
     // What is dropped or clicked here is meant for the window.
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(view.rect());

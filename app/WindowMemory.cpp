@@ -23,6 +23,13 @@ const QString asStoredKey = QStringLiteral("view/asStored");
 const QString textsKey = QStringLiteral("view/texts");
 const QString onlyPolylinesKey = QStringLiteral("view/onlyPolylines");
 
+/// What is neither yes nor no is as it was the first time.
+bool choiceIn(const Settings& settings, const QString& key, bool first)
+{
+    const QString stored = settings.value(key).toString();
+    return stored == QLatin1String(first ? "false" : "true") ? !first : first;
+}
+
 } // namespace
 
 WindowMemory::WindowMemory(QMainWindow& window, Navigation& navigation, Appearance& appearance,
@@ -39,12 +46,12 @@ void WindowMemory::restore()
     const Settings settings;
     if (!m_window.restoreGeometry(settings.value(geometryKey).toByteArray()))
         m_window.resize(initialSize.boundedTo(m_window.screen()->availableSize() * initialShare));
-    m_navigation.setAsStored(settings.value(asStoredKey).toBool());
+    m_navigation.setAsStored(choiceIn(settings, asStoredKey, false));
     m_appearance.setGround(
         groundNamed(settings.value(groundKey).toString()).value_or(Ground::Dark));
     ReadingChoices choices;
-    choices.showsTexts = settings.value(textsKey, choices.showsTexts).toBool();
-    choices.onlyPolylines = settings.value(onlyPolylinesKey, choices.onlyPolylines).toBool();
+    choices.showsTexts = choiceIn(settings, textsKey, choices.showsTexts);
+    choices.onlyPolylines = choiceIn(settings, onlyPolylinesKey, choices.onlyPolylines);
     m_choices.setChoices(choices);
 }
 

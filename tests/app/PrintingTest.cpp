@@ -10,6 +10,8 @@
 #include "tests/support/Patience.h"
 
 #include <QFile>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QImage>
 #include <QLineEdit>
 #include <QPainter>
@@ -45,6 +47,42 @@ QRect inkOf(const QImage& page)
         }
     }
     return ink;
+}
+
+/// The page that a preview shows, without the frame around the paper.
+QImage pageOf(QPrintPreviewWidget& preview)
+{
+    QGraphicsScene& scene = *preview.findChild<QGraphicsView*>()->scene();
+    const QRectF all = scene.itemsBoundingRect();
+    constexpr double width = 1600.0;
+    constexpr int frame = 3;
+    QImage picture((all.size() * (width / all.width())).toSize(), QImage::Format_RGB32);
+    picture.fill(Qt::gray);
+    QPainter painter(&picture);
+    scene.render(&painter, picture.rect(), all);
+    painter.end();
+
+    QRect paper;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == QColor(Qt::white))
+                paper |= QRect(x, y, 1, 1);
+        }
+    }
+    return picture.copy(paper.adjusted(frame, frame, -frame, -frame));
+}
+
+/// Whether there is dark ink within some pixels of a place.
+bool isInked(const QImage& page, const QPoint& place)
+{
+    constexpr int reach = 3;
+    for (int y = place.y() - reach; y <= place.y() + reach; ++y) {
+        for (int x = place.x() - reach; x <= place.x() + reach; ++x) {
+            if (page.valid(x, y) && page.pixelColor(x, y).lightness() < 200)
+                return true;
+        }
+    }
+    return false;
 }
 
 class PrintingTest : public dxftest::LoggedTest
@@ -176,6 +214,28 @@ TEST_F(PrintingTest, ShowsOnePageBeforeItIsPrinted)
     printing(wideDrawing()).preview();
 
     EXPECT_EQ(pages, 1);
+}
+
+TEST_F(PrintingTest, APageIsTheRightWayUpAndOnWhite)
+{
+    QImage page;
+    m_robot.expect<QPrintPreviewDialog>([&page](QPrintPreviewDialog& dialog) {
+        auto* preview = dialog.findChild<QPrintPreviewWidget*>();
+        EXPECT_TRUE(dxftest::eventually([preview] { return preview->pageCount() > 0; }));
+        page = pageOf(*preview);
+        dialog.reject();
+    });
+
+    printing(wideDrawing()).preview();
+
+    const QRect ink = inkOf(page);
+    ASSERT_GT(ink.width(), 1000);
+    EXPECT_TRUE(isInked(page, {ink.center().x(), ink.bottom()}));
+    EXPECT_FALSE(isInked(page, {ink.center().x(), ink.top()}));
+    EXPECT_TRUE(isInked(page, {ink.left(), ink.center().y()}));
+    EXPECT_FALSE(isInked(page, {ink.right(), ink.center().y()}));
+    for (const QPoint& place : {page.rect().topLeft(), page.rect().bottomRight(), ink.center()})
+        EXPECT_EQ(page.pixelColor(place), QColor(Qt::white));
 }
 
 } // namespace

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#include "WindowMemory.h"
+#include "Appearance.h"
+#include "DrawingFiles.h"
+#include "EditHistory.h"
+#include "Navigation.h"
+#include "Settings.h"
+#include "ViewChoices.h"
+#include "ViewerParts.h"
+
+#include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/support/Files.h"
+#include "tests/support/LoggedTest.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGraphicsView>
+#include <QMainWindow>
+#include <QScreen>
+
+#include <memory>
+
+namespace
+{
+
+/// A window as the program has it, as far as it is remembered.
+struct Remembered {
+    ~Remembered()
+    {
+        // Its history outlives it.
+        viewer.reset();
+    }
+
+    QMainWindow window;
+    std::unique_ptr<DXFViewer> viewer = std::make_unique<DXFViewer>();
+    EditHistory history{*viewer};
+    DrawingFiles files{*viewer, history, window};
+    Navigation navigation{drawingView(*viewer)};
+    Appearance appearance{*viewer};
+    ViewChoices choices{files};
+    WindowMemory memory{window, navigation, appearance, choices};
+};
+
+ReadingChoices otherChoices()
+{
+    ReadingChoices choices;
+    choices.showsTexts = !choices.showsTexts;
+    choices.onlyPolylines = !choices.onlyPolylines;
+    return choices;
+}
+
+/// Nothing of it is as it is the first time.
+void change(Remembered& it)
+{
+    it.window.setGeometry(60, 50, 433, 311);
+    it.navigation.setAsStored(true);
+    it.appearance.setGround(Ground::White);
+    it.choices.setChoices(otherChoices());
+}
+
+void expectFirstTime(const Remembered& it)
+{
+    const QSize room = it.window.screen()->availableSize();
+    EXPECT_LT(it.window.width(), room.width());
+    EXPECT_LT(it.window.height(), room.height());
+    EXPECT_GT(it.window.width(), room.width() / 2);
+    EXPECT_GT(it.window.height(), room.height() / 2);
+    EXPECT_FALSE(it.navigation.isAsStored());
+    EXPECT_EQ(it.appearance.ground(), Ground::Dark);
+    EXPECT_EQ(it.choices.choices(), ReadingChoices());
+}
+
+class WindowMemoryTest : public dxftest::LoggedTest
+{
+protected:
+    WindowMemoryTest() { Settings().clear(); }
+    ~WindowMemoryTest() override { Settings().clear(); }
+
+    Remembered m_it;
+};
+
+TEST_F(WindowMemoryTest, TheFirstTimeHasASizeThatFitsTheScreen)
+{
+    m_it.memory.restore();
+
+    expectFirstTime(m_it);
+}
+
+TEST_F(WindowMemoryTest, WhatIsNotRememberedBecomesThatOfTheFirstTime)
+{
+    change(m_it);
+
+    m_it.memory.restore();
+
+    expectFirstTime(m_it);
+}
+
+TEST_F(WindowMemoryTest, TheNextWindowIsAsTheLastOne)
+{
+    change(m_it);
+    m_it.memory.remember();
+
+    Remembered next;
+    next.memory.restore();
+
+    EXPECT_EQ(next.window.geometry(), QRect(60, 50, 433, 311));
+    EXPECT_TRUE(next.navigation.isAsStored());
+    EXPECT_EQ(next.appearance.ground(), Ground::White);
+    EXPECT_EQ(next.choices.choices(), otherChoices());
+}
+
+TEST_F(WindowMemoryTest, TheLastWindowCounts)
+{
+    change(m_it);
+    m_it.memory.remember();
+    m_it.appearance.setGround(Ground::Light);
+    m_it.choices.setChoices(ReadingChoices());
+    m_it.memory.remember();
+
+    Remembered next;
+    next.memory.restore();
+
+    EXPECT_EQ(next.appearance.ground(), Ground::Light);
+    EXPECT_EQ(next.choices.choices(), ReadingChoices());
+}
+
+TEST_F(WindowMemoryTest, NonsenseInTheFileIsTheFirstTime)
+{
+    const QString fileName = Settings().fileName();
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(fileName).path()));
+    for (const QByteArray& nonsense :
+         {QByteArray(4096, '\xFF'), QByteArray("\0\0[[[=;\n%%%", 10),
+          QByteArray("[window]\ngeometry=@ByteArray(xx)\n[view]\nbackground=purple\n"
+                     "asStored=purple\ntexts=purple\nonlyPolylines=purple\n"),
+          QByteArray("[window]\ngeometry=@Variant(\\0\\0)\n[view]\nbackground=\n"
+                     "asStored=@Variant(\\0\\0)\ntexts=\nonlyPolylines=a, b\n")}) {
+        dxftest::fileWith(nonsense, fileName);
+
+        Remembered next;
+        next.memory.restore();
+
+        expectFirstTime(next);
+    }
+}
+
+TEST_F(WindowMemoryTest, ValuesOfOtherKindsAreTheFirstTime)
+{
+    const QVariant others[] = {QVariant(), QVariantMap{{QStringLiteral("a"), 1}}, -1e300,
+                               QByteArray(100000, '\x01'), QSize(-1, -1)};
+    for (const QVariant& other : others) {
+        {
+            Settings settings;
+            for (const char* key : {"window/geometry", "view/background", "view/asStored",
+                                    "view/texts", "view/onlyPolylines"})
+                settings.setValue(QLatin1String(key), other);
+        }
+        Remembered next;
+        next.memory.restore();
+
+        expectFirstTime(next);
+    }
+}
+
+} // namespace
