@@ -128,7 +128,7 @@ TEST_F(BackgroundReaderTest, WhatIsCancelledIsNotHeardOfAgain)
 
     EXPECT_EQ(m_finished, QStringList{next});
     const bool isNew = std::all_of(m_shares.cbegin() + heard, m_shares.cend(),
-                                   [this](double share) { return share == 0.0 || share == 1.0; });
+                                   [](double share) { return share == 0.0 || share == 1.0; });
     EXPECT_TRUE(isNew);
 }
 
