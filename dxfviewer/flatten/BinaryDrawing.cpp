@@ -13,11 +13,10 @@
 namespace
 {
 
-using std::string_view_literals::operator""sv;
-
 // The binary form begins with a word of its writer's and this.
 constexpr std::size_t sentinelLength = 22;
-constexpr std::string_view sentinelEnd = " Binary DXF\r\n\x1a\0"sv;
+// With the zero at its end.
+constexpr std::string_view sentinelEnd(" Binary DXF\r\n\x1a", 15);
 
 // Old releases write codes in one byte, and this one before a code that needs two.
 constexpr unsigned char longCodeFollows = 255;

@@ -155,10 +155,11 @@ DocumentFiller::Instance DocumentFiller::inserted(const Instance& outer, const B
 {
     const BlockInsert& insert =
         m_drawing.block(outer.block).inserts[static_cast<std::size_t>(item.insert)];
+    const long long column = number % insert.columns;
+    const long long row = number / insert.columns;
     Placement placement = insert.placement;
-    placement.origin = placement.origin
-                       + insert.columnStep * static_cast<double>(number % insert.columns)
-                       + insert.rowStep * static_cast<double>(number / insert.columns);
+    placement.origin = placement.origin + insert.columnStep * static_cast<double>(column)
+                       + insert.rowStep * static_cast<double>(row);
     if (insert.placesBase)
         placement = placement * moved(Point3{} - m_drawing.block(insert.block).base);
     return {insert.block, outer.placement * placement, contextOf(outer.context, item.look), true};

@@ -157,7 +157,7 @@ private:
     {
         const int end = static_cast<int>(m_text.indexOf(QLatin1Char(';'), m_at));
         const int length = end < 0 ? static_cast<int>(m_text.size()) - m_at : end - m_at;
-        const QString argument = m_text.mid(m_at, length);
+        QString argument = m_text.mid(m_at, length);
         m_at += length + 1;
         return argument;
     }

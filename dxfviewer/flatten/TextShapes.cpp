@@ -16,7 +16,6 @@ namespace
 {
 
 using namespace dxfviewer;
-using std::string_view_literals::operator""sv;
 
 constexpr Point3 up{0.0, 0.0, 1.0};
 
@@ -66,7 +65,7 @@ struct LinePlace {
 
 LinePlace placeOf(const Record& record, double textWidth)
 {
-    const int verticalCode = record.name() == "ATTRIB"sv ? 74 : 73;
+    const int verticalCode = record.name() == "ATTRIB" ? 74 : 73;
     LinePlace place{record.point(10),  radians(record.number(50)), record.number(41, 1.0),
                     record.number(40), record.integer(72),         record.integer(verticalCode)};
     place.width *= place.height;
@@ -202,14 +201,14 @@ namespace dxfviewer
 bool isText(const Record& record)
 {
     const std::string_view name = record.name();
-    return name == "TEXT"sv || name == "ATTRIB"sv || name == "MTEXT"sv;
+    return name == "TEXT" || name == "ATTRIB" || name == "MTEXT";
 }
 
 bool appendText(Chains& chains, const Record& record, const Fineness& fineness,
                 const TextOutlines& outlines)
 {
-    return record.name() == "MTEXT"sv ? appendParagraphs(chains, record, fineness, outlines)
-                                      : appendLineOfText(chains, record, fineness, outlines);
+    return record.name() == "MTEXT" ? appendParagraphs(chains, record, fineness, outlines)
+                                    : appendLineOfText(chains, record, fineness, outlines);
 }
 
 } // namespace dxfviewer

@@ -19,6 +19,8 @@ class DXFVIEWER_EXPORT IReadingSteps
 {
 public:
     IReadingSteps();
+    IReadingSteps(const IReadingSteps&) = delete;
+    IReadingSteps& operator=(const IReadingSteps&) = delete;
     virtual ~IReadingSteps();
 
     /// The text to read in place of these bytes, which are all that the file or the array holds;
@@ -32,8 +34,4 @@ public:
     /// Called after the last group, when the text is no longer in memory. False makes load()
     /// return false.
     virtual bool finishReading() = 0;
-
-private:
-    IReadingSteps(const IReadingSteps&) = delete;
-    IReadingSteps& operator=(const IReadingSteps&) = delete;
 };

@@ -36,7 +36,8 @@ void forEachEntity(const QList<QSharedPointer<DXFEntity>>& entities, Visit visit
     constexpr int located = 32;
     const auto begin = entities.cbegin();
     const auto count = entities.size();
-    for (auto i = count - count; i < count; ++i) {
+    using Index = decltype(entities.size());
+    for (Index i = 0; i < count; ++i) {
         if (i + located < count)
             prefetch(&*(begin + (i + located)));
         if (i + asked < count)

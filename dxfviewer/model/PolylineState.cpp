@@ -68,7 +68,7 @@ void PolylineState::noteSegmentsGivenAgain(const DXFPolyline& polyline)
 
 QSharedPointer<DXFPolyline> PolylineState::clone(int id, bool areSegmentsGivenAgain)
 {
-    const auto copy = QSharedPointer<DXFPolyline>::create(0U, 0U, 0U);
+    auto copy = QSharedPointer<DXFPolyline>::create(0U, 0U, 0U);
     PolylineAccess::setId(*copy, id);
     copy->setSelected(m_isSelected);
     copy->setHovered(m_isHovered);

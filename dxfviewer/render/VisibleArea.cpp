@@ -8,6 +8,7 @@
 #include <QPen>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace dxfviewer
@@ -43,8 +44,8 @@ bool isModest(double scale)
 struct Range {
     Range(double factorX, double x1, double x2, double factorY, double y1, double y2, double offset)
     {
-        const double x[] = {factorX * x1, factorX * x2};
-        const double y[] = {factorY * y1, factorY * y2};
+        const std::array x{factorX * x1, factorX * x2};
+        const std::array y{factorY * y1, factorY * y2};
         from = std::min(x[0], x[1]) + std::min(y[0], y[1]) + offset;
         to = std::max(x[0], x[1]) + std::max(y[0], y[1]) + offset;
     }
@@ -130,8 +131,8 @@ void VisibleArea::setReach(double reach, bool isThin)
 /// Only of upright drawings. What is rounded is much less than a pixel.
 VisibleArea::Sides VisibleArea::toDrawing(const Sides& device) const
 {
-    const double x[] = {(device.left - m_dx) / m_xx, (device.right - m_dx) / m_xx};
-    const double y[] = {(device.top - m_dy) / m_yy, (device.bottom - m_dy) / m_yy};
+    const std::array x{(device.left - m_dx) / m_xx, (device.right - m_dx) / m_xx};
+    const std::array y{(device.top - m_dy) / m_yy, (device.bottom - m_dy) / m_yy};
     return {std::min(x[0], x[1]), std::min(y[0], y[1]), std::max(x[0], x[1]), std::max(y[0], y[1])};
 }
 
