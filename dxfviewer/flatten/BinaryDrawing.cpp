@@ -13,10 +13,9 @@
 namespace
 {
 
-// The binary form begins with a word of its writer's and this.
+// The binary form begins with a word of its writer's, this and a zero.
 constexpr std::size_t sentinelLength = 22;
-// With the zero at its end.
-constexpr std::string_view sentinelEnd(" Binary DXF\r\n\x1a", 15);
+constexpr std::string_view sentinelEnd = " Binary DXF\r\n\x1a";
 
 // Old releases write codes in one byte, and this one before a code that needs two.
 constexpr unsigned char longCodeFollows = 255;
@@ -193,8 +192,9 @@ namespace dxfviewer
 bool isBinaryDrawing(std::string_view bytes)
 {
     const std::string_view start = bytes.substr(0, sentinelLength);
-    return start.size() == sentinelLength
-           && start.substr(sentinelLength - sentinelEnd.size()) == sentinelEnd;
+    return start.size() == sentinelLength && start.back() == '\0'
+           && start.substr(sentinelLength - 1 - sentinelEnd.size(), sentinelEnd.size())
+                  == sentinelEnd;
 }
 
 std::string textOfBinary(std::string_view bytes)

@@ -21,8 +21,8 @@ DXFEditor* CurrentEditor::begin(DXFGraphicsItem& item, const QObject& owner)
     const QPointer<DXFEditor> editor(new DXFEditor(item));
     // Now, and not before: the editor has said that it is there, and who hears that may have begun
     // another one.
-    const QPointer<DXFEditor> former = m_editor;
-    m_editor = editor;
+    QPointer<DXFEditor> former = editor;
+    former.swap(m_editor);
     m_owner = &owner;
     // The former one goes last: who hears of its end finds the new one in its place.
     if (former)
