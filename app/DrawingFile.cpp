@@ -21,7 +21,7 @@ struct Texts {
 constexpr qint64 largestDrawingBytes = 512LL * 1024 * 1024;
 
 // Read in pieces, between which the user may think better of it.
-constexpr qint64 pieceBytes = 1024 * 1024;
+constexpr qint64 pieceBytes = 1024LL * 1024;
 
 constexpr int binaryBeginBytes = 22;
 const QByteArray binaryBeginEnd("Binary DXF\r\n\x1A\0", 14);

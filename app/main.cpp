@@ -41,7 +41,7 @@ int failWithFile(const QString& what, const QString& fileName, const QString& re
 DrawingRead readFile(const QString& fileName, const ReadingChoices& choices)
 {
     ReadingWatch watch;
-    const DrawingRead result = readDocument(fileName, choices, watch);
+    DrawingRead result = readDocument(fileName, choices, watch);
     if (!result.document)
         failWithFile(Texts::tr("The drawing cannot be opened."), fileName, result.reason);
     return result;

@@ -13,12 +13,11 @@ namespace
 {
 
 using namespace dxfviewer;
-using std::string_view_literals::operator""sv;
 
 // From this release on texts are UTF-8.
-constexpr std::string_view firstUtf8Release = "AC1021"sv;
+constexpr std::string_view firstUtf8Release = "AC1021";
 
-constexpr std::string_view escape = "\\U+"sv;
+constexpr std::string_view escape = R"(\U+)";
 constexpr std::size_t digitsOfEscape = 4;
 
 /// What the header tells about texts.
@@ -37,13 +36,13 @@ Header headerOf(std::string_view text)
         const std::string_view value = trimmed(valueLine);
         if (code == variableCode)
             variable = value;
-        else if (variable == "$ACADVER"sv)
+        else if (variable == "$ACADVER")
             header.release = value;
-        else if (variable == "$DWGCODEPAGE"sv)
+        else if (variable == "$DWGCODEPAGE")
             header.codePage = value;
         if (code != variableCode)
             variable = {};
-        return code != 0 || value != "ENDSEC"sv;
+        return code != 0 || value != "ENDSEC";
     });
     return header;
 }

@@ -247,6 +247,8 @@ DXFPolyline::DXFPolyline(const DXFPolyline& other)
 
 DXFPolyline& DXFPolyline::operator=(const DXFPolyline& other)
 {
+    if (this == &other)
+        return *this;
     DXFEntity::operator=(other);
     m_geometry = other.m_geometry;
     m_ownColor = other.m_ownColor;

@@ -88,7 +88,7 @@ protected:
     bool isShownAfter(Action action)
     {
         const int shown = m_shown;
-        const int told = m_boxes.texts.size();
+        const auto told = m_boxes.texts.size();
         action();
         EXPECT_TRUE(
             dxftest::eventually([&] { return m_shown > shown || m_boxes.texts.size() > told; }));

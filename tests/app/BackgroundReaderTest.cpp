@@ -121,7 +121,7 @@ TEST_F(BackgroundReaderTest, WhatIsCancelledIsNotHeardOfAgain)
 
     m_reader.cancel();
     EXPECT_FALSE(m_reader.isReading());
-    const int heard = m_shares.size();
+    const auto heard = m_shares.size();
     const QString next = smallFile();
     m_reader.read(next);
     ASSERT_TRUE(waitForEnd());

@@ -19,7 +19,7 @@ TEST(ReadingPlaceTest, EachGroupIsTwoLines)
     EXPECT_EQ(place.share(), 0.0);
 
     place.noteGroup(7);
-    EXPECT_EQ(place.share(), 10.0 / content.size());
+    EXPECT_EQ(place.share(), 10.0 / static_cast<double>(content.size()));
     place.noteGroup(8);
     EXPECT_EQ(place.share(), 1.0);
 }

@@ -73,7 +73,7 @@ protected:
         return indices;
     }
 
-    int count() const { return standing().size(); }
+    int count() const { return static_cast<int>(standing().size()); }
     QUndoStack& stack() const { return *currentEditor(m_viewer)->stack(); }
 
     /// Erases posts in one stroke, each in a step of its own.
@@ -285,7 +285,7 @@ TEST_F(StrokeHistoryTest, AnyStrokesUndosAndRedosLeadToWhatWasThere)
         case 0: {
             QVector<int> victims = standing();
             std::shuffle(victims.begin(), victims.end(), random);
-            victims.resize(std::min<int>(victims.size(), chance(4)));
+            victims.resize(std::min(static_cast<int>(victims.size()), chance(4)));
             stroke(victims);
             if (victims.isEmpty())
                 break;
@@ -300,7 +300,7 @@ TEST_F(StrokeHistoryTest, AnyStrokesUndosAndRedosLeadToWhatWasThere)
             break;
         default:
             m_history.redo();
-            at = std::min<int>(at + 1, history.size() - 1);
+            at = std::min(at + 1, static_cast<int>(history.size()) - 1);
         }
         ASSERT_EQ(standing(), history.at(at)) << "after action " << action;
         ASSERT_EQ(m_history.undoAction()->isEnabled(), at > 0);

@@ -59,10 +59,10 @@ protected:
     {
         const int before = m_seen;
         const bool isThere = dxftest::eventually([&] { return m_shown.count() > before; });
-        m_seen = m_shown.count();
+        m_seen = static_cast<int>(m_shown.count());
         return isThere;
     }
-    int entities() const { return shownDocument(*m_viewer)->entities().size(); }
+    int entities() const { return static_cast<int>(shownDocument(*m_viewer)->entities().size()); }
 
     /// An edit that no file has.
     void edit()
