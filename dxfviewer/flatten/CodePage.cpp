@@ -56,7 +56,7 @@ iconv_t openConverter(std::string_view name)
     const std::string known = nameForIconv(name);
     if (known.empty())
         return iconv_open(target, usualCodePage);
-    const iconv_t converter = iconv_open(target, known.c_str());
+    iconv_t converter = iconv_open(target, known.c_str());
     return isInvalid(converter) ? iconv_open(target, usualCodePage) : converter;
 }
 

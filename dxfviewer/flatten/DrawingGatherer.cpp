@@ -14,7 +14,7 @@
 namespace
 {
 
-using std::string_view_literals::operator""sv;
+using namespace std::string_view_literals;
 
 constexpr double usualStepDegrees = 5.625;
 constexpr double shortestStepDegrees = 0.01;

@@ -13,6 +13,9 @@ namespace dxfviewer
 /// Asks for memory that will be read soon.
 inline void prefetch(const void* address)
 {
+    // There are null entities.
+    if (!address)
+        return;
 #ifdef __GNUC__
     __builtin_prefetch(address);
     __builtin_prefetch(static_cast<const char*>(address) + 64);
