@@ -4,10 +4,9 @@
 
 #include "dxfviewer/io/GroupScan.h"
 
-#include <QByteArray>
-
 #include <algorithm>
 #include <charconv>
+#include <limits>
 
 namespace
 {
@@ -46,7 +45,13 @@ double toNumber(std::string_view text)
     if (result.ec != std::errc::result_out_of_range)
         return value;
     // Too large or too small: the standard does not say which.
-    return QByteArray(text.data(), static_cast<int>(result.ptr - text.data())).toDouble();
+    // Qt 5 and Qt 6 do not agree on what has no room in a double.
+    long double wide = std::numeric_limits<long double>::infinity();
+    std::from_chars(text.data(), result.ptr, wide);
+    constexpr long double greatest = std::numeric_limits<double>::max();
+    if (wide > greatest)
+        return std::numeric_limits<double>::infinity();
+    return wide < -greatest ? -std::numeric_limits<double>::infinity() : static_cast<double>(wide);
 }
 
 int Record::Group::integer() const
