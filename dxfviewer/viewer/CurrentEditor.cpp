@@ -5,8 +5,6 @@
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/render/DXFGraphicsItem.h"
 
-#include <utility>
-
 namespace dxfviewer
 {
 
@@ -18,23 +16,27 @@ CurrentEditor::~CurrentEditor()
 DXFEditor* CurrentEditor::begin(DXFGraphicsItem& item, const QObject& owner)
 {
     const auto itemLife = item.lifeToken();
-    const QPointer<DXFEditor> editor(new DXFEditor(item));
+    auto* const editor = new DXFEditor(item);
     // Now, and not before: the editor has said that it is there, and who hears that may have begun
     // another one.
-    QPointer<DXFEditor> former = editor;
-    former.swap(m_editor);
+    DXFEditor* const former = m_editor;
+    m_editor = editor;
     m_owner = &owner;
+    const quint64 beginning = ++m_beginnings;
     // The former one goes last: who hears of its end finds the new one in its place.
     if (former)
         former->end();
-    if (editor && editor == m_editor && itemLife.expired())
+    if (beginning != m_beginnings)
+        return nullptr;
+    if (itemLife.expired())
         end();
-    return editor == m_editor ? editor.data() : nullptr;
+    return m_editor;
 }
 
 void CurrentEditor::end()
 {
-    const QPointer<DXFEditor> editor = std::exchange(m_editor, nullptr);
+    DXFEditor* const editor = m_editor;
+    m_editor.clear();
     if (editor)
         editor->end();
 }

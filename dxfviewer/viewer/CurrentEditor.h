@@ -37,6 +37,8 @@ private:
     QPointer<DXFEditor> m_editor;
     // Compared only: the owner may be gone.
     const QObject* m_owner = nullptr;
+    // Tells editors apart: a later one may stand where a destroyed one stood.
+    quint64 m_beginnings = 0;
 };
 
 } // namespace dxfviewer
