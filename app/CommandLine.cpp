@@ -4,36 +4,26 @@
 
 #include <QCoreApplication>
 
-namespace
-{
-
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(CommandLine)
-};
-
-} // namespace
-
 CommandLine::CommandLine()
     : m_help(m_parser.addHelpOption())
     , m_version(m_parser.addVersionOption())
-    , m_edit(QStringLiteral("edit"), Texts::tr("Start in edit mode."))
+    , m_edit(QStringLiteral("edit"), tr("Start in edit mode."))
     , m_picture(QStringLiteral("picture"),
-                Texts::tr("Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit."),
-                Texts::tr("FILE"))
+                tr("Write a picture of the drawing to FILE (.png, .svg or .pdf) and exit."),
+                tr("FILE"))
     , m_ground(QStringLiteral("ground"),
-               Texts::tr("What a picture lies on: dark, light or white (the default)."),
-               Texts::tr("GROUND"), nameOf(Ground::White))
-    , m_report(
-          QStringLiteral("report"),
-          Texts::tr("Print a line for each drawing, with tabs between: the file, the length of "
-                    "all lines, the least x and y, the greatest x and y, and how many objects "
-                    "of which kind are not shown."))
-    , m_verbose(QStringLiteral("verbose"), Texts::tr("Print what is read and left out."))
+               tr("What a picture lies on: dark, light or white (the default)."), tr("GROUND"),
+               nameOf(Ground::White))
+    , m_report(QStringLiteral("report"),
+               tr("Print a line for each drawing, with tabs between: the file, the length of "
+                  "all lines, the least x and y, the greatest x and y, and how many objects "
+                  "of which kind are not shown."))
+    , m_verbose(QStringLiteral("verbose"), tr("Print what is read and left out."))
 {
-    m_parser.setApplicationDescription(Texts::tr("Views DXF drawings and erases parts of them."));
+    m_parser.setApplicationDescription(tr("Views DXF drawings and erases parts of them."));
     for (const QCommandLineOption* option : {&m_edit, &m_picture, &m_ground, &m_report, &m_verbose})
         m_parser.addOption(*option);
-    m_parser.addPositionalArgument(QStringLiteral("DRAWING"), Texts::tr("A .dxf file to open."),
+    m_parser.addPositionalArgument(QStringLiteral("DRAWING"), tr("A .dxf file to open."),
                                    QStringLiteral("[DRAWING]"));
 }
 
@@ -59,13 +49,13 @@ bool CommandLine::needsWindow() const
 QString CommandLine::mistake() const
 {
     if (!groundNamed(m_parser.value(m_ground)))
-        return Texts::tr("The ground of a picture is dark, light or white.");
+        return tr("The ground of a picture is dark, light or white.");
     if (wantsReport() && drawings().isEmpty())
-        return Texts::tr("There is no drawing to report on.");
+        return tr("There is no drawing to report on.");
     if (!wantsReport() && drawings().size() > 1)
-        return Texts::tr("Only one drawing can be opened.");
+        return tr("Only one drawing can be opened.");
     if (wantsPicture() && drawings().isEmpty())
-        return Texts::tr("There is no drawing to make a picture of.");
+        return tr("There is no drawing to make a picture of.");
     return QString();
 }
 

@@ -5,11 +5,14 @@
 #include "Ground.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QStringList>
 
 /// What the program is told to do.
 class CommandLine
 {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+
 public:
     CommandLine();
     ~CommandLine();

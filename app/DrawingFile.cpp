@@ -13,7 +13,7 @@
 namespace
 {
 
-struct Texts {
+struct DrawingFileTexts {
     Q_DECLARE_TR_FUNCTIONS(DrawingFile)
 };
 
@@ -63,15 +63,15 @@ bool isBinaryDrawing(const QByteArray& content)
 QString whyNoDrawing(const QByteArray& content)
 {
     if (content.isEmpty())
-        return Texts::tr("The file is empty.");
+        return DrawingFileTexts::tr("The file is empty.");
     if (content.size() > largestDrawingBytes)
-        return Texts::tr("The file is too large.");
+        return DrawingFileTexts::tr("The file is too large.");
     if (isBinaryDrawing(content))
         return QString();
     if (content.contains('\0'))
-        return Texts::tr("It is a binary file, but no DXF drawing.");
+        return DrawingFileTexts::tr("It is a binary file, but no DXF drawing.");
     if (!hasLine(content, firstRecord))
-        return Texts::tr("It is not a DXF drawing.");
+        return DrawingFileTexts::tr("It is not a DXF drawing.");
     return QString();
 }
 
@@ -79,11 +79,11 @@ QString whyNotReadable(const QFileInfo& info)
 {
     // A link that leads nowhere does not exist either.
     if (!info.exists())
-        return Texts::tr("There is no such file.");
+        return DrawingFileTexts::tr("There is no such file.");
     if (!info.isFile())
-        return Texts::tr("It is not a regular file.");
+        return DrawingFileTexts::tr("It is not a regular file.");
     if (info.size() > largestDrawingBytes)
-        return Texts::tr("The file is too large.");
+        return DrawingFileTexts::tr("The file is too large.");
     return QString();
 }
 
@@ -135,7 +135,7 @@ bool writeFile(const QString& fileName, const QByteArray& content, QString& reas
     // A file takes the place of what has its name, and that must not be a device.
     const QFileInfo info(fileName);
     if (info.exists() && !info.isFile()) {
-        reason = Texts::tr("It is not a regular file.");
+        reason = DrawingFileTexts::tr("It is not a regular file.");
         return false;
     }
     QSaveFile file(fileName);

@@ -18,7 +18,7 @@
 namespace
 {
 
-struct Texts {
+struct DrawingReadTexts {
     Q_DECLARE_TR_FUNCTIONS(DrawingRead)
 };
 
@@ -73,7 +73,7 @@ DrawingRead parsed(const QByteArray& content, const ReadingChoices& choices, Rea
     DrawingRead result = choices.onlyPolylines ? onlyPolylinesOf(content, place)
                                                : everythingOf(content, choices.flattening(), place);
     if (!result.document)
-        result.reason = Texts::tr("It cannot be read.");
+        result.reason = DrawingReadTexts::tr("It cannot be read.");
     return result;
 }
 
@@ -89,7 +89,7 @@ DrawingRead readDocument(const QString& fileName, const ReadingChoices& choices,
     } catch (const Cancelled&) {
         return DrawingRead();
     } catch (const std::bad_alloc&) {
-        result.reason = Texts::tr("There is not enough memory for the drawing.");
+        result.reason = DrawingReadTexts::tr("There is not enough memory for the drawing.");
     }
     if (watch.isCancelled())
         result = DrawingRead();

@@ -11,7 +11,7 @@
 namespace
 {
 
-struct Texts {
+struct KindWordsTexts {
     Q_DECLARE_TR_FUNCTIONS(KindWords)
 };
 
@@ -97,8 +97,8 @@ Words inWords(const QMap<QString, int>& counts)
     for (const std::size_t i : order) {
         words.total += sums[i];
         if (sums[i] > 0)
-            words.parts +=
-                sums[i] == 1 ? Texts::tr(kinds[i].one) : Texts::tr(kinds[i].many, nullptr, sums[i]);
+            words.parts += sums[i] == 1 ? KindWordsTexts::tr(kinds[i].one)
+                                        : KindWordsTexts::tr(kinds[i].many, nullptr, sums[i]);
     }
     return words;
 }
@@ -106,7 +106,7 @@ Words inWords(const QMap<QString, int>& counts)
 QString separator()
 {
     //: Between the parts of a list.
-    return Texts::tr(", ");
+    return KindWordsTexts::tr(", ");
 }
 
 QString listOf(QStringList parts)
@@ -115,7 +115,7 @@ QString listOf(QStringList parts)
         return parts.join(QString());
     const QString last = parts.takeLast();
     //: The end of a list: all parts but the last, and the last.
-    return Texts::tr("%1 and %2").arg(parts.join(separator()), last);
+    return KindWordsTexts::tr("%1 and %2").arg(parts.join(separator()), last);
 }
 
 } // namespace
@@ -125,28 +125,29 @@ QString notShownSentence(const QMap<QString, int>& skipped)
     const Words words = inWords(skipped);
     if (words.total == 0)
         return QString();
-    return Texts::tr("Not shown: %1").arg(words.parts.join(separator()));
+    return KindWordsTexts::tr("Not shown: %1").arg(words.parts.join(separator()));
 }
 
 QString changesSentence(const QMap<QString, int>& shown, const QMap<QString, int>& skipped)
 {
     const Words changed = inWords(shown);
     const Words lost = inWords(skipped);
-    QStringList sentences{Texts::tr("It is the drawing that was opened.")};
+    QStringList sentences{KindWordsTexts::tr("It is the drawing that was opened.")};
     if (changed.total > 0)
-        sentences += (changed.total == 1 ? Texts::tr("%1 becomes polylines.")
-                                         : Texts::tr("%1 become polylines."))
+        sentences += (changed.total == 1 ? KindWordsTexts::tr("%1 becomes polylines.")
+                                         : KindWordsTexts::tr("%1 become polylines."))
                          .arg(listOf(changed.parts));
     if (lost.total > 0)
-        sentences += (lost.total == 1 ? Texts::tr("%1 is lost.") : Texts::tr("%1 are lost."))
+        sentences += (lost.total == 1 ? KindWordsTexts::tr("%1 is lost.")
+                                      : KindWordsTexts::tr("%1 are lost."))
                          .arg(listOf(lost.parts));
-    sentences += Texts::tr("Only layers, line types and polylines are saved.");
+    sentences += KindWordsTexts::tr("Only layers, line types and polylines are saved.");
     return sentences.join(QLatin1Char(' '));
 }
 
 QString plainLossesSentence()
 {
-    return Texts::tr(
+    return KindWordsTexts::tr(
         "It is the drawing that was opened. Only layers, line types and polylines are saved. "
         "Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, "
         "blocks and the colours of single polylines. Once anything was erased, closed polylines "

@@ -3,9 +3,9 @@
 #include "Picture.h"
 
 #include "DrawingFile.h"
+#include "Polylines.h"
 
 #include <dxfviewer/model/DXFDocument.h>
-#include <dxfviewer/model/DXFPolyline.h>
 #include <dxfviewer/render/DisplayColors.h>
 
 #include <QBuffer>
@@ -21,12 +21,6 @@
 
 namespace
 {
-
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(Picture)
-};
-
-constexpr int polylineType = 0;
 
 constexpr double longEdgePx = 2000.0;
 constexpr double shortestEdgePx = 40.0;
@@ -103,11 +97,12 @@ void Picture::take(const DXFDocument& document)
     QPolygonF corners;
     const auto entities = document.entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
+        const DXFPolyline* polyline = asPolyline(entity);
+        if (!polyline)
             continue;
-        const auto runs = runsOf(static_cast<const DXFPolyline&>(*entity));
+        const auto runs = runsOf(*polyline);
         for (const QPolygonF& run : runs) {
-            m_strokes.append({run, colors.colorOf(*entity, document), entity->lineWidth()});
+            m_strokes.append({run, colors.colorOf(*polyline, document), polyline->lineWidth()});
             corners += run;
         }
     }
@@ -163,22 +158,22 @@ bool Picture::write(const QString& fileName, QString& reason) const
 {
     const QString suffix = QFileInfo(fileName).suffix().toLower();
     if (!suffixes().contains(suffix)) {
-        reason = Texts::tr("The name of a picture must end in .png, .svg or .pdf.");
+        reason = tr("The name of a picture must end in .png, .svg or .pdf.");
         return false;
     }
     if (m_strokes.isEmpty()) {
-        reason = Texts::tr("There is nothing in this drawing that can be shown.");
+        reason = tr("There is nothing in this drawing that can be shown.");
         return false;
     }
     if (!m_bounds) {
-        reason = Texts::tr("The drawing's coordinates are too large for a picture.");
+        reason = tr("The drawing's coordinates are too large for a picture.");
         return false;
     }
     const QByteArray content = suffix == QLatin1String("png")   ? png()
                                : suffix == QLatin1String("svg") ? svg()
                                                                 : pdf();
     if (content.isEmpty()) {
-        reason = Texts::tr("There is not enough memory for the picture.");
+        reason = tr("There is not enough memory for the picture.");
         return false;
     }
     return writeFile(fileName, content, reason);

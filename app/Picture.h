@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QPolygonF>
 #include <QRectF>
 #include <QSharedPointer>
@@ -24,6 +25,8 @@ class QPainter;
  */
 class Picture
 {
+    Q_DECLARE_TR_FUNCTIONS(Picture)
+
 public:
     /// The title is the name of the drawing, for people who look at the file's properties.
     Picture(const QSharedPointer<DXFDocument>& document, const QColor& ground,

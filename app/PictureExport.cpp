@@ -16,7 +16,7 @@
 namespace
 {
 
-struct Texts {
+struct PictureExportTexts {
     Q_DECLARE_TR_FUNCTIONS(PictureExport)
 };
 
@@ -24,8 +24,8 @@ QString chosenPicture(const QString& drawingName, QWidget& window)
 {
     QStringList filters;
     for (const QString& suffix : Picture::suffixes())
-        filters += Texts::tr("%1 pictures (*.%2)").arg(suffix.toUpper(), suffix);
-    QFileDialog dialog(&window, Texts::tr("Export Picture"));
+        filters += PictureExportTexts::tr("%1 pictures (*.%2)").arg(suffix.toUpper(), suffix);
+    QFileDialog dialog(&window, PictureExportTexts::tr("Export Picture"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filters);
     dialog.setDefaultSuffix(Picture::suffixes().constFirst());
@@ -59,5 +59,6 @@ void exportPicture(const DXFViewer& viewer, const QString& drawingName, QWidget&
                         .write(fileName, reason);
     }
     if (!isWritten)
-        showError(window, Texts::tr("The picture cannot be written."), fileName, reason);
+        showError(window, PictureExportTexts::tr("The picture cannot be written."), fileName,
+                  reason);
 }

@@ -17,10 +17,6 @@
 namespace
 {
 
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(Printing)
-};
-
 /// How a document ends that was written whole.
 const QByteArray endOfDocument = "%%EOF";
 constexpr qint64 longestEnd = 64;
@@ -70,7 +66,7 @@ void Printing::print() const
     const Picture picture(m_document, Qt::white);
     prepare(printer, picture, m_fileName);
     QPrintDialog dialog(&printer, &m_window);
-    dialog.setWindowTitle(Texts::tr("Print"));
+    dialog.setWindowTitle(tr("Print"));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
     if (dialog.exec() != QDialog::Accepted)
@@ -82,12 +78,12 @@ void Printing::print() const
     }();
     const QString file = printer.outputFileName();
     if (!isPrinted)
-        showError(m_window, Texts::tr("The drawing cannot be printed."), m_fileName,
-                  file.isEmpty() ? Texts::tr("The printer does not take it.")
-                                 : Texts::tr("%1 cannot be written.").arg(file));
+        showError(m_window, tr("The drawing cannot be printed."), m_fileName,
+                  file.isEmpty() ? tr("The printer does not take it.")
+                                 : tr("%1 cannot be written.").arg(file));
     else if (!file.isEmpty() && !isWhole(file))
-        showError(m_window, Texts::tr("The drawing cannot be printed."), m_fileName,
-                  Texts::tr("%1 could not be written to its end. The disk may be full.").arg(file));
+        showError(m_window, tr("The drawing cannot be printed."), m_fileName,
+                  tr("%1 could not be written to its end. The disk may be full.").arg(file));
 }
 
 void Printing::preview() const

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <QCoreApplication>
 #include <QSharedPointer>
 #include <QString>
 
@@ -15,6 +16,8 @@ class QWidget;
  */
 class Printing
 {
+    Q_DECLARE_TR_FUNCTIONS(Printing)
+
 public:
     /// The name is that of the drawing's file. Dialogs and boxes belong to the window.
     Printing(const QSharedPointer<DXFDocument>& document, const QString& fileName, QWidget& window);

@@ -13,7 +13,7 @@
 namespace
 {
 
-struct Texts {
+struct QuestionsTexts {
     Q_DECLARE_TR_FUNCTIONS(Questions)
 };
 
@@ -21,7 +21,8 @@ struct Texts {
 
 EditsAnswer askAboutEdits(QWidget& window, const QString& fileName)
 {
-    QMessageBox box(QMessageBox::Question, QString(), Texts::tr("Save the edited drawing?"),
+    QMessageBox box(QMessageBox::Question, QString(),
+                    QuestionsTexts::tr("Save the edited drawing?"),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(readableName(QFileInfo(fileName).fileName()));
@@ -38,11 +39,12 @@ EditsAnswer askAboutEdits(QWidget& window, const QString& fileName)
 
 bool askToReplace(QWidget& window, const QString& fileName, const QString& change)
 {
-    QMessageBox box(QMessageBox::Warning, QString(), Texts::tr("Replace the file?"),
+    QMessageBox box(QMessageBox::Warning, QString(), QuestionsTexts::tr("Replace the file?"),
                     QMessageBox::Cancel, &window);
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(readableName(fileName) + QLatin1String("\n\n") + change);
-    QPushButton* replace = box.addButton(Texts::tr("Replace"), QMessageBox::DestructiveRole);
+    QPushButton* replace =
+        box.addButton(QuestionsTexts::tr("Replace"), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.exec();
     return box.clickedButton() == replace;

@@ -2,8 +2,9 @@
 
 #include "Report.h"
 
+#include "Polylines.h"
+
 #include <dxfviewer/model/DXFDocument.h>
-#include <dxfviewer/model/DXFPolyline.h>
 
 #include <QFile>
 
@@ -14,7 +15,6 @@
 namespace
 {
 
-constexpr int polylineType = 0;
 constexpr int digits = 15;
 
 /// A sum that does not lose what is small beside what has come together.
@@ -54,9 +54,10 @@ Measures measuresOf(const DXFDocument& document)
     Sum length;
     const auto entities = document.entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
+        const DXFPolyline* polyline = asPolyline(entity);
+        if (!polyline)
             continue;
-        const auto segments = static_cast<const DXFPolyline&>(*entity).segments();
+        const auto segments = polyline->segments();
         for (const Segment& segment : segments) {
             const QLineF line = segment.line();
             length.add(std::hypot(line.dx(), line.dy()));

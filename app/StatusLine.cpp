@@ -2,12 +2,12 @@
 
 #include "StatusLine.h"
 
+#include "Polylines.h"
 #include "QtVersions.h"
 #include "ViewerParts.h"
 
 #include <dxfviewer/edit/DXFEditor.h>
 #include <dxfviewer/model/DXFDocument.h>
-#include <dxfviewer/model/DXFPolyline.h>
 #include <dxfviewer/viewer/DXFViewer.h>
 
 #include <QAction>
@@ -25,7 +25,6 @@
 namespace
 {
 
-constexpr int polylineType = 0;
 // Erasing changes the drawing twenty times a second. Counting a large one takes some milliseconds,
 // and is given this share of the time at most.
 constexpr int countDelayMs = 100;
@@ -114,10 +113,11 @@ void StatusLine::count()
     qlonglong segments = 0;
     const auto entities = document->entities();
     for (const auto& entity : entities) {
-        if (!entity || entity->type() != polylineType)
+        const DXFPolyline* polyline = asPolyline(entity);
+        if (!polyline)
             continue;
         ++polylines;
-        segments += static_cast<const DXFPolyline&>(*entity).segments().size();
+        segments += polyline->segments().size();
     }
     m_countTimer.setInterval(
         std::max(countDelayMs, static_cast<int>(duration.elapsed()) * countShare));

@@ -3,10 +3,10 @@
 #include "StrokeHistory.h"
 
 #include "Machine.h"
+#include "Polylines.h"
 
 #include <dxfviewer/edit/DXFEditor.h>
 #include <dxfviewer/model/DXFDocument.h>
-#include <dxfviewer/model/DXFPolyline.h>
 
 #include <QAction>
 #include <QEvent>
@@ -17,8 +17,6 @@
 
 namespace
 {
-
-constexpr int polylineType = 0;
 
 // What the library keeps without being asked.
 constexpr int fewestSteps = 10;
@@ -39,9 +37,8 @@ qint64 segmentsOfLargest(const DXFDocument& document)
     qint64 largest = 0;
     const auto entities = document.entities();
     for (const auto& entity : entities) {
-        if (entity && entity->type() == polylineType)
-            largest = std::max<qint64>(largest,
-                                       static_cast<const DXFPolyline&>(*entity).segments().size());
+        if (const DXFPolyline* polyline = asPolyline(entity))
+            largest = std::max<qint64>(largest, polyline->segments().size());
     }
     return largest;
 }

@@ -21,10 +21,6 @@
 namespace
 {
 
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(CommandLine)
-};
-
 int fail(const QString& message)
 {
     std::fprintf(stderr, "%s\n", qPrintable(message));
@@ -33,7 +29,7 @@ int fail(const QString& message)
 
 int failWithFile(const QString& what, const QString& fileName, const QString& reason)
 {
-    return fail(Texts::tr("%1\n%2\n%3").arg(what, readableName(fileName), reason));
+    return fail(CommandLine::tr("%1\n%2\n%3").arg(what, readableName(fileName), reason));
 }
 
 /// A drawing without a window. Its document is null, and the user is told why, if it cannot be
@@ -43,7 +39,7 @@ DrawingRead readFile(const QString& fileName, const ReadingChoices& choices)
     ReadingWatch watch;
     DrawingRead result = readDocument(fileName, choices, watch);
     if (!result.document)
-        failWithFile(Texts::tr("The drawing cannot be opened."), fileName, result.reason);
+        failWithFile(CommandLine::tr("The drawing cannot be opened."), fileName, result.reason);
     return result;
 }
 
@@ -56,8 +52,8 @@ int writePicture(const QString& drawing, const CommandLine& commandLine)
                           readableName(QFileInfo(drawing).fileName()));
     QString reason;
     if (!picture.write(commandLine.picture(), reason))
-        return failWithFile(Texts::tr("The picture cannot be written."), commandLine.picture(),
-                            reason);
+        return failWithFile(CommandLine::tr("The picture cannot be written."),
+                            commandLine.picture(), reason);
     return EXIT_SUCCESS;
 }
 
@@ -112,7 +108,7 @@ int main(int argc, char** argv)
     installTranslations(application);
     QCoreApplication::setApplicationName(QStringLiteral("dxfviewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(DXFVIEWER_APP_VERSION));
-    QGuiApplication::setApplicationDisplayName(Texts::tr("DXF Viewer"));
+    QGuiApplication::setApplicationDisplayName(CommandLine::tr("DXF Viewer"));
     QGuiApplication::setDesktopFileName(QStringLiteral(DXFVIEWER_APP_PROGRAM));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/dxfviewer.svg")));
 

@@ -54,7 +54,7 @@ bool isPlain(std::string_view text)
 }
 
 /// A text in which some lines, or all, are written in the drawing's code page.
-std::string decoded(std::string_view text)
+std::string inUtf8(std::string_view text)
 {
     const Header header = headerOf(text);
     const bool hasUtf8 = header.release >= firstUtf8Release;
@@ -157,7 +157,7 @@ std::optional<std::string> utf8TextOf(std::string_view bytes)
     if (isBinaryDrawing(bytes))
         text = textOfBinary(bytes);
     if (!isUtf8(text ? *text : bytes))
-        text = decoded(text ? *text : bytes);
+        text = inUtf8(text ? *text : bytes);
     if ((text ? std::string_view(*text) : bytes).find(escape) != std::string_view::npos)
         text = withoutEscapes(text ? *text : bytes);
     return text;

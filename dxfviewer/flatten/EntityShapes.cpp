@@ -83,7 +83,6 @@ bool appendCircularArc(Chains& chains, const Record& record, const Fineness& fin
 
 bool appendEllipse(Chains& chains, const Record& record, const Fineness& fineness)
 {
-    const Point3 up{0.0, 0.0, 1.0};
     const Point3 normal = normalized(record.point(extrusionCode, up), up);
     const Point3 major = record.point(11);
     const Ring ring{record.point(10), major, cross(normal, major) * record.number(40, 1.0)};
@@ -203,24 +202,24 @@ bool appendSolid(Chains& chains, const Record& record, const Fineness&)
     return true;
 }
 
-struct Kind {
+struct ShapeKind {
     std::string_view name;
     bool (*append)(Chains&, const Record&, const Fineness&);
 };
 
-constexpr std::array kinds{
-    Kind{"LWPOLYLINE", appendLightPolyline},
-    Kind{"LINE", appendLine},
-    Kind{"POINT", appendPoint},
-    Kind{"ARC", appendCircularArc},
-    Kind{"CIRCLE", appendCircle},
-    Kind{"SPLINE", appendSplineEntity},
-    Kind{"ELLIPSE", appendEllipse},
-    Kind{"SOLID", appendSolid},
-    Kind{"TRACE", appendSolid},
-    Kind{"3DFACE", appendFaceEntity},
-    Kind{"3DLINE", appendLine},
-    Kind{"LEADER", appendLeader},
+constexpr std::array shapeKinds{
+    ShapeKind{"LWPOLYLINE", appendLightPolyline},
+    ShapeKind{"LINE", appendLine},
+    ShapeKind{"POINT", appendPoint},
+    ShapeKind{"ARC", appendCircularArc},
+    ShapeKind{"CIRCLE", appendCircle},
+    ShapeKind{"SPLINE", appendSplineEntity},
+    ShapeKind{"ELLIPSE", appendEllipse},
+    ShapeKind{"SOLID", appendSolid},
+    ShapeKind{"TRACE", appendSolid},
+    ShapeKind{"3DFACE", appendFaceEntity},
+    ShapeKind{"3DLINE", appendLine},
+    ShapeKind{"LEADER", appendLeader},
 };
 
 } // namespace
@@ -230,10 +229,11 @@ namespace dxfviewer
 
 bool appendEntity(Chains& chains, const Record& record, const Fineness& fineness)
 {
-    const auto kind = std::find_if(kinds.begin(), kinds.end(), [&record](const Kind& candidate) {
-        return candidate.name == record.name();
-    });
-    return kind != kinds.end() && kind->append(chains, record, fineness);
+    const auto kind =
+        std::find_if(shapeKinds.begin(), shapeKinds.end(), [&record](const ShapeKind& candidate) {
+            return candidate.name == record.name();
+        });
+    return kind != shapeKinds.end() && kind->append(chains, record, fineness);
 }
 
 } // namespace dxfviewer

@@ -14,8 +14,6 @@ namespace
 
 using namespace dxfviewer;
 
-constexpr Point3 up{0.0, 0.0, 1.0};
-
 BlockInsert plainInsert(const Record& record)
 {
     const Placement turn = extruded(record.point(210, up)) * moved(record.point(10))
@@ -49,25 +47,25 @@ BlockInsert tableInsert(const Record& record)
     return insert;
 }
 
-struct Kind {
+struct InsertKind {
     std::string_view name;
     BlockInsert (*insertOf)(const Record&);
 };
 
-constexpr std::array kinds{
-    Kind{"INSERT", plainInsert},
-    Kind{"DIMENSION", dimensionInsert},
-    Kind{"ARC_DIMENSION", dimensionInsert},
-    Kind{"LARGE_RADIAL_DIMENSION", dimensionInsert},
-    Kind{"ACAD_TABLE", tableInsert},
+constexpr std::array insertKinds{
+    InsertKind{"INSERT", plainInsert},
+    InsertKind{"DIMENSION", dimensionInsert},
+    InsertKind{"ARC_DIMENSION", dimensionInsert},
+    InsertKind{"LARGE_RADIAL_DIMENSION", dimensionInsert},
+    InsertKind{"ACAD_TABLE", tableInsert},
 };
 
-const Kind* kindOf(const Record& record)
+const InsertKind* kindOf(const Record& record)
 {
-    const auto kind = std::find_if(kinds.begin(), kinds.end(), [&record](const Kind& candidate) {
-        return candidate.name == record.name();
-    });
-    return kind == kinds.end() ? nullptr : &*kind;
+    const auto kind = std::find_if(
+        insertKinds.begin(), insertKinds.end(),
+        [&record](const InsertKind& candidate) { return candidate.name == record.name(); });
+    return kind == insertKinds.end() ? nullptr : &*kind;
 }
 
 } // namespace
@@ -82,7 +80,7 @@ bool insertsBlock(const Record& record)
 
 BlockInsert insertOf(const Record& record)
 {
-    const Kind* kind = kindOf(record);
+    const InsertKind* kind = kindOf(record);
     return kind ? kind->insertOf(record) : BlockInsert();
 }
 

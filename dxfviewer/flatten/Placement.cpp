@@ -5,8 +5,6 @@
 namespace
 {
 
-constexpr dxfviewer::Point3 up{0.0, 0.0, 1.0};
-
 // A direction this near to upwards takes its x axis from the drawing's y axis: the format's rule.
 constexpr double nearlyUp = 1.0 / 64.0;
 

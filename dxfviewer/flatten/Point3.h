@@ -17,6 +17,9 @@ struct Point3 {
 
 using Points = std::vector<Point3>;
 
+/// Towards who looks at the drawing.
+constexpr Point3 up{0.0, 0.0, 1.0};
+
 inline Point3 operator+(const Point3& a, const Point3& b)
 {
     return {a.x + b.x, a.y + b.y, a.z + b.z};

@@ -28,8 +28,6 @@ constexpr int frameVertexFlag = 16;
 constexpr int meshVertexFlag = 64;
 constexpr int faceVertexFlag = 128;
 
-constexpr Point3 up{0.0, 0.0, 1.0};
-
 struct BulgedVertex {
     Point3 point;
     double bulge = 0.0;

@@ -15,7 +15,7 @@ constexpr char16_t plusMinusSign = 0x00b1;
 // The letter looks like the sign for a diameter, and every font has it.
 constexpr char16_t diameterSign = 0x00d8;
 
-QString decoded(std::string_view text)
+QString shownText(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
@@ -181,7 +181,7 @@ namespace dxfviewer
 
 QString lineOfText(const Record& record)
 {
-    return withoutPercentCodes(decoded(record.text(textCode)));
+    return withoutPercentCodes(shownText(record.text(textCode)));
 }
 
 QStringList linesOfParagraphs(const Record& record)
@@ -189,7 +189,7 @@ QStringList linesOfParagraphs(const Record& record)
     QString text;
     for (const Record::Group group : record) {
         if (group.code == earlierTextCode || group.code == textCode)
-            text += decoded(group.value);
+            text += shownText(group.value);
     }
     return ParagraphText(withoutPercentCodes(text)).lines();
 }

@@ -17,8 +17,6 @@ namespace
 
 using namespace dxfviewer;
 
-constexpr Point3 up{0.0, 0.0, 1.0};
-
 // More than that nobody reads, and the letters would run away.
 constexpr double steepestOblique = 85.0;
 

@@ -23,8 +23,6 @@ using dxfviewer::identical;
 namespace
 {
 
-constexpr int unknownType = -1;
-
 // Enough for the layers and colours of most drawings.
 constexpr std::size_t convertedEntries = 256;
 
@@ -137,7 +135,7 @@ void DXFReader::addVertex(const DL_VertexData& data)
     if (!m_currentEntity)
         return;
 
-    if (m_currentEntity->type() == unknownType)
+    if (m_currentEntity->type() == dxfviewer::unknownType)
         qDebug() << "addVertex"
                  << "Unsuported type";
     if (auto* polyline = dxfviewer::asPolyline(m_currentEntity))

@@ -28,8 +28,6 @@ using dxfviewer::noTrueColor;
 namespace
 {
 
-constexpr int unknownType = -1;
-
 constexpr DL_Codes::version fileVersion = DL_Codes::AC1009;
 constexpr int appIdHandle = 0x12;
 
@@ -250,7 +248,7 @@ void DXFWriter::writeEntities_section()
         if (!entity)
             continue;
         const int type = entity->type();
-        if (type == unknownType)
+        if (type == dxfviewer::unknownType)
             qDebug("DXFWriter:: attempted writing of unsuported entity");
         else if (type == dxfviewer::polylineType)
             writePolyline(entity.staticCast<DXFPolyline>());

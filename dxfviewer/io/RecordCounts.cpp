@@ -8,7 +8,6 @@
 namespace
 {
 
-constexpr int loopCode = 92;
 constexpr int edgeLoopCode = 93;
 constexpr int polylineLoopBit = 2;
 

@@ -69,6 +69,9 @@ private:
 class HatchLoops
 {
 public:
+    /// Code of the group that begins a loop.
+    static constexpr int loopCode = 92;
+
     void beginRecord() { m_begun = false; }
     void addGroup(int code, std::string_view value);
     bool isSound() const { return m_begun || !m_carried; }

@@ -13,11 +13,11 @@ namespace
 {
 
 using dxfviewer::AnnouncedCount;
+using dxfviewer::HatchLoops;
 using dxfviewer::RecordCounts;
 
 /// A group that makes dxflib drop the loops of the hatch before, and begins none.
 constexpr std::string_view noLoops = "92\n0\n";
-constexpr int loopCode = 92;
 // A spline's.
 constexpr std::size_t mostCounts = 3;
 // Room for what the repair usually adds.
@@ -118,7 +118,7 @@ void Repair::endRecord(bool delivered)
     auto* loops = m_counts.hatchLoops();
     if (delivered && loops && !loops->isSound()) {
         m_text.insert(m_recordStart, noLoops);
-        loops->addGroup(loopCode, "0");
+        loops->addGroup(HatchLoops::loopCode, "0");
     }
 }
 
