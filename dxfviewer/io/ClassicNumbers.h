@@ -25,7 +25,7 @@ private:
     Q_DISABLE_COPY(ClassicNumbers)
 
     std::locale m_hostLocale;
-    // That of C; a host may have set it apart from that of C++.
+    // The locale of C. A host may have set it to another one than the locale of C++.
     std::string m_hostCLocale;
 };
 

@@ -18,8 +18,8 @@ class DXFPolyline;
 /**
  * Converts the records of dxflib and the objects of the model into each other.
  *
- * Strings are UTF-8 on dxflib's side. Each conversion loses what the other side does not keep, and
- * says so. No function accepts a null pointer.
+ * Strings are UTF-8 on dxflib's side. Each conversion drops what the other side cannot hold; its
+ * comment says what. No function accepts a null pointer.
  */
 class DXFVIEWER_EXPORT DXFAdapter
 {

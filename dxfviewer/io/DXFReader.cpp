@@ -88,7 +88,7 @@ QSharedPointer<DXFAttributes> DXFReader::currentAttributes()
     return known.attributes;
 }
 
-/// Where the conversion of a record is kept, until another one needs the place.
+/// The entry of the cache for a record. Records with the same hash share one entry.
 DXFReader::Converted& DXFReader::entryFor(const DL_Attributes& record)
 {
     const auto hash =

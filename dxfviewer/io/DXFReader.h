@@ -131,6 +131,6 @@ private:
 
     DXFDocument& m_document;
     QSharedPointer<DXFEntity> m_currentEntity;
-    // Most entities announce what others have announced before. They share what was made of it.
+    // A cache. Most entities have the same attributes as an earlier one and share its record.
     std::vector<Converted> m_converted;
 };

@@ -67,9 +67,9 @@ bool isContinuous(std::string name)
     return name == "CONTINUOUS";
 }
 
-/// dxflib reads as many dashes as the record says, wherever its pattern points. It has a form of
-/// its own for continuous lines, and asks the locale whether a name is theirs: a Turkish one says
-/// no to small letters. So the record is given that form here.
+/// dxflib reads as many dashes as the record announces, even through a null pattern. It writes
+/// continuous lines in a special form, but recognises their name with the locale's help: in a
+/// Turkish locale small letters do not match. So the record gets that form here.
 DL_LinetypeData writableRecord(const QSharedPointer<DXFLineType>& lineType)
 {
     DL_LinetypeData record = DXFAdapter::makeLineType(lineType);
@@ -137,8 +137,8 @@ bool DXFWriter::write(const QString& fileName)
     const QByteArray localName = fileName.toLocal8Bit();
     m_parser = std::make_unique<DL_Dxf>();
     // Only this makes the parser object write the right version, and it tells whether the file can
-    // be written at all. Its writer is replaced by ours, and goes when ours is open: who reads from
-    // a pipe takes it for the end when nobody writes to it.
+    // be written at all. Our writer replaces its writer, but only when ours is open: the reader of
+    // a pipe that has no writer for a moment would see the end of the file.
     m_writer.reset(m_parser->out(localName.constData(), fileVersion));
     if (!m_writer) {
         logCannotOpen(fileName);

@@ -27,8 +27,8 @@ public:
     explicit DXFWriter(const DXFDocument& document);
     ~DXFWriter();
 
-    /// Writes a file. Always false: success shows in the file, and failure in a message on the
-    /// debug channel.
+    /// Writes a file. Always returns false. A failure is a message on the debug channel; success
+    /// shows only in the file.
     bool save(const QString& fileName);
     /// The text of such a file; empty, after a message, if it could not be written.
     QByteArray save();
@@ -39,7 +39,7 @@ public:
     void writeHeader();
     /// Not part of a saved drawing.
     void writeVPORT_table();
-    /// All line types, after "CONTINUOUS" if the document has none of that name.
+    /// All line types. If the document has none called "CONTINUOUS", that one comes first.
     void writeLineType_table();
     /// Writes nothing.
     void writeTextStyle_table();
@@ -49,7 +49,7 @@ public:
     void writeVIEW_table();
     /// Writes nothing.
     void writeDIMSTYLE_table();
-    /// All layers, after a layer "0" if the document has none.
+    /// All layers. If the document has no layer "0", that one comes first.
     void writeLAYER_table();
     /// Not part of a saved drawing.
     void writeAPPID_table();

@@ -51,8 +51,8 @@ public:
             delete m_kept;
             return;
         }
-        // An allocation that failed leaves the parser with an array that it has freed and would
-        // free again.
+        // A failed allocation leaves the parser with an array that it has freed and would free
+        // again. So the parser is kept and never destroyed.
         m_kept->next = s_abandoned;
         s_abandoned = m_kept;
     }
@@ -75,7 +75,7 @@ private:
 
 Parser::Kept* Parser::s_abandoned = nullptr;
 
-/// Null unless it is a regular file: others may block, or never end.
+/// Null unless it is a regular file: other files may block or never end.
 File openRegularFile(const std::string& name)
 {
     std::error_code error;
@@ -84,7 +84,7 @@ File openRegularFile(const std::string& name)
     return File(std::fopen(name.c_str(), "rb"));
 }
 
-/// Nothing if it cannot be found out.
+/// 0 if it cannot be found out.
 std::uintmax_t sizeOf(const std::string& name)
 {
     std::error_code error;
@@ -98,7 +98,7 @@ class TextBuffer final : public std::streambuf
 public:
     void show(const char* begin, const char* end)
     {
-        // Nothing is ever put back, so nothing is written.
+        // The stream never puts a character back, so it never writes.
         char* const text = const_cast<char*>(begin);
         setg(text, text, text + (end - begin));
     }
@@ -114,7 +114,7 @@ public:
         , m_steps(dynamic_cast<IReadingSteps*>(&receiver))
         , m_stream(&m_buffer)
     {
-        // A new parser is made ready for the first group by the look for one.
+        // A new parser is ready for the first group only after it has looked for one.
         std::istringstream nothing;
         m_parser->in(nothing, &m_receiver);
     }
@@ -179,7 +179,7 @@ std::string contentOf(std::FILE* file, std::uintmax_t expectedSize)
     std::string content;
     std::size_t filled = 0;
     std::size_t added = 0;
-    // One byte more, so that a file of this size needs no more room to find its end.
+    // One byte more: the read that finds the end of the file then needs no more room.
     auto room = static_cast<std::size_t>(expectedSize) + 1;
     do {
         if (filled == content.size()) {
@@ -203,7 +203,7 @@ bool parseContent(std::FILE* file, std::uintmax_t expectedSize, DL_CreationInter
     return std::ferror(file) == 0;
 }
 
-/// Runs a parse with the host's locale out of the way. False if it throws.
+/// Runs a parse without the host's locale. False if it throws.
 template <typename Parse>
 bool guarded(Parse parse)
 {

@@ -10,10 +10,10 @@ class DL_CreationInterface;
 
 /// @file
 /// dxflib's parser, made safe: whatever a text holds and whatever the receiver throws, these
-/// return, with the host's locales as they were and nothing left open.
+/// functions return. They restore the host's locales and close what they have opened.
 ///
 /// The receiver's processCodeValuePair() is called with every group before dxflib sees it. A
-/// receiver that is an IReadingSteps as well has its say at each step.
+/// receiver that is an IReadingSteps as well is asked at each of those steps.
 
 namespace dxfviewer
 {
@@ -21,8 +21,8 @@ namespace dxfviewer
 /**
  * Parses a file.
  *
- * The file is read into memory once, whatever happens to it meanwhile. False if the name is not
- * that of a regular file or reading or parsing it fails half-way. The receiver keeps what it has
+ * The file is read into memory once, so it may change during the parse. False if the name does not
+ * belong to a regular file, or if reading or parsing fails half-way. The receiver keeps what it has
  * got by then.
  *
  * @param name  as the system calls take it

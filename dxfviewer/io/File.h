@@ -12,7 +12,7 @@ struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-/// An open file, closed whatever happens; or null.
+/// An open file, which is closed with its owner, or null.
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
 } // namespace dxfviewer

@@ -12,8 +12,8 @@
 #include <string_view>
 
 /// @file
-/// A drawing's text as dxflib sees it: pairs of lines, a code and a value. This is looked at for
-/// every line of every drawing, so it stands here to be inlined.
+/// A drawing's text as dxflib sees it: pairs of lines, a code and a value. This runs for every line
+/// of every drawing, so it is defined here to be inlined.
 
 namespace dxfviewer
 {
@@ -26,7 +26,7 @@ constexpr std::size_t longestLine = 1023;
 inline const char* lineEnd(const char* at, const char* end)
 {
 #if Q_BYTE_ORDER == Q_LITTLE_ENDIAN
-    // Most lines are too short for memchr to get up speed.
+    // Most lines are too short for memchr to pay off.
     constexpr quint64 ones = 0x0101010101010101U;
     constexpr quint64 highBits = 0x8080808080808080U;
     constexpr int bitsPerByte = 8;
@@ -125,8 +125,8 @@ inline bool isBareVersionComment(int code, std::string_view value)
 /**
  * Calls a function with each pair of lines, as long as it returns true.
  *
- * The last value may lack its line feed or be missing. Returns what is left then: a code without
- * line feed, which dxflib never reads.
+ * The last value may lack its line feed or be missing. Returns what was not visited. At the end of
+ * a text that is a code without line feed, which dxflib never reads.
  */
 template <typename Visit>
 std::string_view scanGroups(std::string_view text, Visit visit)

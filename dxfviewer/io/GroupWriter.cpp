@@ -19,7 +19,7 @@ constexpr int shortDecimals = 6;
 constexpr std::size_t longestReal = 1 + 309 + 1 + decimals;
 constexpr std::size_t longestInt = 11;
 
-// Readers that take a line into 1,024 bytes get it whole, with its line end and the zero.
+// A reader with a buffer of 1,024 bytes gets the whole line, with its line end and the zero.
 constexpr std::size_t longestLine = 1022;
 
 constexpr std::size_t flushLength = 1 << 16;
@@ -57,7 +57,7 @@ void GroupWriter::dxfReal(int code, double value) const
 {
     std::array<char, longestReal> text;
     const int precision = version == DL_Codes::AC1009_MIN ? shortDecimals : decimals;
-    // The format has no way to write anything else.
+    // The format cannot hold a number that is not finite.
     const double written = std::isfinite(value) ? value : 0.0;
     const auto result = std::to_chars(text.data(), text.data() + text.size(), written,
                                       std::chars_format::fixed, precision);

@@ -13,11 +13,12 @@ namespace dxfviewer
 {
 
 /**
- * Writes groups to a file in dxflib's own form, without its weak spots.
+ * Writes groups to a file in dxflib's own form, without the faults of its writer.
  *
- * dxflib's writer overruns its buffer at large numbers, lets the locale decide on digits, writes
- * nan as it is, lets a name smuggle groups into the file, flushes after each number, and hides
- * errors. The text here is the same for every number that dxflib can write, and exact beyond.
+ * dxflib's writer overruns its buffer on large numbers, writes digits as the locale has them,
+ * writes nan as it is, writes line ends in a name, so that its rest is read as groups, flushes
+ * after each number, and hides errors. The text here is the same for every number that dxflib can
+ * write, and exact for larger ones.
  */
 class GroupWriter final : public DL_WriterA
 {

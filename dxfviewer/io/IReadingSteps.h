@@ -11,9 +11,9 @@
 /**
  * What a reader can do besides taking dxflib's callbacks.
  *
- * A class that derives from DXFReader and from this as well is asked by load(), in this order: once
- * for the text, for every group whether it takes the group itself, and once at the end. An
- * exception out of any of these ends the read, and load() returns false.
+ * load() asks a class that derives from both DXFReader and this one, in this order: once for the
+ * text, then for every group whether the class takes it, and once at the end. An exception out of
+ * any of these ends the read, and load() returns false.
  */
 class DXFVIEWER_EXPORT IReadingSteps
 {
@@ -23,12 +23,12 @@ public:
     IReadingSteps& operator=(const IReadingSteps&) = delete;
     virtual ~IReadingSteps();
 
-    /// The text to read in place of these bytes, which are all that the file or the array holds;
-    /// nothing if the bytes are the text.
+    /// The text to read in place of these bytes, or nothing if the bytes are the text already. The
+    /// bytes are the whole content of the file or the array.
     virtual std::optional<std::string> textOf(std::string_view bytes) = 0;
 
-    /// Whether dxflib is not to see this group. It is asked for every group of the text, in order,
-    /// just after processCodeValuePair() was called for it.
+    /// True keeps the group away from dxflib. Called for every group of the text, in order, just
+    /// after processCodeValuePair() was called for it.
     virtual bool takesGroup(int code, std::string_view value) = 0;
 
     /// Called after the last group, when the text is no longer in memory. False makes load()

@@ -16,8 +16,8 @@ namespace dxfviewer
 /**
  * A group that announces how many items a record holds, and the items themselves.
  *
- * dxflib allocates what is announced, delivers some items whether they came or not, and keeps both
- * count and items for the next record of the kind that announces nothing.
+ * dxflib allocates memory for the announced count. It delivers some items even if they are missing.
+ * It keeps count and items for the next record of the same kind that announces nothing.
  */
 class AnnouncedCount
 {
@@ -42,13 +42,13 @@ public:
     /// Whether the last announcement replaces one that dxflib has allocated for.
     bool replacesOne() const { return m_replacesOne; }
     int count() const { return m_count; }
-    /// What the record may announce at most, or must if it announces nothing.
+    /// The announced count, lowered to the number of items; that number if nothing is announced.
     int soundCount() const;
     bool isSound() const;
-    /// The same for a record that is not ended, which dxflib never delivers.
+    /// The same for a record without an end: dxflib never delivers it.
     bool isSoundWithoutEnd() const { return !m_announced || isSound(); }
 
-    /// dxflib has read the record with this count.
+    /// Takes note that dxflib has read the record with this count.
     void endRecord(int count) { m_carried = count; }
 
 private:
@@ -64,7 +64,7 @@ private:
 /**
  * The boundary loops of a hatch.
  *
- * dxflib drops those of the hatch before only when the first loop of the next one begins.
+ * dxflib keeps the loops of the previous hatch until the first loop of the next hatch begins.
  */
 class HatchLoops
 {
@@ -101,7 +101,7 @@ public:
     /// The counts of the record.
     AnnouncedCount* begin() const { return m_begin; }
     AnnouncedCount* end() const { return m_end; }
-    /// Null in other records.
+    /// The loops of the record if it is a hatch, else null.
     HatchLoops* hatchLoops() { return m_currentLoops; }
 
 private:
@@ -116,7 +116,7 @@ private:
     HatchLoops* m_currentLoops = nullptr;
 };
 
-// This is done for every group of every drawing, so it stands here to be inlined.
+// This runs for every group of every drawing, so it is defined here to be inlined.
 inline AnnouncedCount* RecordCounts::addGroup(int code, std::string_view value)
 {
     AnnouncedCount* announced = nullptr;

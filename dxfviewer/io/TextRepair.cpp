@@ -16,14 +16,14 @@ using dxfviewer::AnnouncedCount;
 using dxfviewer::HatchLoops;
 using dxfviewer::RecordCounts;
 
-/// A group that makes dxflib drop the loops of the hatch before, and begins none.
+/// A group that makes dxflib drop the loops of the previous hatch and begins none itself.
 constexpr std::string_view noLoops = "92\n0\n";
-// A spline's.
+// A spline has the most.
 constexpr std::size_t mostCounts = 3;
 // Room for what the repair usually adds.
 constexpr std::size_t spareShare = 8;
 
-/// What there is of a line for dxflib.
+/// The part of a line that dxflib can read.
 std::string_view readablePart(std::string_view line)
 {
     const std::string_view text = line.substr(0, line.find('\0'));
@@ -53,7 +53,7 @@ private:
 
     std::string m_text;
     RecordCounts m_counts;
-    /// Those of the current record, in the order of its counts.
+    /// Where the counts of the current record stand, in their order.
     std::array<Place, mostCounts> m_places;
     /// Where the groups of the current record begin, after its name.
     std::size_t m_recordStart = 0;

@@ -18,7 +18,7 @@ std::string encoded(const QString& text);
 /**
  * How much of a text to keep so that it is at most as long as said.
  *
- * The cut is not made inside a UTF-8 sequence. Where the text is not UTF-8 it is made anywhere.
+ * The cut is never inside a UTF-8 sequence. In a text that is not UTF-8 it may be anywhere.
  */
 std::size_t utf8Prefix(std::string_view text, std::size_t longest);
 

@@ -10,8 +10,8 @@
  * The attributes that a DXF file gives every entity and every layer.
  *
  * A record never changes once it is made, so entities and layers share it through
- * QSharedPointer. The values stand as the file has them; what they mean on the screen is
- * DXFPaintHelper's business.
+ * QSharedPointer. The values are those of the file. DXFPaintHelper decides what they mean on the
+ * screen.
  */
 class DXFVIEWER_EXPORT DXFAttributes
 {

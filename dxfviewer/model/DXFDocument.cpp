@@ -74,7 +74,7 @@ void DXFDocument::setSelected(QVector<int> ids)
     forEachEntity(m_entities, [&set](const QSharedPointer<DXFEntity>& entity) {
         if (!entity)
             return;
-        // Written only where it changes: memory that is only read stays cheap to walk through.
+        // Written only where it changes: a walk that only reads memory is cheaper.
         const bool isSelected = set.contains(entity->id());
         if (isSelected != entity->isSelected())
             entity->setSelected(isSelected);
@@ -122,7 +122,7 @@ void DXFDocument::setup()
         return;
 
     DXFPaintHelper paintHelper(*this);
-    // A copy: who hears of a colour that is not supported may change the document.
+    // A copy: a message handler that gets the warning about a colour may change the document.
     const auto entities = m_entities;
     for (const auto& entity : entities) {
         if (!entity)

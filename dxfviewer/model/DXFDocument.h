@@ -22,7 +22,7 @@ class DeleteItems;
  * It is always held through a QSharedPointer: the graphics item, the eraser and every done delete
  * command share it. The lists that it returns are copies that point at the same objects; copying
  * them is cheap. Layers and line types are found by the name that they had when they were added.
- * A null entity is allowed and passed over by every walk. GUI thread only.
+ * A null entity is allowed; every walk skips it. GUI thread only.
  */
 class DXFVIEWER_EXPORT DXFDocument
 {
@@ -55,15 +55,15 @@ public:
     /**
      * Adds an entity at the end, whether it is listed already or not. Always true.
      *
-     * The entity is not set up: after the document's setup() that is the caller's business.
+     * The entity is not set up. After the document's setup() the caller must do that.
      */
     bool addEntity(QSharedPointer<DXFEntity> entity);
-    /// Removes every entry of this very object. Always true, also if there was none.
+    /// Removes every entry of this object. Always true, even if there was none.
     bool deleteEntity(QSharedPointer<DXFEntity> entity);
 
     /// Selects the entities and segments whose ids are listed and deselects all others.
     void setSelected(QVector<int> ids);
-    /// Hovers the entities and segments whose ids are listed and no others.
+    /// Marks the entities and segments whose ids are listed as hovered, and no others.
     void setHovered(QVector<int> ids);
     /// The ids of the selected polylines and segments: entity by entity, each before its segments.
     QVector<int> selectedIDs() const;
@@ -78,14 +78,15 @@ public:
 private:
     Q_DISABLE_COPY(DXFDocument)
 
-    // A delete command changes the list of entities at once: one by one would take quadratic time.
+    // A delete command changes the whole list of entities in one step. One entity at a time would
+    // take quadratic time.
     friend class DeleteItems;
 
     QList<QSharedPointer<DXFLayer>> m_layers;
     QList<QSharedPointer<DXFLineType>> m_lineTypes;
     QList<QSharedPointer<DXFEntity>> m_entities;
     bool m_needsSetup = true;
-    // The lists again, by the names of the time of adding.
+    // The same objects by the name that each had when it was added.
     QHash<QString, QSharedPointer<DXFLayer>> m_layersByName;
     QHash<QString, QSharedPointer<DXFLineType>> m_lineTypesByName;
 };

@@ -16,9 +16,10 @@ class DXFAttributes;
  *
  * A subclass
  * - returns its kind from type(): 0 is a polyline, the only kind that the library itself knows,
- *   -1 stands for an unknown kind; painting, erasing, selectedIDs() and writing pass by whatever is
+ *   -1 stands for an unknown kind; painting, erasing, selectedIDs() and writing skip whatever is
  *   not 0;
- * - rebuilds what it derives from its data in setup(), and does nothing there when that is done;
+ * - rebuilds in setup() what it derives from its data, and does nothing there if that is done
+ *   already;
  * - returns a new object from clone() that the caller owns and that has an id of its own.
  */
 class DXFVIEWER_EXPORT DXFEntity : public IDeletable
@@ -43,7 +44,7 @@ public:
     int lineWidth() const { return m_lineWidth; }
     void setLineWidth(int lineWidth) { m_lineWidth = lineWidth; }
 
-    /// What the file says about the entity; may be null, and others may share it.
+    /// What the file says about the entity. May be null; other entities may share it.
     QSharedPointer<DXFAttributes> attributes() const { return m_attributes; }
     void setAttributes(QSharedPointer<DXFAttributes> attributes);
 

@@ -29,7 +29,7 @@ public:
     bool isFrozen() const { return m_flags.testFlag(Frozen); }
     bool isLocked() const { return m_flags.testFlag(Locked); }
 
-    /// Always invalid: a layer has no colour of its own. DXFPaintHelper resolves the one of its
+    /// Always invalid: a layer has no colour of its own. DXFPaintHelper resolves the colour in its
     /// attributes.
     QColor getColor() const;
 

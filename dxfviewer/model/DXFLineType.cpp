@@ -5,8 +5,8 @@
 namespace
 {
 
-/// Base 16 with a minus sign. QString::number(int, 16) does that from Qt 6 on only; before, it
-/// prints the two's complement.
+/// Base 16 with a minus sign. QString::number(int, 16) does that only in Qt 6; in Qt 5 it prints
+/// the two's complement.
 QString signedHex(int value)
 {
     const auto magnitude = static_cast<qulonglong>(qAbs(static_cast<qint64>(value)));

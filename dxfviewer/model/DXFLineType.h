@@ -10,7 +10,7 @@
  * A record of the LTYPE table: a name, a description and a dash pattern.
  *
  * The pattern belongs to whoever made the line type and must outlive it: it is neither copied nor
- * freed here. Line types that were read from a drawing have none, only the number of its dashes.
+ * freed here. Line types that were read from a drawing have no pattern, only the number of dashes.
  */
 class DXFVIEWER_EXPORT DXFLineType
 {

@@ -19,11 +19,11 @@ namespace
 
 constexpr unsigned int closedBit = 1;
 
-// Room for most polylines, so that reading them does not move vertices about. What is too much is
-// given back at the end.
+// Room for most polylines, so that reading seldom has to move vertices. What is not used is freed
+// at the end.
 constexpr int firstVertices = 12;
 
-// Far enough below the greatest float that no rounding leads beyond it.
+// So far below the greatest float that rounding cannot lead beyond it.
 constexpr double largestBound = 1e38;
 
 QPointF pointOf(const DXFVertex& vertex)
@@ -36,7 +36,7 @@ DXFVertex vertexAt(const QPointF& point)
     return DXFVertex(point.x(), point.y(), 0.0, true, 0.0);
 }
 
-/// Fuzzy in the way of QPointF's comparison, which differs by what is compared with zero.
+/// Compares as QPointF does: by another rule if one of the values is zero.
 bool coincide(double a, double b)
 {
     return a == 0.0 || b == 0.0 ? qFuzzyIsNull(a - b) : qFuzzyCompare(a, b);
@@ -47,19 +47,19 @@ bool coincide(const QPointF& a, const QPointF& b)
     return coincide(a.x(), b.x()) && coincide(a.y(), b.y());
 }
 
-/// Tells zeros of different sign apart: both are written to a file as they are.
+/// Tells 0 from -0: a file keeps the sign of a zero.
 bool isPositiveZero(double value)
 {
     return value == 0.0 && !std::signbit(value);
 }
 
-/// Whether there is no more to a vertex than its point.
+/// Whether a vertex has neither height nor bulge.
 bool isPlain(const DXFVertex& vertex)
 {
     return isPositiveZero(vertex.z()) && isPositiveZero(vertex.bulge());
 }
 
-/// More than what rounding to a float adds or takes away.
+/// More than rounding to a float can add or take away.
 double floatSlack(double value)
 {
     constexpr double relative = std::numeric_limits<float>::epsilon();
@@ -87,7 +87,7 @@ public:
         right = std::max(right, point.x());
         top = std::min(top, point.y());
         bottom = std::max(bottom, point.y());
-        // Comparisons pass over NaN. This sum is 0 until a coordinate is not finite.
+        // Comparisons do not notice NaN. This sum stays 0 as long as all coordinates are finite.
         m_poison += (point.x() + point.y()) * 0.0;
     }
 
@@ -115,9 +115,9 @@ void appendSegment(QVector<Segment>& segments, const QPointF& from, const QPoint
 using FlagGetter = bool (IDeletable::*)() const;
 using FlagSetter = void (IDeletable::*)(bool);
 
-/// Sets a flag of every segment to whether its id is in the set, and returns whether any has it
-/// then. A list in which nothing changes stays shared with whoever else holds it: most polylines
-/// are far from the eraser.
+/// Sets a flag of the segments whose ids are in the set and clears it in all others. Returns
+/// whether any segment has the flag now. A list in which nothing changes stays shared: most
+/// polylines are far from the eraser.
 template <FlagGetter isSet, FlagSetter set>
 bool flagSegments(QVector<Segment>& segments, const IdSet& ids)
 {
@@ -185,8 +185,8 @@ void DXFPolyline::Geometry::keepVertices() const
         vertices = derivedVertices();
 }
 
-/// Leaves as much room as the segments will take. The set-up drops vertices polyline by polyline,
-/// and the segments of the next one then find room where the vertices were.
+/// Leaves as much room as the segments will take. The set-up frees vertices polyline by polyline,
+/// so the segments of the next one find room where the vertices were.
 void DXFPolyline::Geometry::trimVertices()
 {
     constexpr int vertexSize = sizeof(DXFVertex);
@@ -208,7 +208,7 @@ void DXFPolyline::Geometry::setClosed(bool closed)
     flags = closed ? flags | closedBit : flags & ~closedBit;
 }
 
-/// Looks at all segments and notes what is to be known of them.
+/// Computes the summary of all segments.
 void DXFPolyline::Geometry::summarize()
 {
     Extent extent;
@@ -349,8 +349,8 @@ void DXFPolyline::appendPoint(const DXFVertex& vertex)
 }
 
 /// Whether setSegments() was called with this very list before and nothing has changed since.
-/// Every polyline of a drawing is given its own segments again whenever anything is erased, so
-/// this must not look at where they lie in memory.
+/// Every polyline of a drawing is given its own segments again whenever anything is erased, so this
+/// must not read the memory in which they lie.
 bool DXFPolyline::isMadeOf(const QVector<Segment>& segments) const
 {
     return m_geometry.derived == Derived::AllPoints && m_geometry.needsSetup
@@ -412,8 +412,8 @@ void DXFPolyline::setHoveredSegments(QVector<int> ids)
     PolylineAccess::hoverSegments(*this, IdSet(ids));
 }
 
-/// Gives ids to the segments that have none, in a list of the polyline's own: whoever else holds
-/// the list would get the same ids.
+/// Gives ids to the segments that have none. The loop detaches a shared list first: otherwise its
+/// other holders would get the same ids.
 void DXFPolyline::assignIds()
 {
     for (const Segment& segment : m_geometry.segments)

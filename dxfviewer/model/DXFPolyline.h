@@ -41,8 +41,8 @@ public:
     /**
      * Makes the segments from the vertices, with new ids, unless that is done already.
      *
-     * A closed polyline of three or more vertices gets one segment more, at the end. It runs from
-     * the first vertex to the last, against the direction of travel. That is meant.
+     * A closed polyline of three or more vertices gets one more segment, at the end. It runs from
+     * the first vertex to the last, against the direction of the others. This is intended.
      */
     void setup() override;
 
@@ -58,8 +58,8 @@ public:
     unsigned int flags() const { return m_geometry.flags; }
     bool isClosed() const;
 
-    /// Adds a vertex at the end. The segments follow only while a setup() is due: before the first
-    /// one, and after setSegments().
+    /// Adds a vertex at the end. Its segment is made only by a setup() that still has work to do:
+    /// the first one, or the first one after setSegments().
     void appendPoint(const DXFVertex& vertex);
 
     /// The segments as they are now; empty before the first setup(). Copying them is cheap.
@@ -68,24 +68,24 @@ public:
     /**
      * Gives the polyline the geometry of a chain of segments.
      *
-     * The vertices become the first start point and all end points, without bulges; the start
-     * points after the first are not read, so a gap is bridged. The polyline is closed exactly if
-     * the first start point and the last end point coincide. The given segments keep their ids and
-     * flags until the next setup(). An empty chain clears the segments and leaves vertices and
-     * flags, from which the next setup() makes the old segments again.
+     * The vertices become the first start point and all end points, without bulges. Later start
+     * points are not read, so a gap between two segments is bridged. The polyline becomes closed if
+     * the first start point and the last end point coincide, and open otherwise. The given segments
+     * keep their ids and flags until the next setup(). An empty chain clears the segments but keeps
+     * vertices and flags: the next setup() makes the old segments from them again.
      */
     void setSegments(const QVector<Segment>& segments);
 
     /// Selects the segments whose ids are listed and deselects all others.
     void setSelectedSegments(QVector<int> ids);
-    /// Hovers the segments whose ids are listed and no others.
+    /// Marks the segments whose ids are listed as hovered, and no others.
     void setHoveredSegments(QVector<int> ids);
 
 private:
     friend class dxfviewer::PolylineAccess;
 
-    /// A rectangle around all segments, a little too large. If a coordinate is no finite number,
-    /// the bounds are NaN, for which no comparison holds.
+    /// A rectangle around all segments, a little too large. If a coordinate is not a finite number,
+    /// the bounds are NaN, for which neither < nor > ever holds.
     struct Bounds {
         float left;
         float top;
@@ -93,10 +93,10 @@ private:
         float bottom;
     };
 
-    /// The vertices that follow from the segments, so that they need not be kept.
+    /// Which vertices can be computed from the segments, and so need not be stored.
     enum class Derived : quint8 { None, AllPoints, AllButTheLastPoint };
 
-    /// What a clone has in common with its original, apart from what every entity has.
+    /// What a clone shares with its original, besides the data that every entity has.
     struct Geometry {
         Geometry(unsigned int mVertices, unsigned int nVertices, unsigned int flags);
 
@@ -110,9 +110,9 @@ private:
 
         bool needsSetup = true;
         Derived derived = Derived::None;
-        // What walks over all polylines ask first, so that few lists have to be opened. An
-        // unassigned id is less than all others. The range of ids and the bounds may be wider
-        // than need be.
+        // A summary of the segments. Walks over all polylines read it first, so that they open few
+        // lists. An unassigned id is smaller than all others. The range of ids and the bounds may
+        // be wider than the segments need.
         bool isAnySelected;
         bool isAnyHovered;
         int leastId;
@@ -122,7 +122,7 @@ private:
         unsigned int nVertices;
         unsigned int flags;
         QVector<Segment> segments;
-        // Empty while they are derived and nobody has asked for them.
+        // Empty while they can be computed from the segments and nobody has asked for them.
         mutable QVector<DXFVertex> vertices;
     };
 
@@ -134,12 +134,13 @@ private:
     void hoverSegments(const dxfviewer::IdSet& ids);
 
     Geometry m_geometry;
-    // A second pair that nothing reads: what is painted are the values of DXFEntity. It is part of
-    // what a polyline is made of and stays for that reason alone.
+    // Nothing reads these two: painting uses the values of DXFEntity. They belong to the fixed
+    // members of a polyline and stay only for that reason.
     QColor m_ownColor;
     int m_ownLineWidth = 0;
-    // Whoever called vertices() has a reference to them, which has to stay good.
+    // A caller of vertices() has a reference to them, which must stay valid.
     mutable bool m_areVerticesKnown = false;
-    // What delete commands keep of the polyline. It belongs to them, and clears this when it goes.
+    // The state that delete commands keep of the polyline. They own it. When it is destroyed, it
+    // sets this pointer to null.
     dxfviewer::PolylineState* m_state = nullptr;
 };

@@ -27,16 +27,16 @@ public:
     double y() const { return m_y; }
     /// Group 30.
     double z() const { return m_z; }
-    /// Tangent of a quarter of the angle of the arc to the next vertex (group 42). It is carried
-    /// from file to file; segments are straight whatever it says.
+    /// Tangent of a quarter of the angle of the arc to the next vertex (group 42). It is read and
+    /// written, but segments are always straight.
     double bulge() const { return m_bulge; }
 
 private:
     double m_x = 0.0;
     double m_y = 0.0;
     double m_z = 0.0;
-    // Set by every creator and read by none. It is part of a vertex in memory and stays for that
-    // reason alone.
+    // Every creator sets it, and nobody reads it. It belongs to the fixed members of a vertex and
+    // stays only for that reason.
     [[maybe_unused]] bool m_flag = true;
     double m_bulge = 0.0;
 };

@@ -10,10 +10,10 @@
 namespace dxfviewer
 {
 
-/// Asks for memory that will be read soon.
+/// Asks the processor to fetch memory that will be read soon.
 inline void prefetch(const void* address)
 {
-    // There are null entities.
+    // Entities may be null.
     if (!address)
         return;
 #ifdef __GNUC__
@@ -27,9 +27,9 @@ inline void prefetch(const void* address)
 /**
  * Visits all entries of a list of entities, null ones included, in order.
  *
- * Entities lie all over the memory. In a large drawing a walk would wait for each of them in turn,
- * so it asks for those that come next beforehand. Before an entity is visited, approach() is called
- * with it while others are still to be visited.
+ * Entities lie scattered in memory. In a large drawing a walk would wait for each of them, so it
+ * asks for the next ones ahead of time. approach() is called with an entity eight visits before the
+ * entity is visited. It is not called for the first eight.
  */
 template <typename Visit, typename Approach>
 void forEachEntity(const QList<QSharedPointer<DXFEntity>>& entities, Visit visit, Approach approach)

@@ -14,7 +14,8 @@ int IDeletable::assignId() const
 {
     static qint32 cnt = 0;
 
-    // Two thousand million ids later the counter starts again: overflowing it is not an option.
+    // After two thousand million ids the counter starts again: a signed overflow would be
+    // undefined.
     cnt = cnt == std::numeric_limits<qint32>::max() ? 1 : cnt + 1;
     m_id = cnt;
     return m_id;

@@ -32,7 +32,7 @@ IdSet::IdSet(const QVector<int>& ids)
     m_first = static_cast<unsigned>(*least);
     m_last = static_cast<unsigned>(*greatest) - m_first;
 
-    // That of all ints would not fit into 32 bits.
+    // The span of all ints does not fit into 32 bits.
     const quint64 span = quint64(m_last) + 1;
     if (span <= std::max(freeSpan, spanPerId * static_cast<quint64>(ids.size()))) {
         m_words.resize(static_cast<size_t>((span - 1) / wordBits + 1));

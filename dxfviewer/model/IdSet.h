@@ -10,10 +10,10 @@ namespace dxfviewer
 {
 
 /**
- * A list of ids made ready for being asked about every segment of a drawing.
+ * A list of ids, prepared for one look-up per segment of a drawing.
  *
- * An id outside the span of the list costs one comparison. Inside, a bit per id answers while the
- * span is bearable, and a binary search when the ids are few and far between.
+ * An id outside the span of the list costs one comparison. Inside the span there is one bit per id.
+ * If the span is too wide for the number of ids, a binary search replaces the bits.
  */
 class IdSet
 {
@@ -29,8 +29,8 @@ public:
                                : (m_words[offset / wordBits] & bitOf(offset)) != 0;
     }
 
-    /// Whether an id from least to greatest may be in the list. False is certain; true is not where
-    /// the range is so wide that one had better look at the ids in it.
+    /// Whether an id from least to greatest may be in the list. False is certain. True is not
+    /// certain if the range is wide: then the caller has to look at the ids in it.
     bool mayContainAny(int least, int greatest) const
     {
         const qint64 first = qMax<qint64>(qint64(least) - m_leastId, 0);
@@ -47,7 +47,7 @@ private:
     bool isListed(unsigned offset) const;
     bool isAnyListed(unsigned first, unsigned last) const;
 
-    // The ids are kept as offsets from the smallest one. Of no ids at all, none is listed.
+    // The ids are stored as offsets from the smallest one. An empty list has no smallest id.
     bool m_isEmpty = true;
     int m_leastId = 0;
     unsigned m_first = 0;

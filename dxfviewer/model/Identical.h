@@ -7,7 +7,7 @@
 namespace dxfviewer
 {
 
-/// Tells zeros of different sign apart: both are written to a file as they are.
+/// Unlike ==, this tells 0 from -0: a file keeps the sign of a zero.
 inline bool identical(double a, double b)
 {
     return a == b && std::signbit(a) == std::signbit(b);

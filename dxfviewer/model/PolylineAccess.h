@@ -12,7 +12,7 @@ namespace dxfviewer
  * What the library may do with a polyline that hosts may not.
  *
  * Most of it is for walks over all polylines of a drawing. They look at what the polyline itself
- * holds, and open its list of segments, which lies elsewhere in memory, only where they have to.
+ * holds. Its list of segments lies elsewhere in memory, and they open it only where they have to.
  */
 class PolylineAccess
 {
@@ -23,8 +23,8 @@ public:
 
     PolylineAccess() = delete;
 
-    /// The segments themselves: even a shared copy of a list counts it, in memory that a walk
-    /// would otherwise only read.
+    /// The list itself, not a copy: a copy would change a reference count in memory that a walk
+    /// otherwise only reads.
     static const QVector<Segment>& segments(const DXFPolyline& polyline)
     {
         return polyline.m_geometry.segments;
@@ -32,17 +32,18 @@ public:
 
     static const Bounds& bounds(const DXFPolyline& polyline) { return polyline.m_geometry.bounds; }
 
-    /// The vertices, which are made for the caller if the polyline does not keep them.
+    /// The vertices. If the polyline does not store them, they are computed for the caller.
     static QVector<DXFVertex> vertices(const DXFPolyline& polyline);
 
-    /// For who knows all vertices beforehand: adding them one by one takes room for more.
+    /// For callers that know all vertices beforehand: adding them one by one reserves room for
+    /// more.
     static void setVertices(DXFPolyline& polyline, const QVector<DXFVertex>& vertices)
     {
         polyline.m_geometry.derived = Derived::None;
         polyline.m_geometry.vertices = vertices;
     }
 
-    /// Gives back most of the room that was made for further vertices.
+    /// Frees most of the room that was reserved for further vertices.
     static void trim(DXFPolyline& polyline) { polyline.m_geometry.trimVertices(); }
 
     static bool isAnySegmentSelected(const DXFPolyline& polyline)
@@ -50,7 +51,7 @@ public:
         return polyline.m_geometry.isAnySelected;
     }
 
-    /// Like DXFPolyline::setSelectedSegments(), with a list that serves for all polylines.
+    /// Like DXFPolyline::setSelectedSegments(), with a prepared list that serves all polylines.
     static void selectSegments(DXFPolyline& polyline, const IdSet& ids)
     {
         if (!hasAllIds(polyline))
@@ -59,7 +60,7 @@ public:
             polyline.selectSegments(ids);
     }
 
-    /// Like DXFPolyline::setHoveredSegments(), with a list that serves for all polylines.
+    /// Like DXFPolyline::setHoveredSegments(), with a prepared list that serves all polylines.
     static void hoverSegments(DXFPolyline& polyline, const IdSet& ids)
     {
         if (!hasAllIds(polyline))
@@ -68,7 +69,7 @@ public:
             polyline.hoverSegments(ids);
     }
 
-    /// Whether setSegments() with the segments that the polyline has would do nothing.
+    /// Whether setSegments() with the polyline's own segments would change nothing.
     static bool isMadeOfItsSegments(const DXFPolyline& polyline)
     {
         return polyline.m_geometry.derived == Derived::AllPoints && polyline.m_geometry.needsSetup;
@@ -79,7 +80,7 @@ public:
         return polyline.m_geometry.leastId <= polyline.m_geometry.greatestId;
     }
 
-    /// Whether the ids of some segments may be in the set. If not, they are certainly not.
+    /// Whether the ids of some segments may be in the set. False is certain.
     static bool mayHaveAny(const DXFPolyline& polyline, const IdSet& ids)
     {
         return !hasAllIds(polyline)
@@ -93,21 +94,22 @@ public:
         polyline.takeSegmentIdsFrom(segments);
     }
 
-    /// The id of an object, less than all ids if it has none yet.
+    /// The id of an object. If it has none yet, the result is smaller than every id.
     static int assignedId(const IDeletable& object) { return object.m_id; }
     static void setId(IDeletable& object, int id) { object.m_id = id; }
 
-    /// What a clone shares with the polyline; vertices may be left out of it.
+    /// What a clone shares with the polyline. It may lack vertices that follow from the segments.
     static const Geometry& geometry(const DXFPolyline& polyline) { return polyline.m_geometry; }
     static Geometry& geometry(DXFPolyline& polyline) { return polyline.m_geometry; }
 
-    /// The attributes themselves: a copy counts them, which takes longer than a look at them.
+    /// The pointer itself: a copy would change its reference count, which takes longer than
+    /// reading.
     static const QSharedPointer<DXFAttributes>& attributes(const DXFPolyline& polyline)
     {
         return polyline.m_attributes;
     }
 
-    /// What delete commands keep of the polyline; null if there is nothing.
+    /// The state that delete commands keep of the polyline, or null.
     static PolylineState* state(const DXFPolyline& polyline) { return polyline.m_state; }
     static void setState(DXFPolyline& polyline, PolylineState* state) { polyline.m_state = state; }
 

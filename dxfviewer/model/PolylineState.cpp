@@ -37,7 +37,7 @@ PolylineState::Match PolylineState::match(const DXFPolyline& polyline) const
 {
     using Derived = PolylineAccess::Derived;
     const auto& now = PolylineAccess::geometry(polyline);
-    // A list that is still shared has not changed: who changes one gets a list of his own.
+    // A list that is still shared has not changed: a change would have made a copy.
     if (!now.segments.isSharedWith(m_geometry.segments) || polyline.isSelected() != m_isSelected
         || polyline.isHovered() != m_isHovered || polyline.lineWidth() != m_lineWidth
         || polyline.color() != m_color || PolylineAccess::attributes(polyline) != m_attributes)
@@ -53,7 +53,7 @@ PolylineState::Match PolylineState::match(const DXFPolyline& polyline) const
     return Match::Different;
 }
 
-/// They stay, if they are kept at all, if they were those of the segments already.
+/// Stored vertices stay if they followed from the segments already; others are dropped.
 QVector<DXFVertex> PolylineState::verticesGivenAgain() const
 {
     return m_geometry.derived == PolylineAccess::Derived::AllPoints ? m_geometry.vertices

@@ -13,11 +13,11 @@ namespace dxfviewer
 {
 
 /**
- * What a polyline was at some moment, apart from its id: enough to make its clone later.
+ * The state of a polyline at one moment, without its id: enough to make a clone later.
  *
- * It belongs to the snapshots that hold it. The polyline only knows it, so that the next snapshot
- * can find and share it if the polyline is still the same. Only for objects of the very class
- * DXFPolyline: what a subclass has besides is unknown here.
+ * The snapshots that hold it own it. The polyline only points at it, so that the next snapshot can
+ * find and share it if the polyline has not changed. Only for objects of exactly the class
+ * DXFPolyline: what a subclass adds is unknown here.
  */
 class PolylineState : public QSharedData
 {
@@ -37,13 +37,14 @@ public:
 
     Match match(const DXFPolyline& polyline) const;
 
-    /// Takes note of what has become of the polyline, so that match() can tell.
+    /// Remembers the flags that the polyline has got from setSegments(), so that match() knows
+    /// them.
     void noteSegmentsGivenAgain(const DXFPolyline& polyline);
 
-    /// A polyline of this state and, if so said, with its segments given again.
+    /// A new polyline in this state and, if asked for, with its segments given again.
     QSharedPointer<DXFPolyline> clone(int id, bool areSegmentsGivenAgain);
 
-    /// The polyline is about to go.
+    /// Called when the polyline is destroyed or another state takes its place.
     void forgetPolyline() { m_polyline = nullptr; }
 
 private:
@@ -52,7 +53,7 @@ private:
     void attachTo(DXFPolyline& polyline);
     QVector<DXFVertex> verticesGivenAgain() const;
 
-    // Until they are noted, flags that no polyline of this state can have.
+    // Until noteSegmentsGivenAgain() sets them, flags that no polyline in this state can have.
     unsigned int m_flagsGivenAgain;
     QColor m_color;
     int m_lineWidth;

@@ -3,7 +3,7 @@
 #pragma once
 
 /// @file
-/// Values of attributes that are no colour and no width themselves.
+/// Values of attributes that stand for something other than a colour or a width.
 
 namespace dxfviewer
 {
