@@ -34,7 +34,7 @@ DXFEditor::DXFEditor(DXFGraphicsItem& item)
     , m_itemLife(item.lifeToken())
     , m_stack(nullptr)
 {
-    // Added later than the item and at the same z value, the overlay lies on top of it.
+    // The overlay is added later than the item and has the same z value, so it lies on top.
     if (m_item.scene())
         m_item.scene()->addItem(this);
     setAcceptHoverEvents(true);
@@ -54,15 +54,15 @@ DXFEditor::~DXFEditor()
     m_isEnding = true;
     releaseItem();
     cleanupTool();
-    // Clearing the stack moves its index, and a group that holds it says that it goes. A slot that
-    // hears of this must not find an overlay that is half destroyed.
+    // Clearing the stack changes its index, and its group sends a signal when the stack is
+    // destroyed. A slot of these signals must not find an overlay that is half destroyed.
     leaveScene();
     m_stack.blockSignals(true);
 }
 
 void DXFEditor::end()
 {
-    // Whoever hears of the end may ask for it again.
+    // A slot that runs during the end may call this again.
     if (m_isEnding)
         return;
     if (m_stackMoves == 0) {
@@ -74,7 +74,7 @@ void DXFEditor::end()
     releaseItem();
     cleanupTool();
     leaveScene();
-    // The history is over, whoever holds the stack.
+    // The history is over, even if somebody still holds the stack.
     m_stack.setActive(false);
     const QSignalBlocker blocker(&m_stack);
     m_stack.clear();
@@ -89,7 +89,7 @@ void DXFEditor::releaseItem()
     m_item.setEnabled(false);
 }
 
-/// Takes the overlay out of sight, and the actions that were made for its stack.
+/// Takes the overlay out of its scene, and destroys the actions that were made for its stack.
 void DXFEditor::leaveScene()
 {
     qDeleteAll(findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly));
@@ -97,8 +97,9 @@ void DXFEditor::leaveScene()
         scene()->removeItem(this);
 }
 
-/// Counts a move until the last signal that it is sure to send, and there until all other slots of
-/// that one have run: the stack goes on using itself when they return.
+/// Counts a move as running until the last signal that it always sends, and until all other slots
+/// of that signal have run: the stack still uses its members when they return. A new connection
+/// runs last.
 void DXFEditor::noteMove()
 {
     if (m_stackMoves++ > 0)
@@ -109,7 +110,7 @@ void DXFEditor::noteMove()
 
 void DXFEditor::forgetMove()
 {
-    // A macro of the host's sends this signal without a move.
+    // A macro of the host sends this signal without a move.
     if (m_stackMoves == 0 || --m_stackMoves > 0 || !m_endsAfterMoves)
         return;
     QMetaObject::invokeMethod(this, &DXFEditor::deleteAfterMoves, Qt::QueuedConnection);
@@ -131,8 +132,9 @@ QRectF DXFEditor::boundingRect() const
     return grown(sceneRect());
 }
 
-/// The rectangle of the item's scene. A scene without one of its own asks its items for theirs,
-/// this one among them, and grows to hold them: there it is that of the item.
+/// The rectangle of the item's scene. A scene without a rectangle of its own asks its items for
+/// theirs, this overlay among them, and grows to hold them. In such a scene the result is the
+/// item's rectangle.
 QRectF DXFEditor::sceneRect() const
 {
     const QRectF itemRect = itemIsAlive() ? m_item.sceneBoundingRect() : QRectF();
@@ -151,8 +153,8 @@ QRectF DXFEditor::sceneRect() const
 void DXFEditor::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
                       QWidget* /*widget*/)
 {
-    // A tint that shows where the overlay lies. ItemHasNoContents switches it off: it is meant to
-    // be there for whoever removes the flag, and not to be seen.
+    // A tint that shows where the overlay lies. ItemHasNoContents switches it off. This is
+    // intended: the tint is seen only if somebody removes the flag.
     const QRectF rect = boundingRect();
     painter->setBrush(QBrush(QColor(0, 255, 0, 40), Qt::SolidPattern));
     painter->drawRects(&rect, 1);
@@ -160,7 +162,7 @@ void DXFEditor::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*optio
 
 bool DXFEditor::sceneEvent(QEvent* event)
 {
-    // Handling the event may end edit mode, and this overlay with it.
+    // Handling the event may end edit mode and destroy this overlay.
     const QPointer<DXFEditor> self(this);
     if (!m_isEnding && m_tool)
         m_tool->handle(*event);

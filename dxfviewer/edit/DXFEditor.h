@@ -18,18 +18,18 @@ class DXFGraphicsItem;
  * Edit mode: an overlay that hands the events of a scene to the eraser and turns its requests into
  * undoable commands.
  *
- * It lies over the item in the item's scene, which it joins at once and which owns it from then on
- * as any scene owns its items. It reaches far beyond the drawing, so that strokes may begin
- * outside. Destroying it ends edit mode: the edits stay in the document, the undo history goes, and
- * the item stays disabled, in which state it still takes the presses of the left button.
+ * The constructor adds it to the item's scene, over the item. The scene owns it from then on, as it
+ * owns all its items. It reaches far beyond the drawing, so that strokes may begin outside.
+ * Destroying it ends edit mode: the edits stay in the document, the undo history is lost, and the
+ * item stays disabled. A disabled item still takes the presses of the left button.
  */
 class DXFVIEWER_EXPORT DXFEditor : public QGraphicsObject
 {
     Q_OBJECT
 
 public:
-    /// The item must be in a scene. When it is destroyed before the editor, the editor stays
-    /// without anything to do.
+    /// The item must be in a scene. If it is destroyed before the editor, the editor stays but does
+    /// nothing.
     explicit DXFEditor(DXFGraphicsItem& item);
     ~DXFEditor() override;
 
@@ -37,15 +37,16 @@ public:
     /// the editor.
     QUndoStack* stack();
 
-    /// Ends edit mode and destroys the editor. A slot of the stack's signals may bring this about,
-    /// and the stack is then in the middle of a move: the overlay leaves its scene at once, and the
-    /// stack its group, without any command, but both live until events are handled after the
-    /// move. Not safe there: to destroy the editor directly, and to end it from a slot that was
-    /// connected to redoTextChanged() during the same move.
+    /// Ends edit mode and destroys the editor. A slot of the stack's signals may call this while
+    /// the stack is in the middle of a move. Then the overlay leaves its scene at once, and the
+    /// stack loses its commands and is no longer active in its group, but both live until events
+    /// are handled after the move. Two things are not safe in such a slot: to destroy the editor
+    /// directly, and to end it from a slot that was connected to redoTextChanged() during the same
+    /// move.
     void end();
 
-    /// The scene's rectangle grown by 50000 drawing units on every side. In a scene that has no
-    /// rectangle of its own it is the item's that is grown.
+    /// The scene's rectangle grown by 50000 drawing units on every side. In a scene without a
+    /// rectangle of its own, the item's rectangle is grown instead.
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
@@ -68,8 +69,8 @@ private:
     void deleteAfterMoves();
 
     DXFGraphicsItem& m_item;
-    // Before the stack, which tells its group when it goes: what listens there may ask the scene,
-    // and the scene this overlay, for rectangles.
+    // Declared before the stack and so destroyed after it. A stack tells its group when it is
+    // destroyed: a slot may then ask the scene for rectangles, and the scene asks this overlay.
     std::weak_ptr<const void> m_itemLife;
     mutable bool m_isAskingScene = false;
     mutable bool m_sceneHasNoRect = false;

@@ -32,7 +32,7 @@ using EntityList = QList<QSharedPointer<DXFEntity>>;
 /// Removes entries from a list. The places are in order.
 void remove(const std::vector<int>& places, EntityList& entities)
 {
-    // One by one moves all that follows each time, but only the list's own pointers.
+    // Removing one by one moves all later entries each time, but these are only pointers.
     constexpr std::size_t few = 8;
     if (places.size() <= few) {
         std::for_each(places.crbegin(), places.crend(),
@@ -59,7 +59,7 @@ bool losesNothing(const DXFPolyline& polyline, const IdSet& deleted)
               });
 }
 
-/// What becomes of a polyline that loses nothing. Its list stays shared with the snapshots.
+/// For a polyline that loses nothing. Its list stays shared with the snapshots.
 void giveSegmentsAgain(DXFPolyline& polyline)
 {
     polyline.setSegments(PolylineAccess::segments(polyline));
@@ -102,12 +102,13 @@ void DeleteItems::redo()
     EntityList entities = m_document->entities();
     std::vector<int> erased;
     const EntityList added = cutAll(entities, touched, erased);
-    // What is erased goes when the list is complete: a host's own may look at it in that moment.
+    // Erased entities are destroyed when the list is complete: the destructor of a host's own
+    // entity may look at it.
     EntityList gone;
     for (const int place : erased)
         gone.append(entities.at(place));
     if (entities.isSharedWith(m_document->m_entities)) {
-        // Released before the list is changed, which would be copied else.
+        // Released before the list is changed: otherwise the change would copy it.
         entities = EntityList();
         remove(erased, m_document->m_entities);
     } else {
@@ -131,7 +132,7 @@ void DeleteItems::splitPoly(QSharedPointer<DXFPolyline> const& polyline)
     if (!m_document || !polyline)
         return;
 
-    // Not the command's own doing: the pieces are new ones, and no redo makes them again.
+    // These pieces are not the command's own: no redo makes them again.
     const QScopedValueRollback<PiecesByOrigin> ownPieces(m_pieces, PiecesByOrigin());
     PiecesByOrigin formerPieces;
     EntityList added;
@@ -190,8 +191,8 @@ std::vector<int> DeleteItems::takeSnapshot(const EntityList& entities)
     return touched;
 }
 
-/// Cuts the deleted segments out of the polylines at some places. Returns the pieces that are to
-/// be added to the document; the places of the polylines of which nothing is left go to erased.
+/// Cuts the deleted segments out of the polylines at some places. Returns the pieces that are to be
+/// added to the document. Appends to erased the places of the polylines of which nothing is left.
 DeleteItems::EntityList DeleteItems::cutAll(const EntityList& entities,
                                             const std::vector<int>& places,
                                             std::vector<int>& erased)

@@ -27,14 +27,14 @@ class Snapshot;
 /**
  * Deletes segments from a document, as one undoable step.
  *
- * Polylines are cut where segments are taken out of their middle; one whose segments are all gone
- * is removed. Undo puts clones back that were made before the deletion: they have new entity ids,
- * the old segment ids, and stand in the order of the old entity ids.
+ * Polylines are cut where segments are taken out of their middle; a polyline that loses all its
+ * segments is removed. Undo puts back clones that were made before the deletion. They have new
+ * entity ids and the old segment ids, and stand in the order of the old entity ids.
  *
- * Deleting anything anywhere gives every polyline of the document its segments anew. So every
- * bulge becomes straight, z becomes 0, polylines without segments disappear, and a closed polyline
- * stays closed only if its first and last point coincide: in a saved drawing the closing edge of
- * any other is lost, and its last vertex stands there twice.
+ * Every deletion gives every polyline of the document its own segments again. So every bulge
+ * becomes straight, z becomes 0, and polylines without segments disappear. A closed polyline stays
+ * closed only if its first and last point coincide. In a saved drawing any other closed polyline
+ * has lost its closing edge, and its last vertex stands there twice.
  */
 class DXFVIEWER_EXPORT DeleteItems : public QUndoCommand
 {
@@ -70,9 +70,9 @@ private:
     QSharedPointer<DXFDocument> m_document;
     QVector<int> m_ids;
     std::unique_ptr<dxfviewer::Snapshot> m_snapshot;
-    // The segments of the cut-off pieces as they were first made, by the id of the segment that
-    // each piece began with before: one piece for an id, unless polylines share their segments'
-    // ids, as clones do. A redo gives its pieces the same segment ids again, so that commands
-    // above this one on the stack find what they deleted.
+    // The segments of the cut-off pieces as they were first made, by the id that the first segment
+    // of each piece had before. An id has one piece, unless polylines share their segments' ids, as
+    // clones do. A redo gives its pieces the same segment ids again, so that later commands on the
+    // stack find what they deleted.
     PiecesByOrigin m_pieces;
 };

@@ -16,7 +16,8 @@ class QGraphicsItem;
  * - selects in its document what it finds under the pointer;
  * - emits requestDelete() when the document's selection is to be deleted, and must expect to be
  *   destroyed by a slot that is connected to it;
- * - makes its marker at the first call of getMarker() and returns the same one as long as it lives.
+ * - makes its marker at the first call of getMarker() and returns the same one as long as that
+ *   lives.
  */
 class DXFVIEWER_EXPORT ISelectionTool : public QObject
 {
@@ -27,8 +28,8 @@ public:
 
     /// Takes one event of the scene, in the coordinates of the drawing.
     virtual bool handle(QEvent& event) = 0;
-    /// The item that shows the tool under the pointer. It belongs to its parent item or its scene
-    /// once it has one, to the caller until then, and never to the tool.
+    /// The item that shows the tool under the pointer. Once it has a parent item or a scene, it
+    /// belongs to that; until then it belongs to the caller. It never belongs to the tool.
     virtual QGraphicsItem* getMarker() = 0;
 
 Q_SIGNALS:

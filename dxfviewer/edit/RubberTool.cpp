@@ -29,18 +29,18 @@ namespace
 constexpr double eraserRadiusPx = 5.0;
 constexpr int deleteIntervalMs = 50;
 
-// What rounding may do to a distance: a share of the coordinates that go into it, and, where
-// squares fall below the smallest number, all of a very small distance.
+// How much rounding may change a distance: by a share of the coordinates that go into it. If
+// squares fall below the smallest number, by all of a very small distance.
 constexpr double relativeSlack = 1e-12;
 constexpr double absoluteSlack = 1e-150;
 
 /**
- * Decides for most segments with a few comparisons that they are not under the eraser, and
- * for most polylines, that none of their segments is.
+ * With a few comparisons, decides for most segments that they are not under the eraser, and for
+ * most polylines that none of their segments is.
  *
- * A segment is far away only if its extent in x or in y is, by more than rounding could explain,
- * outside the radius. Whatever cannot be decided so, NaN and infinities included, is not far away,
- * and the exact distance decides.
+ * A segment is far away only if its extent in x or in y is outside the radius by more than rounding
+ * could explain. Every other segment, NaN and infinities included, is not far away, and the exact
+ * distance decides.
  */
 class Reach
 {

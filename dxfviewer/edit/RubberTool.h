@@ -15,8 +15,8 @@ class QGraphicsEllipseItem;
 class QGraphicsSceneMouseEvent;
 
 /**
- * The eraser: a round tool that selects the segments it is swept over with the left button held,
- * and asks for their deletion every 50 ms and at the release.
+ * The eraser: a round tool that selects segments while it is moved over them with the left button
+ * held. It asks for their deletion every 50 ms and at the release.
  *
  * Its radius is 5 device-independent pixels. At the press nothing is selected yet; moving without
  * the left button ends a stroke.
@@ -27,17 +27,17 @@ class DXFVIEWER_EXPORT RubberTool : public ISelectionTool
 
 public:
     explicit RubberTool(QSharedPointer<DXFDocument> document);
-    /// Leaves the marker alone.
+    /// Does not destroy the marker.
     ~RubberTool() override;
 
-    /// The ids of the segments that lie nearer to pos, in drawing units, than the radius: polyline
-    /// by polyline, in order. Without a view the radius is infinite.
+    /// The ids of the segments that lie nearer to pos than the radius, polyline by polyline, in
+    /// order. pos is in drawing units. Without a view the radius is infinite.
     QVector<int> itemsUnderMouse(QPointF pos) const;
-    /// The horizontal scale, device-independent pixels per drawing unit, of the first view of the
-    /// marker's scene; 0 if there is none.
+    /// The horizontal scale of the first view of the marker's scene, in device-independent pixels
+    /// per drawing unit; 0 if there is no view.
     double getViewScaleFactor() const;
 
-    /// Starts asking for deletions every 50 ms; a tool that does so already goes on undisturbed.
+    /// Starts asking for deletions every 50 ms. Does nothing if the tool does so already.
     void enable();
     void disable();
 

@@ -7,8 +7,8 @@
 namespace
 {
 
-/// A fuzzy comparison with zero that only an exact zero passes. A very short segment is meant to
-/// be projected onto like any other.
+/// Looks like a fuzzy comparison with zero, but only an exact zero passes. This is intended: a very
+/// short segment is projected onto like any other.
 bool isZero(double length)
 {
     return 0.0 >= std::abs(length) * 1e12;

@@ -17,7 +17,7 @@ namespace
 
 using Match = PolylineState::Match;
 
-/// The entity if it is a polyline that no subclass has added to; else null.
+/// The entity if it is a polyline and not of a subclass; else null.
 DXFPolyline* asPlainPolyline(DXFEntity* entity)
 {
     return entity && typeid(*entity) == typeid(DXFPolyline) ? static_cast<DXFPolyline*>(entity)
@@ -63,7 +63,7 @@ Snapshot::Entry Snapshot::entryOf(DXFPolyline& polyline)
     return {std::move(state), polyline.id(), areSegmentsGivenAgain ? -cloneId : cloneId};
 }
 
-/// Null entries have no id; no id is negative, so each finds a key of its own there.
+/// A null entry has no id. It gets a negative key of its own, since no id is negative.
 Snapshot::Entry Snapshot::entryOf(const QSharedPointer<DXFEntity>& entity)
 {
     const int place = static_cast<int>(m_otherClones.size());
@@ -102,7 +102,8 @@ void Snapshot::restore(EntityList& entities)
     for (const Entry& entry : m_entries)
         clones.push_back(cloneOf(entry));
 
-    // Entities go when the list is complete: a host's own may look at it in that moment.
+    // Entities are destroyed when the list is complete: the destructor of a host's own entity may
+    // look at it.
     EntityList surplus;
     while (entities.size() > static_cast<int>(clones.size()))
         surplus.append(entities.takeLast());

@@ -15,9 +15,9 @@ namespace dxfviewer
 /**
  * Clones of all entities of a document, in the order of the ids of their originals.
  *
- * Each clone has the next id from the moment of the snapshot. The clones of plain polylines,
- * though, are made only when they are asked for: until then there is a state, which the snapshots
- * of several commands share as long as the polyline does not change.
+ * Each clone gets its id, the next of the counter, at the moment of the snapshot. But the clones of
+ * plain polylines are made only when they are needed. Until then the snapshot holds a state, which
+ * the snapshots of several commands share as long as the polyline does not change.
  */
 class Snapshot
 {
@@ -35,7 +35,7 @@ public:
     static void announce(const QSharedPointer<DXFEntity>& entity);
     void end();
 
-    /// Whether hosts' own code has made some of the clones. Who knows what else it has done.
+    /// Whether hosts' own code has made some of the clones. It may have changed the document too.
     bool hasHostsClones() const { return m_hasHostsClones; }
 
     /// Puts the clones into the list, in place of all that is there. The snapshot is empty then.
@@ -44,7 +44,7 @@ public:
 private:
     Q_DISABLE_COPY(Snapshot)
 
-    /// A plain polyline has a state; of any other entity the clone stands among the other clones.
+    /// A plain polyline has a state. The clone of any other entity stands among the other clones.
     struct Entry {
         PolylineState::Pointer state;
         int key;

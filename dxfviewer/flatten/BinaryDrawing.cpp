@@ -13,14 +13,15 @@
 namespace
 {
 
-// The binary form begins with a word of its writer's, this and a zero.
+// The binary form begins with the name of a program, this text and a zero.
 constexpr std::size_t sentinelLength = 22;
 constexpr std::string_view sentinelEnd = " Binary DXF\r\n\x1a";
 
 // Old releases write codes in one byte, and this one before a code that needs two.
 constexpr unsigned char longCodeFollows = 255;
 
-// The second byte of the first code, if codes have two bytes. It would be a letter otherwise.
+// If codes have two bytes, the second byte of the first code is not above this. If they have one,
+// that byte is a letter.
 constexpr unsigned char highestSecondByte = 3;
 
 enum class Type { Unknown, Text, Real, Short, Long, LongLong, Flag, Data };

@@ -11,7 +11,7 @@ namespace dxfviewer
 /// Whether these are the bytes of a drawing in the binary form of the format.
 bool isBinaryDrawing(std::string_view bytes);
 
-/// The same drawing as text. It ends where the bytes make no sense any more.
+/// The same drawing as text. It ends before the first group that cannot be read.
 std::string textOfBinary(std::string_view bytes);
 
 } // namespace dxfviewer

@@ -37,7 +37,8 @@ struct Block {
     struct Item {
         std::uint32_t look;
         std::uint32_t kind;
-        /// Number of the insert; of a chain -1, since chains are listed without a gap.
+        /// Number of the insert. -1 for a chain: chains come in the order of the items and need no
+        /// number.
         std::int32_t insert;
     };
 

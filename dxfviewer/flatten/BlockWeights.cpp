@@ -17,7 +17,7 @@ BlockWeights::BlockWeights(Drawing& drawing, long long most)
     follow(drawing);
 }
 
-/// Goes down all inserts. Blocks may be nested deeper than calls.
+/// Follows all inserts without recursion: blocks may be nested deeper than function calls can.
 void BlockWeights::follow(Drawing& drawing)
 {
     std::vector<Step> way{{Drawing::model, 0}};

@@ -10,7 +10,7 @@ namespace dxfviewer
 
 class Drawing;
 
-/// What each block of a drawing comes to, before any of them is inserted.
+/// How much each block of a drawing makes, computed before any block is inserted.
 class BlockWeights
 {
 public:
@@ -20,12 +20,12 @@ public:
     /// The number of vertices and inserted blocks that one instance of a block makes, or the most
     /// if it makes more. 0 if it shows nothing, however often it is inserted.
     long long of(std::size_t block) const { return m_weights[block]; }
-    /// Whether the drawing shows the block, be it as nothing.
+    /// Whether an insert of the drawing leads to the block, even if the block shows nothing.
     bool isReached(std::size_t block) const { return m_states[block] == State::Known; }
 
 private:
     enum class State { New, Open, Known };
-    /// A block on the way from the drawing down to what is looked at.
+    /// A block on the way from the drawing down to the block that is looked at.
     struct Step {
         std::size_t block;
         std::size_t insert;

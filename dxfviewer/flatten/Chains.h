@@ -14,7 +14,7 @@ namespace dxfviewer
 class Chains
 {
 public:
-    /// How much there is, to go back to.
+    /// How much the list holds at one moment, to go back to it.
     struct Mark {
         std::size_t points;
         std::size_t chains;

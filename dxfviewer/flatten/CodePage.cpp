@@ -26,7 +26,8 @@ bool isInvalid(iconv_t converter)
     return reinterpret_cast<std::intptr_t>(converter) == -1;
 }
 
-/// A letter of a name in upper case; null if no name has it. iconv() takes orders after a slash.
+/// A letter of a name in upper case; null if no name may have it. iconv() reads options after a
+/// slash.
 char letterOf(char c)
 {
     if (c >= 'a' && c <= 'z')
@@ -76,7 +77,7 @@ std::size_t soundSequence(std::string_view text)
         if ((byteAt(i) & 0xc0) != 0x80)
             return 0;
     }
-    // Too long for its character, one half of a pair, or beyond the last character.
+    // Longer than its character needs, one half of a pair, or beyond the last character.
     const unsigned second = byteAt(1);
     const bool isWrong = (lead == 0xe0 && second < 0xa0) || (lead == 0xed && second >= 0xa0)
                          || (lead == 0xf0 && second < 0x90) || (lead == 0xf4 && second >= 0x90);
@@ -122,7 +123,7 @@ std::string CodePage::toUtf8(std::string_view line) const
             --left;
         }
     }
-    // A code page that makes line ends of other bytes would change what the lines are.
+    // A code page that makes line ends from other bytes would change the lines.
     std::replace(result.begin(), result.end(), '\n', ' ');
     return result;
 }

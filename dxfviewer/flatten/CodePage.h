@@ -10,11 +10,11 @@
 namespace dxfviewer
 {
 
-/// How a drawing that is not UTF-8 writes its texts.
+/// The code page in which a drawing that is not UTF-8 writes its texts.
 class CodePage
 {
 public:
-    /// @param name  as drawings write it ("ANSI_1252"). One that nobody knows is taken for that of
+    /// @param name  as drawings write it ("ANSI_1252"). An unknown name stands for the code page of
     ///              western Europe.
     explicit CodePage(std::string_view name);
     ~CodePage();
@@ -30,7 +30,7 @@ private:
     void* m_converter;
 };
 
-/// Whether a text is sound UTF-8, as plain ASCII is.
+/// Whether a text is sound UTF-8. Plain ASCII is.
 bool isUtf8(std::string_view text);
 
 /// Appends a character.

@@ -10,7 +10,7 @@ namespace
 // Angles in files are rounded: what is this near to a full turn is one.
 constexpr double roundingOfAngles = 1e-9;
 
-// So much of a step is rounding, and not worth another step.
+// A remainder this small, in steps, is rounding and not worth another step.
 constexpr double roundingOfSteps = 1e-9;
 
 constexpr int fewestSteps = 2;
@@ -19,7 +19,7 @@ constexpr int fewestSteps = 2;
 // arc's size.
 constexpr double stepsThatKeepHeight = 6.0;
 
-// The arc is straight for every eye, and the quotient of the sines would lose its digits.
+// The arc looks straight, and the quotient of the sines would lose its digits.
 constexpr double straightBulge = 1e-12;
 
 } // namespace
@@ -57,8 +57,8 @@ void appendBulge(Points& points, const Point3& from, const Point3& to, double bu
 {
     const Point3 chord = to - from;
     if (std::abs(bulge) > straightBulge && (chord.x != 0.0 || chord.y != 0.0)) {
-        // Without the centre, which may be far away: the chord to each point from the first vertex
-        // grows with the sine of half its arc, and turns by as much.
+        // Computed without the centre, which may be far away. The chord from the first vertex to
+        // each point grows with the sine of half its arc, and turns by half its arc.
         const double halfSweep = 2.0 * std::atan(bulge);
         const int steps = stepsOf(2.0 * halfSweep, longestStep);
         for (int i = 1; i < steps; ++i) {

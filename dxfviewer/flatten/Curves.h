@@ -22,8 +22,8 @@ constexpr double radians(double degrees)
 /// turn. Equal angles are a full turn apart.
 double sweepBetween(double start, double end);
 
-/// How many steps an arc is made of: each at most the longest step, and at least two. Short arcs
-/// get more than that asks for, or they would lose much of their height.
+/// How many steps an arc is made of: at least two, and each at most the longest step. Short arcs
+/// get more steps: otherwise they would lose much of their height.
 int stepsOf(double sweep, double longestStep);
 
 /// What an arc lies on: a circle or, with axes of different length, an ellipse.

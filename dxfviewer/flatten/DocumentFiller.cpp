@@ -29,7 +29,7 @@ std::uint64_t pairOf(std::size_t context, std::size_t look)
     return static_cast<std::uint64_t>(context) << halfOfKey | look;
 }
 
-/// What is by-block in the drawing itself, and not in a block.
+/// What by-block means in the drawing itself, outside all blocks.
 Look outermostLook()
 {
     Look look;
@@ -89,7 +89,7 @@ void DocumentFiller::count(const BlockWeights& weights)
     }
 }
 
-/// What shows nothing must not cost anything each time that its block is inserted.
+/// Removes the inserts that show nothing: each would cost time whenever its block is inserted.
 void DocumentFiller::dropEmptyInserts(const BlockWeights& weights)
 {
     for (std::size_t id = 0; id < m_drawing.blockCount(); ++id) {
@@ -214,7 +214,7 @@ std::size_t DocumentFiller::contextOf(std::size_t context, std::size_t look)
     return known->second;
 }
 
-/// A look without what it leaves to the insert.
+/// A look in which the insert's values replace by-block.
 Look DocumentFiller::resolved(std::size_t context, std::size_t look) const
 {
     const Look& insert = m_contexts[context];
@@ -233,8 +233,8 @@ Look DocumentFiller::resolved(std::size_t context, std::size_t look) const
     return result;
 }
 
-/// An insert's look without what it leaves to its layer: what is by-block in the block may lie on
-/// another one.
+/// An insert's look in which its layer's values replace by-layer: by-block entities of the block
+/// may lie on another layer.
 Look DocumentFiller::withoutLayer(const Look& look) const
 {
     const auto layer = m_document.getLayer(layerName(look.layer));

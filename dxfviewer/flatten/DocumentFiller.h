@@ -23,8 +23,8 @@ namespace dxfviewer
 
 class BlockWeights;
 
-/// Adds a gathered drawing to a document: every chain becomes a polyline, blocks wherever they are
-/// inserted.
+/// Adds a gathered drawing to a document: every chain becomes a polyline. The chains of a block do
+/// so at each of its inserts.
 class DocumentFiller
 {
 public:
@@ -43,7 +43,7 @@ private:
     struct Instance {
         std::size_t block;
         Placement placement;
-        /// What is by-block in it.
+        /// The look that by-block means in it: its number in m_contexts.
         std::size_t context;
         bool isPlaced;
         std::size_t item = 0;
@@ -69,10 +69,10 @@ private:
     Drawing& m_drawing;
     QMap<QString, int> m_shown;
     QMap<QString, int> m_skipped;
-    /// The names of the document's layers by what they are without case.
+    /// The names of the document's layers, by the same name without case.
     QHash<QString, QString> m_layerNames;
 
-    /// The looks of inserts, with nothing left to be resolved.
+    /// The looks of inserts, fully resolved.
     Looks m_contexts;
     std::unordered_map<std::uint64_t, std::size_t> m_contextIds;
     Looks m_resolved;

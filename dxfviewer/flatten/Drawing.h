@@ -30,8 +30,8 @@ public:
     const Block& block(std::size_t id) const { return m_blocks[id]; }
     /// The block of a name, whatever its case. It may never be defined.
     std::size_t blockId(std::string_view name);
-    /// The block that a definition fills. A second definition of a name is kept apart, where nobody
-    /// inserts it.
+    /// The block that a definition fills. A second definition of a name is kept apart and never
+    /// inserted.
     std::size_t define(std::string_view name, const Point3& base);
 
     Looks& looks() { return m_looks; }

@@ -24,7 +24,7 @@ constexpr int recordCode = 0;
 constexpr int nameCode = 2;
 constexpr int variableCode = 9;
 
-// Of what is passed on, these are only logged.
+// Groups of layers and line types that the reader would only log.
 constexpr int dashCode = 49;
 constexpr int extendedDataCode = 1000;
 
@@ -37,7 +37,8 @@ constexpr std::array tableRecords{
     "STYLE"sv, "VPORT"sv, "VIEW"sv, "UCS"sv, "APPID"sv, "DIMSTYLE"sv, "BLOCK_RECORD"sv,
 };
 
-/// Neither shown nor missed: they hold what other records show, or are not drawn at all.
+/// Neither shown nor counted as skipped: other records show what they hold, or they are not drawn
+/// at all.
 constexpr std::array silentRecords{"SEQEND"sv, "VERTEX"sv, "ATTDEF"sv, "VIEWPORT"sv};
 
 template <std::size_t Size>
@@ -46,7 +47,7 @@ bool isOneOf(const std::array<std::string_view, Size>& names, std::string_view n
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Attributes have a flag of their own for that.
+/// An attribute has a flag of its own that hides it.
 bool isHiddenAttribute(const dxfviewer::Record& record)
 {
     constexpr int flagsCode = 70;

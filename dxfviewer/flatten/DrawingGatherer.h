@@ -29,10 +29,10 @@ public:
 
     /// Whether the group was taken.
     bool takeGroup(int code, std::string_view value);
-    /// Ends the last record, which may lack a successor.
+    /// Ends the last record. No other record may follow it.
     void finish();
 
-    /// Whether it holds more than the options allow. It does not gather further then.
+    /// Whether the drawing holds more than the options allow. Then nothing more is gathered.
     bool isTooLarge() const { return m_isTooLarge; }
     Drawing& drawing() { return m_drawing; }
 

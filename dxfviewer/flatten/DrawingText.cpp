@@ -64,7 +64,7 @@ std::string inUtf8(std::string_view text)
     const char* at = text.data();
     const char* const end = at + text.size();
     while (at != end) {
-        // One by one, so that a character cut short does not eat the end of its line.
+        // Line by line, so that an incomplete character does not take the line end with it.
         const char* const lineStop = lineEnd(at, end);
         const std::string_view line(at, static_cast<std::size_t>(lineStop - at));
         if (isPlain(line) || (hasUtf8 && isUtf8(line)))
@@ -112,7 +112,7 @@ bool isSecondHalf(char32_t number)
     return number >= 0xdc00 && number < 0xe000;
 }
 
-/// Whether it would change the lines of the text, or could not be seen.
+/// Whether the character would change the lines of the text, or is invisible.
 bool isControl(char32_t number)
 {
     return number < 0x20 || (number >= 0x7f && number < 0xa0);

@@ -29,7 +29,7 @@ Placement placementOf(const Record& record)
     return extruded(record.point(extrusionCode, {0.0, 0.0, 1.0}));
 }
 
-/// A point in the entity's own coordinates. Old drawings give its height apart.
+/// A point in the entity's own coordinates. Old drawings give its height in a group of its own.
 Point3 flatPoint(const Record& record, int code, const Point3& missing = {})
 {
     Point3 point = record.point(code, missing);

@@ -13,7 +13,7 @@ struct Fineness;
  * Appends the chains of an entity that is a single record: a line, a curve, a face.
  *
  * @returns false, and nothing is appended, if the entity is of a kind that is not shown or its
- *          numbers are out of reach
+ *          numbers cannot be drawn
  */
 bool appendEntity(Chains& chains, const Record& record, const Fineness& fineness);
 

@@ -10,7 +10,7 @@ namespace dxfviewer
 void appendFace(Chains& chains, const Face& face)
 {
     const std::size_t count = face.corners.size();
-    // After a hidden edge, so that no chain begins in the middle of what could be one.
+    // Begins after a hidden edge, so that neighbouring visible edges become one chain.
     std::size_t first = 0;
     for (std::size_t i = 0; i < count; ++i) {
         if (((face.hiddenEdges >> i) & 1U) != 0)

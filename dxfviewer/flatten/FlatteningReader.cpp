@@ -16,7 +16,7 @@ FlatteningReader::FlatteningReader(DXFDocument& document, const FlatteningOption
     , m_filledDocument(document)
     , m_options(options)
 {
-    // One more of them must be a number too.
+    // One more than this must fit into the same type.
     constexpr qint64 mostVertices = std::numeric_limits<int>::max();
     m_options.maximalVertices = std::clamp(m_options.maximalVertices, qint64(0), mostVertices);
 }

@@ -23,16 +23,16 @@ class DrawingGatherer;
 /**
  * Fills a document with everything that can be drawn, as chains of straight segments.
  *
- * Lines, curves, faces, meshes, leaders and points become polylines, and so does what is inserted
- * as a block, wherever and however often it is; a block by itself is not shown. Everything is seen
- * from above: z is 0. What is closed ends at its first vertex, so no polyline carries flags or
- * bulges. What is by-block has the attributes of its insert. Layers and line types are read as
+ * Lines, curves, faces, meshes, leaders and points become polylines. What lies in a block becomes
+ * polylines at each insert of the block; a block that is never inserted is not shown. Everything is
+ * seen from above: z is 0. A closed shape ends at its first vertex, so no polyline has flags or
+ * bulges. A by-block entity has the attributes of its insert. Layers and line types are read as
  * DXFReader reads them. Entities come in the order of the drawing and share attributes.
  *
  * Texts that are not UTF-8 are decoded by the drawing's code page, and binary DXF is read as well.
  *
- * load() is DXFReader's. It returns false, after a message on the debug channel, also if the
- * drawing comes to more vertices than the options allow. Make a reader for each drawing.
+ * load() is the one of DXFReader. It also returns false, after a message on the debug channel, if
+ * the drawing makes more vertices than the options allow. Make a reader for each drawing.
  *
  * A subclass may override processCodeValuePair(), which is called for every group, to show progress
  * or, by an exception, to stop.
@@ -47,8 +47,8 @@ public:
     /// The entities that became polylines, by their names in DXF ("ARC", "INSERT"). What lies in a
     /// block counts once if the block is shown, however often. Complete after load().
     QMap<QString, int> shown() const { return m_shown; }
-    /// The entities that are not shown, counted in the same way. Entities that are invisible or
-    /// elsewhere than in the space that is shown are not missed.
+    /// The entities that are not shown, counted in the same way. Entities that are invisible, or in
+    /// a space that is not shown, are not counted.
     QMap<QString, int> skipped() const { return m_skipped; }
 
     /// @name Steps of load()

@@ -21,7 +21,7 @@ BlockInsert plainInsert(const Record& record)
     BlockInsert insert;
     insert.placement =
         turn * scaled({record.number(41, 1.0), record.number(42, 1.0), record.number(43, 1.0)});
-    // The scale is the block's alone.
+    // The scale applies to the block, not to the steps.
     insert.columnStep = turn.mapVector({record.number(44), 0.0, 0.0});
     insert.rowStep = turn.mapVector({0.0, record.number(45), 0.0});
     insert.columns = std::max(1, record.integer(70, 1));

@@ -12,7 +12,7 @@ class Record;
 /// Whether an entity of this kind shows a block.
 bool insertsBlock(const Record& record);
 
-/// Where such an entity shows its block, which is left to be set.
+/// Where such an entity shows its block. The caller sets which block that is.
 BlockInsert insertOf(const Record& record);
 
 } // namespace dxfviewer

@@ -41,7 +41,7 @@ bool Look::operator==(const Look& other) const
 std::string Look::key() const
 {
     std::string text = layer;
-    // No line of a drawing holds one.
+    // No value of a drawing holds a line end.
     constexpr char separator = '\n';
     text += separator;
     text += lineType;

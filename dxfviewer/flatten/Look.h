@@ -29,11 +29,11 @@ struct Look {
     std::string key() const;
 };
 
-/// Whether a line type is that of the block's insert, in whatever case.
+/// Whether a line type is that of the block's insert, in any case of its letters.
 bool isByBlock(const std::string& lineType);
 bool isByLayer(const std::string& lineType);
 
-/// What tells, beside the shape, how and whether an entity is shown.
+/// What decides, besides the shape, whether and how an entity is shown.
 struct Appearance {
     Look look;
     bool isInvisible = false;
@@ -51,7 +51,7 @@ public:
 private:
     std::vector<Look> m_looks;
     std::unordered_map<std::string, std::size_t> m_ids;
-    // Neighbours in a drawing mostly look alike.
+    // The id found last: neighbours in a drawing mostly look alike.
     std::size_t m_last = 0;
 };
 

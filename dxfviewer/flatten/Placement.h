@@ -21,11 +21,11 @@ struct Placement {
     Point3 map(const Point3& point) const { return mapVector(point) + origin; }
 };
 
-/// What the inner placement places, placed by the outer one.
+/// The inner placement followed by the outer one.
 Placement operator*(const Placement& outer, const Placement& inner);
 
 /// The coordinates in which an entity with this extrusion direction is given. A direction without
-/// length is the usual one, upwards.
+/// length counts as the usual one, upwards.
 Placement extruded(const Point3& direction);
 
 /// A move.

@@ -46,7 +46,7 @@ void appendBulged(Chains& chains, const std::vector<BulgedVertex>& vertices, boo
     for (std::size_t i = 1; i < vertices.size() && points.size() < fineness.mostPoints; ++i)
         appendBulge(points, vertices[i - 1].point, vertices[i].point, vertices[i - 1].bulge,
                     fineness.longestStep);
-    // One that names its first vertex again at its end is closed already.
+    // A polyline that repeats its first vertex at its end is closed already.
     if (isClosed && vertices.back().point != vertices.front().point)
         appendBulge(points, vertices.back().point, vertices.front().point, vertices.back().bulge,
                     fineness.longestStep);
@@ -55,13 +55,13 @@ void appendBulged(Chains& chains, const std::vector<BulgedVertex>& vertices, boo
     chains.close();
 }
 
-/// Appends a chain through every so many points, and back to the first if it goes round.
+/// Appends a chain through every step-th point, and back to the first if it is closed.
 void appendEvery(Chains& chains, const Points& points, std::size_t first, std::size_t step,
                  std::size_t count, bool isClosed)
 {
     for (std::size_t i = 0; i < count; ++i)
         chains.open().push_back(points[first + i * step]);
-    // Between two the way back is the way there.
+    // Between two points the way back is the same line.
     if (isClosed && count > 2)
         chains.open().push_back(points[first]);
     chains.close();
@@ -77,7 +77,7 @@ std::optional<double> elevationOf(const Record& record)
     return std::nullopt;
 }
 
-/// The edges of a mesh that are drawn already, whichever face came first.
+/// The edges of a mesh that are drawn already, by any of their faces.
 class DrawnEdges
 {
 public:

@@ -48,7 +48,7 @@ private:
     void appendFaces(Chains& chains) const;
 
     int m_flags;
-    /// Nothing if only the vertices tell.
+    /// Nothing if only the vertices have one.
     std::optional<double> m_elevation;
     Point3 m_extrusion;
     int m_rows;

@@ -44,8 +44,8 @@ double toNumber(std::string_view text)
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec != std::errc::result_out_of_range)
         return value;
-    // Too large or too small: the standard does not say which.
-    // Qt 5 and Qt 6 do not agree on what has no room in a double.
+    // Too large or too small: the standard does not say which, but a long double tells. Qt 5 and
+    // Qt 6 treat numbers beyond a double differently, so Qt is not asked.
     long double wide = std::numeric_limits<long double>::infinity();
     std::from_chars(text.data(), result.ptr, wide);
     constexpr long double greatest = std::numeric_limits<double>::max();

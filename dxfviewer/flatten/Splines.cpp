@@ -12,7 +12,7 @@ using dxfviewer::Point3;
 using dxfviewer::Points;
 using dxfviewer::Spline;
 
-// Beyond it nobody draws, and one point would take longer than a whole drawing.
+// Nobody draws with a higher degree, and one point would take longer than a whole drawing.
 constexpr int highestDegree = 32;
 
 // How often a piece that turns too much is cut in three.
@@ -61,7 +61,8 @@ private:
     {
         if (m_points.size() >= m_mostPoints)
             return;
-        // Two points between: one would lie on the straight line when a piece bends both ways.
+        // Two points between: a single one would lie on the straight line when a piece bends both
+        // ways.
         const Place a = between(begin, end, 1.0 / 3.0);
         const Place b = between(begin, end, 2.0 / 3.0);
         const bool isStraight =
@@ -210,7 +211,7 @@ bool appendControlled(Points& points, const Spline& given, double longestStep,
         return false;
     const Spline spline = repaired(limited);
     const auto degree = static_cast<std::size_t>(spline.degree);
-    // Where it may bend more often, one look at three pieces is not enough.
+    // A curve of a higher degree may bend more often: one look at three pieces is not enough.
     const std::size_t pieces = std::max<std::size_t>(1, degree - std::min<std::size_t>(degree, 2));
 
     bool hasBegun = false;
@@ -296,7 +297,7 @@ void setEnd(Chained& equations, std::size_t row, const Point3& tangent, const Po
     equations.right[row] = direction;
     if (direction != Point3{})
         return;
-    // An end that nobody holds does not bend.
+    // An end without a tangent does not bend.
     equations.middle[row] = 2.0;
     (row == 0 ? equations.high : equations.low)[row] = 1.0;
     equations.right[row] = chord * (3.0 / size);
@@ -321,8 +322,8 @@ Points closedTangents(const Points& fit)
     for (std::size_t i = 0; i < count; ++i)
         setBend(equations, i, fit[(i + count - 1) % count], fit[i], fit[i + 1]);
 
-    // The first and the last unknown are linked too. Two solutions without that link make one with
-    // it.
+    // The first and the last unknown are linked too. Two solutions without that link are combined
+    // into one with it.
     const double corner = equations.low[0];
     const double otherCorner = equations.high[count - 1];
     const double gamma = -equations.middle[0];

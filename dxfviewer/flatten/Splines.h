@@ -31,7 +31,7 @@ struct Spline {
  *
  * @param longestStep  how far it may turn from point to point, in radians
  * @param mostPoints   the number of points at which it stops
- * @returns false if it cannot be drawn: too few points or a degree out of reach
+ * @returns false if it cannot be drawn: too few points or too high a degree
  */
 bool appendSpline(Points& points, const Spline& spline, double longestStep, std::size_t mostPoints);
 

@@ -10,7 +10,7 @@ namespace dxfviewer
 
 class Record;
 
-/// What is to be read of a text on a drawing, line by line, without the codes that format it.
+/// The words of a text on a drawing, line by line, without the codes that format it.
 /// @{
 QString lineOfText(const Record& record);
 QStringList linesOfParagraphs(const Record& record);

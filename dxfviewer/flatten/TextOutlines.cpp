@@ -18,10 +18,10 @@ namespace
 // Large enough that Qt's flattening of curves cannot be seen.
 constexpr int pixelSize = 64;
 
-// Of a font that does not tell the height of its capitals.
+// For a font that does not tell the height of its capitals.
 constexpr double usualCapitals = 0.7 * pixelSize;
 
-// Laying out takes longer than the text is long.
+// The time to lay out a text grows faster than its length.
 constexpr int longestPiece = 256;
 
 QFont fontOf(const QString& family)
@@ -79,7 +79,7 @@ void TextOutlines::append(Chains& chains, const QString& text, const Placement& 
         const auto outlines = path.toSubpathPolygons();
         for (const QPolygonF& outline : outlines) {
             for (const QPointF& point : outline) {
-                // Qt counts downwards.
+                // In Qt the y axis points down.
                 chains.open().push_back(
                     placement.map({x + point.x() * m_scale, -point.y() * m_scale, 0.0}));
             }

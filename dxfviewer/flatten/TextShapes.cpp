@@ -17,7 +17,7 @@ namespace
 
 using namespace dxfviewer;
 
-// More than that nobody reads, and the letters would run away.
+// Nobody can read steeper letters, and they would become endlessly wide.
 constexpr double steepestOblique = 85.0;
 
 // From one line of a paragraph to the next, in heights of capitals.
@@ -112,7 +112,7 @@ bool appendLineOfText(Chains& chains, const Record& record, const Fineness& fine
     return true;
 }
 
-/// The lines of paragraphs, broken at blanks where they are longer than a width. 0 is no width.
+/// The lines of paragraphs, broken at blanks where they are longer than a width. 0 means no limit.
 QStringList brokenLines(const QStringList& paragraphs, double width, const TextOutlines& outlines)
 {
     if (!(width > 0.0))
@@ -142,7 +142,7 @@ QStringList brokenLines(const QStringList& paragraphs, double width, const TextO
     return lines;
 }
 
-/// A direction may be given by a vector, and wins over an angle that comes before it.
+/// The direction may be given by a vector or an angle. The later of the two counts.
 double angleOf(const Record& record)
 {
     double angle = 0.0;

@@ -32,8 +32,8 @@ QRectF rectOf(const QLineF& line)
 /**
  * Unites the rectangles of lines just as QRectF::operator| does, rounding included.
  *
- * What lies inside the bounds, as most lines do, is passed over, unless rounding still moves the
- * bounds: uniting computes the far edge from the extent and the extent from the far edge.
+ * Most lines lie inside the bounds and are skipped. But while rounding still moves the bounds no
+ * line is skipped: uniting computes the far edge from the extent and the extent from the far edge.
  */
 class Bounds
 {
@@ -59,7 +59,7 @@ private:
                      && isExtent(m_rect.height(), m_rect.top(), m_rect.bottom());
     }
 
-    /// Whether no line in the polyline's bounds moves ours, whatever is rounded on the way.
+    /// Whether no line in the polyline's bounds can move ours, even by rounding.
     bool isWithin(const PolylineAccess::Bounds& bounds) const
     {
         return isWellWithin(bounds.left, bounds.right, m_rect.left(), m_rect.right())
@@ -116,9 +116,9 @@ void drawSegment(QPainter& painter, const Segment& segment)
     painter.drawLines(&line, 1);
 }
 
-/// The pens of one painting. Making a pen, and even handing it to the painter, costs as much as
-/// drawing a short line with it. So pens are kept, the last one of each of some colours, and the
-/// painter gets one only when the next segment needs another.
+/// The pens of one painting. Making a pen costs as much as drawing a short line, and so does
+/// handing it to the painter. So pens are kept in a small cache, and the painter gets one only when
+/// the next segment needs another.
 class EntityPens
 {
 public:
@@ -197,7 +197,7 @@ public:
         if (part == VisibleArea::Part::None)
             return;
 
-        // A copy: the painter may be a host's own, whose calls do who knows what.
+        // A copy: the painter may be a host's own, and its calls may change the polyline.
         const auto segments = polyline.segments();
         bool hasPen = m_overridePen != nullptr;
         Look current = Look::Plain;

@@ -17,8 +17,8 @@ class DXFDocument;
  * Paints a whole document as one item of a graphics scene.
  *
  * Item coordinates are drawing units. Every segment is drawn with a cosmetic pen in its entity's
- * colour, dark yellow while it is hovered, red while it is selected. Nothing is cached but the
- * bounding rectangle, which stays as it was when the document was set: erasing does not shrink it.
+ * colour, dark yellow while it is hovered, red while it is selected. Only the bounding rectangle is
+ * cached. It stays as it was when the document was set: erasing does not shrink it.
  */
 class DXFVIEWER_EXPORT DXFGraphicsItem : public QAbstractGraphicsShapeItem
 {
@@ -33,8 +33,8 @@ public:
     void setDocument(QSharedPointer<DXFDocument> document);
 
     /// Computes the bounding rectangle again, without repainting. Warns if there is no document.
-    /// The scene is not told, and its index may still point at the item after that is removed and
-    /// destroyed: for an item in a scene call setDocument(document()) instead.
+    /// The scene is not told: its index may still point at the item after the item has been removed
+    /// and destroyed. For an item in a scene call setDocument(document()) instead.
     void refresh();
 
     /// Draws every segment with exactly this pen from now on, whatever its entity or state.
@@ -42,8 +42,7 @@ public:
     /// Returns to the pens of the entities.
     void resetOverridePen();
 
-    /// Expires when the item is destroyed: a scene may do that before those who point at the item
-    /// are done with it.
+    /// Expires when the item is destroyed. A scene may destroy it while others still point at it.
     std::weak_ptr<const void> lifeToken() const { return m_lifeToken; }
 
     /// Where the document's segments lay at the last refresh(), in drawing units. A single

@@ -18,7 +18,7 @@ using namespace dxfviewer;
 constexpr int thinWidth = 1;
 constexpr Qt::GlobalColor unresolvedColor = Qt::black;
 
-/// The low numbers are the dark colours; the bright ones come later. That is meant.
+/// The low numbers are the dark colours; the bright ones come later. This is intended.
 QColor colorOfNumber(int color)
 {
     switch (color) {

@@ -30,8 +30,8 @@ DXFVIEWER_EXPORT int getLineWidth(int width);
  * Resolves the colours and line widths of layers and entities, following by-layer to the
  * document's layers.
  *
- * By-layer goes one level only. What has no attributes is black and 1 wide, and so is what is
- * by-layer on a layer that the document does not hold.
+ * By-layer is followed one level only. A layer or an entity without attributes is black and 1 wide.
+ * So is a by-layer entity on a layer that the document does not hold.
  */
 class DXFVIEWER_EXPORT DXFPaintHelper
 {

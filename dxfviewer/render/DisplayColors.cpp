@@ -37,8 +37,8 @@ constexpr std::array<int, 6> greys{51, 91, 132, 173, 214, 255};
 /// A hue has ten numbers: five brightnesses, each first full and then half saturated.
 constexpr std::array<double, numbersPerHue / 2> brightnesses{1.0, 0.65, 0.5, 0.3, 0.15};
 
-/// One of red, green and blue at full brightness and saturation. The peak is the hue, in degrees,
-/// at which it is the only one.
+/// How much of red, green or blue a hue has at full brightness and saturation, from 0 to 1. The
+/// peak is the hue, in degrees, that has nothing else.
 double share(int hue, int peak)
 {
     const int apart = std::abs((hue - peak + 540) % 360 - 180);

@@ -14,11 +14,11 @@ class DXFEntity;
  * The drawing's own colours, legible on a given ground. For hosts: the window itself paints in the
  * colours that DXFDocument::setup() resolves.
  *
- * A colour number stands for one of the format's 255 index colours; a true colour decides alone,
- * under by-layer as well. By-layer (256) is the colour of the entity's layer. By-block (0), and
- * whatever cannot be resolved, is colour 7. Colours 7 and 255 are black on a light ground and white
- * on a dark one. Any other colour whose contrast against the ground is below 3 : 1 is moved in
- * lightness, keeping its hue, until it has that.
+ * A colour number stands for one of the format's 255 index colours; a true colour is used instead
+ * of it, under by-layer as well. By-layer (256) is the colour of the entity's layer. By-block (0),
+ * and whatever cannot be resolved, is colour 7. Colours 7 and 255 are black on a light ground and
+ * white on a dark one. Any other colour whose contrast against the ground is below 3 : 1 becomes
+ * lighter or darker, with the same hue, until it has that contrast.
  *
  * Only the resolved colours of entities are set. Attributes and saved bytes stay as they are, and
  * copies and cut-off pieces keep the colour.
@@ -39,7 +39,7 @@ public:
 
     /// The colour of a colour number (1 to 255) on the ground.
     QColor indexColor(int number) const;
-    /// The colour itself if it can be told from the ground, or the nearest lightness that can.
+    /// The colour itself if it is legible on the ground, else with the nearest lightness that is.
     QColor legible(const QColor& color) const;
 
     /// The format's own colour of a number from 1 to 255; white for every other number.
@@ -51,8 +51,8 @@ private:
     QColor resolved(int number, int color24) const;
 
     QColor m_ground;
-    // By number. A large drawing asks very often.
+    // By number, computed once: a large drawing asks very often.
     QVector<QColor> m_indexColors;
-    // Invalid: the drawing's own colours.
+    // Invalid if the drawing's own colours are shown.
     QColor m_single;
 };

@@ -22,10 +22,10 @@ constexpr double softEdge = 4.0;
 
 // A cosmetic line of one pixel is clipped in floating point before anything else is done with it.
 constexpr double trustedForThinLines = 1e9;
-// Others become outlines in fixed point numbers, with limits not far beyond this.
+// Other lines become outlines in fixed-point numbers, whose limits are not far beyond this.
 constexpr double trustedForOutlines = 3e4;
 
-// Within these the inverse of a scaling is good to much less than a pixel.
+// Within these the inverse of a scaling is exact to much less than a pixel.
 constexpr double leastScale = 1e-6;
 constexpr double greatestScale = 1e6;
 
@@ -40,7 +40,7 @@ bool isModest(double scale)
     return std::abs(scale) > leastScale && std::abs(scale) < greatestScale;
 }
 
-/// The range of one coordinate on the device of what lies in some bounds of the drawing.
+/// The range of one device coordinate, for everything inside some bounds of the drawing.
 struct Range {
     Range(double factorX, double x1, double x2, double factorY, double y1, double y2, double offset)
     {
@@ -66,7 +66,7 @@ VisibleArea::VisibleArea(const QPainter& painter)
     m_isKnown = true;
     setTransform(painter.deviceTransform());
     m_drawsThinLinesExactly = engine->type() == QPaintEngine::Raster;
-    // Some devices count pixels, some do not. More area than there is does no harm.
+    // Some devices give their size in pixels, some do not. Too large an area does no harm.
     m_pixelRatio = std::max(1.0, static_cast<double>(device->devicePixelRatioF()));
     m_area = QRectF(0, 0, device->width() * m_pixelRatio, device->height() * m_pixelRatio);
     if (painter.hasClipping())
@@ -101,7 +101,7 @@ void VisibleArea::clipTo(const QPainter& painter)
 void VisibleArea::setPen(const QPen& pen)
 {
     m_cosmeticWidth = -1;
-    // A line has no joins, but it costs nothing to have their miters in.
+    // A line has no joins, but to include their miters costs nothing.
     const double reach = pen.widthF() * std::max(1.0, pen.miterLimit());
     if (pen.isCosmetic())
         setReach(reach * m_pixelRatio, pen.widthF() <= 1.0);
@@ -128,7 +128,7 @@ void VisibleArea::setReach(double reach, bool isThin)
     }
 }
 
-/// Only of upright drawings. What is rounded is much less than a pixel.
+/// Only for upright drawings. The rounding is much less than a pixel.
 VisibleArea::Sides VisibleArea::toDrawing(const Sides& device) const
 {
     const std::array x{(device.left - m_dx) / m_xx, (device.right - m_dx) / m_xx};
@@ -139,7 +139,7 @@ VisibleArea::Sides VisibleArea::toDrawing(const Sides& device) const
 VisibleArea::Part VisibleArea::partOf(const Sides& sides, const Sides& trusted,
                                       const Sides& visible)
 {
-    // What is not a number is not trusted either.
+    // NaN is not trusted either.
     const bool isTrusted = sides.left > trusted.left && sides.right < trusted.right
                            && sides.top > trusted.top && sides.bottom < trusted.bottom;
     if (!isTrusted)

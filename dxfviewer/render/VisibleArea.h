@@ -17,9 +17,9 @@ namespace dxfviewer
 /**
  * Tells which lines a painter cannot show, because they lie outside its device or its clip.
  *
- * Only of painters that make pixels is anything known; those that record must get every line. And
- * only of lines that the painter certainly draws as geometry has it: beyond some distance from the
- * device its arithmetic may go astray, and what it then shows is to be shown.
+ * It judges only painters that make pixels: painters that record must get every line. And it judges
+ * only lines that the painter certainly draws in their right place. Far from the device the
+ * painter's arithmetic may go wrong, and whatever it shows then must be shown.
  */
 class VisibleArea
 {
@@ -30,18 +30,18 @@ public:
 
     /// The pen of the lines that are asked about next.
     void setPen(const QPen& pen);
-    /// The same for a cosmetic pen that is otherwise as new.
+    /// The same for a cosmetic pen with nothing else set.
     void setCosmeticPen(int width)
     {
         if (width != m_cosmeticWidth)
             setNewCosmeticPen(width);
     }
 
-    /// How much of what lies in the bounds may be visible. If it is all, single lines in the
-    /// bounds must not be asked about: they may be where nothing is known.
+    /// How much of what lies in the bounds may be visible. If the answer is All, do not ask about
+    /// single lines in the bounds: nothing may be known about their place.
     Part visiblePart(const PolylineAccess::Bounds& bounds) const;
 
-    /// Whether a line in bounds of which some part is visible is not.
+    /// Whether a line is not visible. Only for lines in bounds for which visiblePart() is Some.
     bool hides(const QLineF& line) const;
 
 private:
@@ -61,7 +61,7 @@ private:
     void setReach(double reach, bool isThin);
     void clipTo(const QPainter& painter);
 
-    // As the painter maps points: entries that are next to nothing count as nothing there.
+    // The transform as the painter applies it: it takes very small entries for 0.
     double m_xx = 1.0;
     double m_xy = 0.0;
     double m_yx = 0.0;
@@ -74,12 +74,13 @@ private:
     bool m_drawsThinLinesExactly = false;
     QRectF m_area;
 
-    // Of the pen, if it is a cosmetic one: its width.
+    // The width that setCosmeticPen() has set; -1 after setPen().
     int m_cosmeticWidth = -1;
-    // Of the pen: how far from the device lines may lie, and the area with the pen around it.
+    // For the current pen: the area in which lines are judged, and the visible area with the pen's
+    // reach around it.
     Sides m_trusted;
     Sides m_visible;
-    // The same in the drawing, if the painter does not turn it.
+    // The same in drawing units, if the painter does not turn the drawing.
     bool m_isUpright = false;
     Sides m_trustedInDrawing;
     Sides m_visibleInDrawing;

@@ -17,13 +17,13 @@ DXFEditor* CurrentEditor::begin(DXFGraphicsItem& item, const QObject& owner)
 {
     const auto itemLife = item.lifeToken();
     auto* const editor = new DXFEditor(item);
-    // Now, and not before: the editor has said that it is there, and who hears that may have begun
-    // another one.
+    // Read only now: the constructor logs and adds to the scene, and a handler of that may have
+    // begun another editor.
     DXFEditor* const former = m_editor;
     m_editor = editor;
     m_owner = &owner;
     const quint64 beginning = ++m_beginnings;
-    // The former one goes last: who hears of its end finds the new one in its place.
+    // The former one ends last: a slot that runs during its end finds the new one in its place.
     if (former)
         former->end();
     if (beginning != m_beginnings)

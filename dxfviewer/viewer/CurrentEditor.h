@@ -12,10 +12,10 @@ namespace dxfviewer
 {
 
 /**
- * Edit mode: at most one editor, and whose it is.
+ * Edit mode: at most one editor, and its owner.
  *
- * The editor belongs to its scene as well and may go at any time. Its end runs slots of the host's,
- * which may end edit mode, begin it again, or destroy what takes part in it.
+ * The scene owns the editor too and may destroy it at any time. The end of the editor runs slots of
+ * the host, which may end edit mode, begin it again, or destroy objects that take part in it.
  */
 class CurrentEditor
 {
@@ -26,7 +26,7 @@ public:
     /// Makes an editor over the item, which must be in a scene, and ends the former one. Null if
     /// the new one did not survive that.
     DXFEditor* begin(DXFGraphicsItem& item, const QObject& owner);
-    /// Ends edit mode, whosever it is.
+    /// Ends edit mode, whoever began it.
     void end();
     /// Whether there is an editor and it was begun for this owner.
     bool isOf(const QObject& owner) const;

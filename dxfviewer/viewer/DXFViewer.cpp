@@ -54,8 +54,8 @@ QRectF grown(const QRectF& rect, double margin)
     return rect.adjusted(-margin, -margin, margin, margin);
 }
 
-/// A view of undo histories that is never shown and outlives its window. Kept within reach, so
-/// that leak checkers do not report what is meant.
+/// A view of undo histories that is never shown and outlives its window. This is intended. The list
+/// keeps it reachable, so that leak checkers do not report it.
 QUndoView* makeUndoView()
 {
     static auto& undoViews = *new QVector<QUndoView*>;
@@ -72,7 +72,8 @@ DXFViewer::DXFViewer(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_view = m_ui->graphicsView;
-    // It says so before its scene goes. What listens to that must not find half a view here.
+    // The view sends this signal before its scene is destroyed. Slots that run later must not find
+    // a half-destroyed view here.
     connect(m_view, &QObject::destroyed, this, [this] { m_view.clear(); });
     m_toolBar = m_ui->mainToolBar;
     m_editAction = m_ui->actionEdit_dxf;
@@ -87,7 +88,7 @@ DXFViewer::~DXFViewer()
 {
     currentEditor.end();
     deleteItem();
-    // The view goes after the members of this class have gone.
+    // The view is destroyed after the members of this class.
     if (m_view)
         m_view->disconnect(this);
     delete m_ui;
@@ -106,10 +107,10 @@ void DXFViewer::loadData(const QByteArray& text)
 template <typename Source>
 void DXFViewer::load(const Source& source)
 {
-    // Held here as well: what listens to the log may load something else meanwhile.
+    // Held here as well: a message handler may load something else meanwhile.
     const auto document = QSharedPointer<DXFDocument>::create();
     m_document = document;
-    // Nor need the window outlive the messages.
+    // A message handler may also destroy the window.
     const QPointer<DXFViewer> self(this);
     const bool isRead = DXFReader(*document).load(source);
     if (self)
@@ -139,7 +140,7 @@ QByteArray DXFViewer::getData()
 
 void DXFViewer::postLoad()
 {
-    // Slots of the host's hear of each of these, and may destroy the window.
+    // Each of these runs slots of the host, and they may destroy the window.
     const QPointer<DXFViewer> self(this);
     endEditingOfItem();
     if (self)
@@ -152,8 +153,8 @@ void DXFViewer::showDocument()
 {
     const QPointer<DXFViewer> self(this);
     auto item = std::make_unique<DXFGraphicsItem>();
-    // The messages of this may run an event loop, in which another drawing is shown. That one is
-    // the later one and stays.
+    // This may send messages, and their handler may run an event loop in which another drawing is
+    // shown. That drawing is the later one and stays.
     item->setDocument(m_document);
     QGraphicsScene* scene = self && m_view ? m_view->scene() : nullptr;
     if (!scene || hasItem())
@@ -182,7 +183,7 @@ void DXFViewer::deleteItem()
         delete item;
 }
 
-/// Ends edit mode if it works on this window's item, which is about to go.
+/// Ends edit mode if it works on this window's item, which is about to be destroyed.
 void DXFViewer::endEditingOfItem()
 {
     if (!currentEditor.isOf(*this))
@@ -197,10 +198,10 @@ void DXFViewer::endEditingOfItem()
 
 void DXFViewer::on_actionOpen_dxf_triggered()
 {
-    // There is no file dialog: from its own action the slot loads nothing, and called directly it
-    // loads a fixed drawing. Both are meant.
+    // There is no file dialog. From its own action the slot loads nothing; called directly it loads
+    // a fixed drawing. Both are intended.
     m_document.reset(new DXFDocument);
-    // Reads nothing. It stands for a reading of the file that a dialog would have chosen.
+    // Reads nothing. It stands for reading the file that a dialog would have chosen.
     const DXFReader unused(*m_document);
     const bool isFromAction = sender() == m_ui->actionOpen_dxf;
     loadData(isFromAction ? QString() : QStringLiteral("samples/floor-plan.dxf"));
@@ -208,8 +209,8 @@ void DXFViewer::on_actionOpen_dxf_triggered()
 
 void DXFViewer::on_actionSave_dxf_triggered()
 {
-    // Writes nothing, and is meant to: drawings are taken out with getData(). It stands for a
-    // writing to the file that a dialog would have chosen.
+    // Writes nothing. This is intended: the host takes drawings out with getData(). It stands for
+    // writing the file that a dialog would have chosen.
     if (m_document)
         const DXFWriter unused(*m_document);
 }
@@ -229,7 +230,8 @@ void DXFViewer::on_actionEdit_dxf_toggled(bool arg1)
 void DXFViewer::offerUndo(DXFEditor& editor)
 {
     QUndoStack* stack = editor.stack();
-    // Children of the editor, they may go with it before they get into the tool bar.
+    // They are children of the editor and may be destroyed with it before they get into the tool
+    // bar.
     const QPointer<QAction> undo(
         stack->createUndoAction(&editor, QCoreApplication::translate("Viewer", "Undo")));
     const QPointer<QAction> redo(

@@ -39,10 +39,10 @@ public:
     /**
      * Reads a drawing from a file; it is shown 5 ms later, from the event loop.
      *
-     * The view is fitted to the drawing at that moment, once: show the window first. On failure
-     * the reason goes to the debug channel and the picture stays, while getData() returns what
-     * was read. A drawing that was loaded before and is not shown yet is lost by that: what is
-     * shown when its 5 ms are over is the document of the load that failed.
+     * The view is fitted to the drawing once, at that moment: show the window first. On failure the
+     * reason goes to the debug channel and the picture stays, but getData() returns what was read.
+     * A drawing that was loaded before and is not shown yet is then lost: when its 5 ms are over,
+     * the document of the failed load is shown.
      */
     void loadData(const QString& fileName);
     /// The same from the text of a DXF file, up to its first zero byte.
@@ -51,8 +51,8 @@ public:
      * Shows a document that the host has read itself, with any reader, in the way that loadData()
      * shows one: getData() returns it at once, and it is on the screen 5 ms later.
      *
-     * The window shares the document from then on: edits go into it. A null pointer is a load that
-     * failed, and the window's document is a new empty one.
+     * The window shares the document from then on: edits go into it. A null pointer counts as a
+     * failed load: the window's document is then a new empty one.
      */
     void loadDocument(QSharedPointer<DXFDocument> document);
 
@@ -79,8 +79,8 @@ private:
     Ui_Viewer* m_ui;
     DXFGraphicsItem* m_graphicsItem = nullptr;
     QSharedPointer<DXFDocument> m_document;
-    // The parts of the window are within the host's reach, and a host may destroy them: the view
-    // goes when another central widget is set, and whoever clears the scene destroys the item.
+    // A host can reach the parts of the window and may destroy them. Setting another central widget
+    // destroys the view; clearing the scene destroys the item.
     QPointer<QUndoView> m_undoView;
     QPointer<View> m_view;
     QPointer<QToolBar> m_toolBar;

@@ -24,8 +24,9 @@ constexpr double levelsPerLogScale = 72.13475204444816;
 
 constexpr int backgroundDarkening = 200;
 
-// The style of a scroll bar divides in 32 bits by range plus page and by twice the range: the
-// widest sum that is not zero there, the range whose double is, and the largest page of a widget.
+// The style of a scroll bar divides, in 32 bits, by range plus page and by twice the range. These
+// are the widest sum that is not zero there, the range whose double is zero there, and the largest
+// page of a widget.
 constexpr qint64 widestScroll = std::numeric_limits<quint32>::max();
 constexpr qint64 unpaintableRange = qint64(std::numeric_limits<int>::max()) + 1;
 constexpr qint64 largestPagePx = QWIDGETSIZE_MAX;
@@ -43,16 +44,16 @@ double scaleOf(double level)
     return std::pow(2.0, (level - unitScaleLevel) * exponentPerLevel);
 }
 
-/// How far the wheel was turned: along the axis that it was turned further along, the vertical one
-/// if they are equal.
+/// How far the wheel was turned along the axis with the larger turn, the vertical one if both are
+/// equal.
 int mainDelta(const QWheelEvent& event)
 {
     const QPoint delta = event.angleDelta();
     return std::abs(qint64(delta.x())) > std::abs(qint64(delta.y())) ? delta.x() : delta.y();
 }
 
-/// Keeps a scroll bar from ranges that its style cannot paint. A drawing seen from very near is
-/// wider than whole numbers reach, and the style's sums then come to zero.
+/// Keeps a scroll bar from ranges that its style cannot paint. A drawing at a very large scale is
+/// wider than an int can say, and the style's sums then become zero.
 void repairRange(QScrollBar& bar)
 {
     const qint64 range = qint64(bar.maximum()) - bar.minimum();
@@ -85,7 +86,7 @@ View::~View() = default;
 void View::zoomCalc(int scaleIncrement)
 {
     if (qFuzzyCompare(m_zoomLevel, 0.0)) {
-        // Who hears that may destroy the view.
+        // A message handler may destroy the view.
         const QPointer<View> self(this);
         qDebug("we need to calculate scale factor");
         if (!self)

@@ -11,8 +11,8 @@
  * is held.
  *
  * The zoom is a level on a linear scale: 250 is scale 1, and every 50 levels double it. The level
- * is taken from the transform at the first step and not after: a step after a transform that was
- * set elsewhere jumps to the scale of the stored level.
+ * is taken from the transform at the first step only. If the transform is set elsewhere later, the
+ * next step jumps to the scale of the stored level.
  */
 class DXFVIEWER_EXPORT View : public QGraphicsView
 {
