@@ -50,7 +50,7 @@ void Appearance::setGround(Ground ground)
         action->setChecked(action->data().toString() == nameOf(ground));
     applyToView();
     colorShown();
-    // What an undo brings back has the colours of the time when it was erased.
+    // Polylines that an undo brings back have the colours of the moment when they were erased.
     if (DXFEditor* editor = currentEditor(m_viewer))
         connect(editor->stack(), &QUndoStack::indexChanged, this, &Appearance::colorShown,
                 Qt::UniqueConnection);

@@ -26,7 +26,7 @@ public:
     Ground ground() const { return m_ground; }
     void setGround(Ground ground);
 
-    /// Gives a document that will be shown its colours, so that it is never seen in others.
+    /// Gives a document its colours before it is shown, so that it is never seen in other ones.
     void color(DXFDocument& document) const;
 
 Q_SIGNALS:

@@ -14,13 +14,13 @@
 namespace
 {
 
-// Often enough for a bar that moves, and nothing beside the reading.
+// Often enough for a bar that moves, and cheap compared with the reading.
 constexpr int progressIntervalMs = 50;
 
 } // namespace
 
-/// What the thread works on. The watch is for both threads; the rest is the reading thread's until
-/// it has ended.
+/// What the thread works on. Both threads use the watch. The rest belongs to the reading thread
+/// until that has ended.
 struct BackgroundReader::Job {
     QString fileName;
     ReadingChoices choices;
@@ -51,8 +51,8 @@ void BackgroundReader::read(const QString& fileName, const ReadingChoices& choic
     stop();
     m_fileName = fileName;
     m_choices = choices;
-    // Two reads at once would get into each other's way: reading sets the locale aside. The next
-    // one begins when the thread of the former has ended.
+    // Two reads at once would disturb each other: reading changes the locale. The next read begins
+    // when the former thread has ended.
     if (!m_thread)
         start();
     Q_EMIT readingChanged();

@@ -27,7 +27,7 @@ public:
 
     /// Begins to read a file, and throws away what is being read.
     void read(const QString& fileName, const ReadingChoices& choices = {});
-    /// Throws away what is being read. Nothing is told of it any more.
+    /// Throws away what is being read. No further signal tells of it.
     void cancel();
 
     bool isReading() const { return !m_fileName.isEmpty(); }
@@ -35,7 +35,7 @@ public:
     QString fileName() const { return m_fileName; }
 
 Q_SIGNALS:
-    /// A read begins or ends, for whatever reason.
+    /// A read begins or ends, for any reason.
     void readingChanged();
     /// How much of the file has been read, from 0 to 1, some times in a second.
     void progressed(double share);
@@ -56,5 +56,5 @@ private:
     QTimer m_progressTimer;
 };
 
-/// Lets go of a drawing in another thread: freeing a large one takes its time.
+/// Frees a drawing in another thread: freeing a large one takes time.
 void freeInBackground(QSharedPointer<DXFDocument> document);

@@ -30,7 +30,7 @@ public:
     bool wantsReport() const { return m_parser.isSet(m_report); }
     bool isVerbose() const { return m_parser.isSet(m_verbose); }
     QString picture() const { return m_parser.value(m_picture); }
-    /// What a picture lies on.
+    /// The ground of a picture.
     Ground ground() const;
     QStringList drawings() const { return m_parser.positionalArguments(); }
 

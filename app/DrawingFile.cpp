@@ -20,7 +20,7 @@ struct DrawingFileTexts {
 // The drawing and what is read from it must fit into memory.
 constexpr qint64 largestDrawingBytes = 512LL * 1024 * 1024;
 
-// Read in pieces, between which the user may think better of it.
+// Read in pieces: between two of them the user may cancel.
 constexpr qint64 pieceBytes = 1024LL * 1024;
 
 constexpr int binaryBeginBytes = 22;
@@ -33,8 +33,8 @@ bool isBlank(char character)
     return character == ' ' || character == '\t' || character == '\r';
 }
 
-/// Whether there is nothing but blanks between this place and the end of its line, in the direction
-/// of the step.
+/// Whether there are only blanks between this place and the end of its line, in the direction of
+/// the step.
 template <typename Index>
 bool isRestBlank(const QByteArray& text, Index at, Index step)
 {
@@ -43,7 +43,7 @@ bool isRestBlank(const QByteArray& text, Index at, Index step)
     return at < 0 || at >= text.size() || text.at(at) == '\n';
 }
 
-/// Whether there is a line with this text, which may have blanks about it.
+/// Whether there is a line with this text, possibly with blanks around it.
 bool hasLine(const QByteArray& text, const QByteArray& line)
 {
     using Index = decltype(text.size());
@@ -77,7 +77,7 @@ QString whyNoDrawing(const QByteArray& content)
 
 QString whyNotReadable(const QFileInfo& info)
 {
-    // A link that leads nowhere does not exist either.
+    // exists() is false for a broken link too.
     if (!info.exists())
         return DrawingFileTexts::tr("There is no such file.");
     if (!info.isFile())
@@ -87,7 +87,7 @@ QString whyNotReadable(const QFileInfo& info)
     return QString();
 }
 
-/// What the file holds, which may be more by now than its size was.
+/// What the file holds. It may have grown since its size was asked for.
 QByteArray contentOf(QFile& file, const ReadingWatch& watch)
 {
     QByteArray content;
@@ -132,7 +132,7 @@ std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason,
 
 bool writeFile(const QString& fileName, const QByteArray& content, QString& reason)
 {
-    // A file takes the place of what has its name, and that must not be a device.
+    // The new file replaces whatever has its name, and that must not be a device.
     const QFileInfo info(fileName);
     if (info.exists() && !info.isFile()) {
         reason = DrawingFileTexts::tr("It is not a regular file.");

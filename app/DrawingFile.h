@@ -12,12 +12,12 @@ class ReadingWatch;
 /**
  * Reads the text of a drawing, for DXFViewer::loadData().
  *
- * The window tells nobody whether a drawing could be read, and forgets the old one in any case. So
- * what is evidently no drawing is refused here, before the window hears of it: nothing is returned,
- * and the reason, a sentence for the user, is set.
+ * The window does not say whether a drawing could be read, and drops the old one in any case. So a
+ * file that is clearly not a drawing is refused here, before the window gets it: then nothing is
+ * returned, and the reason, a sentence for the user, is set.
  */
 std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason);
-/// The same for as long as the watch lets it go on: throws Cancelled if that ends.
+/// The same, but throws Cancelled as soon as the watch is cancelled.
 std::optional<QByteArray> readDrawing(const QString& fileName, QString& reason,
                                       const ReadingWatch& watch);
 

@@ -49,8 +49,8 @@ DrawingFiles::~DrawingFiles() = default;
 
 void DrawingFiles::addActionsTo(QMenu& menu)
 {
-    // The drawing window has hidden actions of its own for Ctrl+O and Ctrl+S. Hidden, they leave
-    // the keys to these.
+    // The drawing window has hidden actions of its own for Ctrl+O and Ctrl+S. Because they are
+    // hidden, these actions get the keys.
     connect(addAction(menu, tr("&Open…"), "Ctrl+O"), &QAction::triggered, this,
             &DrawingFiles::chooseDrawing);
     m_recent.serve(*menu.addMenu(tr("Open &Recent")));
@@ -87,7 +87,7 @@ bool DrawingFiles::setChoices(const ReadingChoices& choices)
     if (!mayDiscardEdits())
         return false;
     m_choices = choices;
-    // What is being read now is read again as well.
+    // A drawing that is being read now is read again, too.
     const QString fileName = m_reader.isReading() ? m_reader.fileName() : m_fileName;
     m_discardedRevision = m_history.revision();
     if (!fileName.isEmpty())
@@ -97,10 +97,10 @@ bool DrawingFiles::setChoices(const ReadingChoices& choices)
 
 void DrawingFiles::onRead(const QString& fileName, const DrawingRead& result)
 {
-    // Who asks for yet another drawing does not wait for this one any more.
+    // The user has asked for another drawing and does not wait for this one any more.
     if (m_reader.isReading())
         return freeInBackground(result.document);
-    // A dialog is about the drawing that is shown, and that must not change behind it.
+    // A dialog concerns the drawing that is shown, and that must not change behind it.
     if (QApplication::activeModalWidget()) {
         QTimer::singleShot(dialogWaitMs, this,
                            [this, fileName, result] { onRead(fileName, result); });
@@ -112,7 +112,7 @@ void DrawingFiles::onRead(const QString& fileName, const DrawingRead& result)
         showError(m_window, tr("The drawing cannot be opened."), fileName, result.reason);
         return;
     }
-    // There may be edits of the time while it was being read.
+    // There may be edits that were made while it was being read.
     if (m_history.revision() == m_discardedRevision || mayDiscardEdits())
         show(fileName, result);
     else
@@ -132,7 +132,7 @@ void DrawingFiles::show(const QString& fileName, const DrawingRead& drawing)
     setFileName(fileName);
     m_recent.add(fileName);
     Q_EMIT drawingRead(*m_awaited);
-    // Until the drawing is fitted there is nothing to be seen of it.
+    // The drawing must not be seen before it is fitted.
     drawingView(m_viewer).setUpdatesEnabled(false);
     m_viewer.loadDocument(m_awaited);
     m_drawingDue.start();
@@ -160,7 +160,7 @@ void DrawingFiles::chooseDrawing()
         open(fileName);
 }
 
-/// Where the user was last.
+/// The folder of the drawing, or of the last one.
 QString DrawingFiles::folder() const
 {
     const QString last = m_fileName.isEmpty() ? m_recent.names().value(0) : m_fileName;
@@ -183,7 +183,7 @@ bool DrawingFiles::saveAs()
 {
     QFileDialog dialog(&m_window, tr("Save As"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // One question is enough, and this program's says more.
+    // One question is enough, and the program's own says more.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setNameFilters({tr("DXF drawings (*.dxf *.DXF)")});
     dialog.setDefaultSuffix(QStringLiteral("dxf"));

@@ -23,7 +23,7 @@ class QWidget;
  * The file that is shown: opening another, saving, and the questions on the way.
  *
  * A drawing is read in the background; the one that is shown stays until then. The drawing window
- * does not say when a drawing is on screen, nor which file it is from. This does.
+ * does not say when a drawing is on screen or which file it is from. This class does.
  */
 class DrawingFiles : public QObject
 {
@@ -40,7 +40,7 @@ public:
     /// Shows the drawing, after the user has agreed to throw unsaved edits away. If it cannot be
     /// read, a box says why, and the drawing on screen stays.
     void open(const QString& fileName);
-    /// Saves where the drawing was saved before, or asks for a name the first time.
+    /// Saves to the file of the last save, or asks for a name the first time.
     bool save();
     bool saveAs();
     /// Asks before unsaved edits are thrown away, and offers to save them.
@@ -60,7 +60,7 @@ public:
 
 Q_SIGNALS:
     void fileNameChanged();
-    /// The drawing will be shown, and can be prepared for that.
+    /// The drawing is about to be shown. A slot can prepare it for that.
     void drawingRead(DXFDocument& document);
     /// The drawing is on screen.
     void drawingShown();
@@ -87,9 +87,9 @@ private:
     QVector<QAction*> m_drawingActions;
 
     QString m_fileName;
-    // The file that was opened holds more than the window can save, until it is replaced.
+    // The file that was opened: it holds more than the window can save. Empty once it is replaced.
     QString m_richerFile;
-    // What was saved last, and is replaced without a question if nobody else has changed it.
+    // The file of the last save. It is replaced without a question if nobody else has changed it.
     FileMark m_saved;
     // The edits that the user has agreed to throw away for the drawing that is being read.
     int m_discardedRevision = 0;

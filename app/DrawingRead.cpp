@@ -22,7 +22,7 @@ struct DrawingReadTexts {
     Q_DECLARE_TR_FUNCTIONS(DrawingRead)
 };
 
-/// A reader that tells where it is, and stops when it is told to.
+/// A reader that tells its place, and stops if it is cancelled.
 template <typename Reader>
 class WatchedReader : public Reader
 {

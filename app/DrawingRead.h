@@ -11,14 +11,14 @@
 class DXFDocument;
 class ReadingWatch;
 
-/// What came of reading a file.
+/// The result of reading a file.
 struct DrawingRead {
     /// Null if it could not be read. It is not set up: ids are given in the GUI thread only.
     QSharedPointer<DXFDocument> document;
     /// Why it could not be read, a sentence for the user; empty if it was cancelled.
     QString reason;
-    /// How many entities became polylines, and how many are not shown, by their names in DXF. Not
-    /// known when only polylines are read.
+    /// How many entities became polylines, and how many are not shown, by their names in DXF. Empty
+    /// if only polylines are read.
     QMap<QString, int> shown;
     QMap<QString, int> skipped;
 };

@@ -28,7 +28,7 @@ EditHistory::EditHistory(DXFViewer& viewer, QObject* parent)
     connect(&m_strokes, &StrokeHistory::beginningLost, this, [this] {
         Q_EMIT told(tr("The stroke was too long: its first part can no longer be undone."));
     });
-    // Without edit mode the key is for others.
+    // Without edit mode the key belongs to others.
     m_escape->setEnabled(false);
     connect(m_escape, &QShortcut::activated, &edit, [&edit] { edit.setChecked(false); });
     toolBar(m_viewer).addAction(m_strokes.undoAction());
@@ -64,7 +64,7 @@ void EditHistory::giveUpDrawing()
 void EditHistory::onEditToggled(bool isOn)
 {
     m_escape->setEnabled(isOn);
-    // The old stack has left the group when edit mode ended.
+    // The old stack is no longer active in the group: edit mode has ended.
     if (DXFEditor* editor = isOn ? currentEditor(m_viewer) : nullptr)
         follow(*editor);
     else if (m_hasSteps && !m_isGivingUp)
@@ -83,7 +83,8 @@ void EditHistory::follow(DXFEditor& editor)
 
 void EditHistory::onEditorGone()
 {
-    // The drawing is left disabled, and what is disabled swallows the presses that would pan.
+    // The end of edit mode leaves the drawing disabled, and a disabled item takes the presses that
+    // would pan.
     if (DXFGraphicsItem* item = shownItem(m_viewer))
         item->setEnabled(true);
 }
@@ -96,7 +97,7 @@ void EditHistory::onStackMoved()
 
 void EditHistory::onCleanChanged(bool /*isClean*/)
 {
-    // Without a stack the edits made so far are there to stay.
+    // Without a stack the edits made so far cannot be undone any more.
     if (!m_group.activeStack())
         m_hasLastingEdits = m_hasUnsavedEdits;
     update();

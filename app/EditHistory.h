@@ -14,10 +14,11 @@ class QMenu;
 class QShortcut;
 
 /**
- * Edit mode: its undo stacks, one after the other, and whether there are edits that no file has.
+ * Edit mode: its undo stacks, one after the other, and whether there are unsaved edits.
  *
  * Edit mode has a stack of its own each time. Edits whose stack is gone can no longer be undone,
- * only saved. The drawing window must go before its history: its stack leaves the group.
+ * only saved. The drawing window must be destroyed before its history, so that its stack leaves the
+ * group.
  */
 class EditHistory : public QObject
 {
@@ -36,13 +37,13 @@ public:
     /// Ends edit mode because another drawing takes the place of this one, and forgets the edits.
     void giveUpDrawing();
 
-    /// Another number after each edit, undo and redo.
+    /// A new number after each edit, undo and redo.
     int revision() const { return m_revision; }
 
 Q_SIGNALS:
     /// hasUnsavedEdits() may have changed.
     void changed();
-    /// There is something that the user should know; a sentence for the status bar.
+    /// The user should know this: a sentence for the status bar.
     void told(const QString& sentence);
 
 private Q_SLOTS:
@@ -56,12 +57,12 @@ private:
     void update();
 
     DXFViewer& m_viewer;
-    // Its actions follow the stacks.
+    // The stacks, of which one is active.
     QUndoGroup m_group;
     StrokeHistory m_strokes;
     QShortcut* m_escape;
     int m_revision = 0;
-    // Of the present period of edit mode, or the one that has just ended.
+    // About this period of edit mode, or the one that has just ended.
     bool m_hasSteps = false;
     bool m_isGivingUp = false;
     bool m_hasLastingEdits = false;

@@ -23,9 +23,9 @@ EmptyPage::EmptyPage(QAbstractScrollArea& view)
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * fontFactor);
     setFont(larger);
-    // Within a view it would be that of the view's own text, whatever the ink is.
+    // Within a view the role would be that of the view's own text, which does not follow the ink.
     setForegroundRole(QPalette::WindowText);
-    // What is dropped or clicked here is meant for the window.
+    // Drops and clicks here are meant for the window.
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(view.rect());
     view.installEventFilter(this);

@@ -15,7 +15,7 @@ public:
     explicit EmptyPage(QAbstractScrollArea& view);
     ~EmptyPage() override;
 
-    /// Shows the words, dark or light as the ground asks. Without words the page is not seen.
+    /// Shows the words. Without words the page is hidden.
     void showWords(const QString& words);
     void setInk(const QColor& color);
 

@@ -9,6 +9,6 @@
 /// The rectangle with a margin on each side, in shares of its longer side.
 QRectF grown(const QRectF& rect, double share);
 
-/// The bounds as a rectangle that can be divided by. What has no extent, or next to none for where
-/// it lies, becomes one drawing unit wide and high.
+/// The bounds as a rectangle whose size can be divided by. Bounds without extent, or with a very
+/// small one for their distance from the origin, become one drawing unit wide and high.
 QRectF withExtent(const QRectF& bounds);

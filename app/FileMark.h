@@ -5,16 +5,16 @@
 #include <QDateTime>
 #include <QString>
 
-/// By what is seen later that a file is another one, or was changed.
+/// Remembers a file, to see later whether it is the same one and unchanged.
 class FileMark
 {
 public:
-    /// Of no file.
+    /// A mark of no file.
     FileMark() = default;
     explicit FileMark(const QString& fileName);
 
     bool isOf(const QString& fileName) const;
-    /// Whether the file is there and is not what it was.
+    /// Whether the file exists and has changed.
     bool isChanged() const;
 
 private:

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// What a drawing lies on.
+/// The colour behind a drawing.
 enum class Ground { Dark, Light, White };
 
 QColor colorOf(Ground ground);

@@ -14,7 +14,8 @@
 
 #include <dl_dxf.h>
 
-/// Those of a static library are linked only if they are asked for, which a namespace forbids.
+/// The resources of a static library are linked only if a function asks for them. The macro must
+/// stand outside a namespace.
 static void loadResources()
 {
     Q_INIT_RESOURCE(help);

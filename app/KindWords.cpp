@@ -18,7 +18,7 @@ struct KindWordsTexts {
 struct Kind {
     const char* one;
     const char* many;
-    // In DXF, with blanks between and around them.
+    // The names in DXF, with blanks between and around them.
     const char* names;
 };
 
@@ -78,7 +78,7 @@ struct Words {
     int total = 0;
 };
 
-/// The counts in words, what there is most of first.
+/// The counts in words, the largest first.
 Words inWords(const QMap<QString, int>& counts)
 {
     std::array<int, kinds.size()> sums{};

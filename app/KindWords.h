@@ -5,7 +5,7 @@
 #include <QMap>
 #include <QString>
 
-// What a reader counts, in words. The counts go by the names of entities in DXF.
+// The counts of a reader, in words. Their keys are the names of entities in DXF.
 
 /// "Not shown: 12 hatches, 3 images"; empty if nothing was skipped.
 QString notShownSentence(const QMap<QString, int>& skipped);
@@ -14,5 +14,5 @@ QString notShownSentence(const QMap<QString, int>& skipped);
 /// arcs and 2 blocks become polylines. 12 hatches are lost. ..."
 QString changesSentence(const QMap<QString, int>& shown, const QMap<QString, int>& skipped);
 
-/// The same of a drawing of which only the polylines were read.
+/// The same for a drawing of which only the polylines were read.
 QString plainLossesSentence();

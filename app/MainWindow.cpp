@@ -56,7 +56,7 @@ QString draggedDrawing(const QMimeData* data)
 
 void prepareView(QGraphicsView& view)
 {
-    // The view would take what is dropped on it, and do nothing with it.
+    // The view would accept drops and ignore them.
     view.setAcceptDrops(false);
     view.viewport()->setAcceptDrops(false);
 }
@@ -102,7 +102,7 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
-    // What works on it outlives it, the history of its edits above all.
+    // The objects that work on it must live longer, above all the history of its edits.
     delete m_viewer;
 }
 
@@ -194,7 +194,7 @@ void MainWindow::onFileNameChanged()
     for (QAction* action : qAsConst(m_drawingActions))
         action->setEnabled(hasDrawing);
     statusBar()->clearMessage();
-    // A title has a mark of its own in brackets, so that in a name it must be doubled.
+    // In a title [*] is a placeholder, so in a name it must be doubled.
     QString name = hasDrawing ? readableName(QFileInfo(fileName).fileName()) : tr("No drawing");
     setWindowTitle(name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"))
                    + QLatin1String("[*]"));

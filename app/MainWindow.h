@@ -21,8 +21,7 @@ class WindowMemory;
  *
  * It only puts the parts together: each of them does one job by itself.
  *
- * A habit of the drawing window is good to know: in edit mode a drag with the left button erases,
- * with Ctrl held as well.
+ * Note: in edit mode of the drawing window a drag with the left button erases even if Ctrl is held.
  */
 class MainWindow : public QMainWindow
 {
@@ -60,7 +59,7 @@ private:
     DXFViewer* m_viewer;
     EditHistory* m_history;
     DrawingFiles* m_files;
-    // For which there must be a drawing.
+    // Actions that need a drawing.
     QVector<QAction*> m_drawingActions;
     ViewChoices* m_choices;
     Navigation* m_navigation;

@@ -19,7 +19,7 @@
 namespace
 {
 
-// Of the drawing's longer side, on each side of it.
+// Shares of the drawing's longer side, added on each side.
 constexpr double fitMargin = 0.03;
 constexpr double scrollMargin = 1.0;
 
@@ -46,7 +46,7 @@ Navigation::Navigation(QGraphicsView& view, QObject* parent)
     , m_asStored(new QAction(tr("As &Stored (y Downwards)"), this))
     , m_bounds(withExtent(QRectF()))
 {
-    // A scroll bar that comes and goes would change the size of the window behind it.
+    // A scroll bar that comes and goes would change the size of the viewport.
     view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     view.viewport()->installEventFilter(this);
@@ -61,7 +61,7 @@ Navigation::~Navigation() = default;
 void Navigation::addActionsTo(QMenu& menu)
 {
     QAction* in = menu.addAction(tr("Zoom &In"), this, &Navigation::zoomIn);
-    // Where plus needs Shift, the key is the one of the equals sign.
+    // On keyboards where plus needs Shift, the user presses the key of the equals sign.
     in->setShortcuts(QKeySequence::keyBindings(QKeySequence::ZoomIn)
                      << QKeySequence::fromString(QStringLiteral("Ctrl+=")));
     QAction* out = menu.addAction(tr("Zoom &Out"), this, &Navigation::zoomOut);
@@ -124,7 +124,7 @@ bool Navigation::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Resize:
-        // The view has not taken the new size in yet.
+        // The view does not have the new size yet.
         if (m_isFitted)
             QMetaObject::invokeMethod(this, &Navigation::fit, Qt::QueuedConnection);
         else
@@ -169,13 +169,14 @@ bool Navigation::takeMouse(const QMouseEvent& event)
     }
     if (event.button() != Qt::MiddleButton)
         return false;
-    // A second button in a stroke of the eraser is no business of the eraser's either.
+    // If a second button is pressed during a stroke of the eraser, neither this class nor the
+    // eraser takes it.
     m_isPanning = event.type() != QEvent::MouseButtonRelease && event.buttons() == Qt::MiddleButton;
     m_panPlace = place;
     return true;
 }
 
-/// Whatever else scrolls, the user wants to see what is there.
+/// Any other scrolling comes from the user, who wants to see that part.
 void Navigation::noteScroll()
 {
     if (!m_isMoving)
@@ -188,7 +189,7 @@ void Navigation::zoomAtCenter(double factor)
         zoomAt(QRectF(m_view->viewport()->rect()).center(), factor);
 }
 
-/// Zooms, and keeps what is at this place of the window where it is.
+/// Zooms, and keeps the point at this place of the window where it is.
 void Navigation::zoomAt(const QPointF& place, double factor)
 {
     if (!m_view)
@@ -225,7 +226,7 @@ double Navigation::scaleThatFits() const
                      1.0 / std::max(wanted.width(), wanted.height())});
 }
 
-/// More exact than the view's own mapping, which knows whole pixels only.
+/// More exact than the view's own mapping, which uses whole pixels only.
 QPointF Navigation::sceneAt(const QPointF& place) const
 {
     return m_view->viewportTransform().inverted().map(place);

@@ -15,10 +15,11 @@ class QWheelEvent;
 /**
  * Zooming, fitting, panning, and which way up the drawing stands.
  *
- * Drawings have y upwards, the scene has it downwards, so the view is mirrored. The view's own zoom
- * steps would undo that: here Ctrl and the wheel are taken before the view hears of them.
+ * The y axis of drawings points up, that of the scene points down, so the view is mirrored. The
+ * view's own zoom steps would undo that. So this class takes Ctrl and the wheel before the view
+ * gets them.
  *
- * The whole drawing stays in sight while the window changes its size, until the user zooms or pans.
+ * The whole drawing stays fitted while the window changes its size, until the user zooms or pans.
  */
 class Navigation : public QObject
 {
@@ -73,7 +74,7 @@ private:
     bool m_isAsStored = false;
     bool m_isFitted = true;
     bool m_isPanning = false;
-    // While this scrolls and zooms, and not the user.
+    // True while this class scrolls and zooms, not the user.
     bool m_isMoving = false;
     QPoint m_panPlace;
 };

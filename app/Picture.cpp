@@ -32,7 +32,7 @@ constexpr int thinnestOnPaperPx = 1;
 constexpr int thinnestOnScreenPx = 2;
 constexpr double pointsPerInch = 72.0;
 
-/// Runs of segments that continue each other.
+/// Runs of connected segments.
 QVector<QPolygonF> runsOf(const DXFPolyline& polyline)
 {
     QVector<QPolygonF> runs;
@@ -57,19 +57,19 @@ std::optional<QRectF> withMargin(const QRectF& rect)
     const double size = std::max(rect.width(), rect.height());
     const double margin = size > 0.0 ? size * marginPerSize : 1.0;
     const QRectF grown = rect.adjusted(-margin, -margin, margin, margin);
-    // A margin that is lost in rounding leaves nothing to divide by.
+    // If rounding removes the margin, the size is 0 and cannot be divided by.
     if (!isFinite(grown) || grown.isEmpty())
         return std::nullopt;
     return grown;
 }
 
-/// The drawing unit's place in a picture of this size.
+/// Maps drawing units to a picture of this size.
 QTransform fitted(const QRectF& bounds, const QSize& size)
 {
     const double scale = std::min(size.width() / bounds.width(), size.height() / bounds.height());
     QTransform transform;
     transform.translate(size.width() / 2.0, size.height() / 2.0);
-    // Drawings have y upwards, pictures downwards.
+    // The y axis of drawings points up, that of pictures down.
     transform.scale(scale, -scale);
     transform.translate(-bounds.center().x(), -bounds.center().y());
     return transform;
@@ -184,8 +184,8 @@ QByteArray Picture::png() const
     QImage image(size(), QImage::Format_RGB32);
     if (image.isNull())
         return QByteArray();
-    // A line between two rows of pixels, or thinner than they are, would be mixed with the ground
-    // and could no longer be told from it.
+    // Not smoothed. A smoothed line between two rows of pixels, or thinner than a pixel, would mix
+    // with the ground and be hard to see.
     image.fill(m_ground);
     QPainter painter(&image);
     paintStrokes(painter, thinnestOnScreenPx);
@@ -203,7 +203,7 @@ QByteArray Picture::svg() const
     buffer.open(QIODevice::WriteOnly);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    // The generator writes it as it is.
+    // The generator does not escape it.
     generator.setTitle(m_title.toHtmlEscaped());
     generator.setDescription(QString());
     // Gives the size in millimetres, the same as that of the page.

@@ -18,7 +18,7 @@ class QByteArray;
 class QPainter;
 
 /**
- * A picture of a whole drawing, whatever part of it the window shows: in its own colours, with y
+ * A picture of a whole drawing, not only of the part in the window: in its own colours, with y
  * upwards.
  *
  * It is taken when it is constructed: later edits do not change it.
@@ -32,16 +32,16 @@ public:
     Picture(const QSharedPointer<DXFDocument>& document, const QColor& ground,
             const QString& title = QString());
 
-    /// The endings of the file names that write() takes: png, svg, pdf.
+    /// The file name suffixes that write() accepts: png, svg, pdf.
     static QStringList suffixes();
 
-    /// Writes a file in the format that its name ends in. On failure false is returned, and the
-    /// reason, a sentence for the user, is set.
+    /// Writes a file in the format of its suffix. On failure false is returned, and the reason, a
+    /// sentence for the user, is set.
     bool write(const QString& fileName, QString& reason) const;
 
     /// Whether the drawing is wider than it is high.
     bool isWide() const;
-    /// Paints it as large as it fits into a rectangle, without ground.
+    /// Paints it into a rectangle, as large as it fits, without ground.
     void paintInto(QPainter& painter, const QRectF& rect) const;
 
 private:

@@ -17,7 +17,7 @@
 namespace
 {
 
-/// How a document ends that was written whole.
+/// How a completely written document ends.
 const QByteArray endOfDocument = "%%EOF";
 constexpr qint64 longestEnd = 64;
 
@@ -28,7 +28,7 @@ void prepare(QPrinter& printer, const Picture& picture, const QString& fileName)
     printer.setPageOrientation(picture.isWide() ? QPageLayout::Landscape : QPageLayout::Portrait);
 }
 
-/// False if the printer takes no page.
+/// False if the printer does not take the page.
 bool paintPage(QPrinter& printer, const Picture& picture)
 {
     QPainter painter;
@@ -39,10 +39,10 @@ bool paintPage(QPrinter& printer, const Picture& picture)
     return painter.end() && printer.printerState() != QPrinter::Error;
 }
 
-/// Whether the file that was printed to is there to its end: nobody tells of a disk that is full.
+/// Whether the printed file is complete: a full disk is not reported.
 bool isWhole(const QString& fileName)
 {
-    // Of a device nothing is known, and to open a pipe could wait for ever.
+    // Nothing is known about a device, and opening a pipe could wait for ever.
     QFile file(fileName);
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
         return false;

@@ -12,19 +12,19 @@ class QWidget;
 /**
  * Puts a whole drawing on one page: fitted, the right way up, on white.
  *
- * A page lies as the drawing does, along or across, unless the user turns it.
+ * The page is landscape if the drawing is wider than high, unless the user turns it.
  */
 class Printing
 {
     Q_DECLARE_TR_FUNCTIONS(Printing)
 
 public:
-    /// The name is that of the drawing's file. Dialogs and boxes belong to the window.
+    /// The name is the one of the drawing's file. Dialogs and boxes belong to the window.
     Printing(const QSharedPointer<DXFDocument>& document, const QString& fileName, QWidget& window);
 
     /// Asks for the printer, and prints.
     void print() const;
-    /// Shows the page, from where it can be printed.
+    /// Shows the page in a dialog from which it can be printed.
     void preview() const;
 
 private:

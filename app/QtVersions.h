@@ -7,7 +7,7 @@
 #include <QString>
 
 /// @file
-/// What is called by another name in Qt 5 and in Qt 6. Nothing else asks for the version.
+/// What has different names in Qt 5 and Qt 6. No other file asks for the version.
 
 /// Where Qt has the translations of its own texts.
 inline QString qtTranslationsFolder()

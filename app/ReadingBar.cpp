@@ -42,7 +42,7 @@ ReadingBar::ReadingBar(BackgroundReader& reader, QWidget* parent)
 
 void ReadingBar::onReadingChanged()
 {
-    // What is read before the first progress comes has no need of a bar that flashes up.
+    // Shown only at the first progress: a short read must not make a bar flash up.
     if (!m_reader.isReading())
         hide();
     m_bar->setValue(0);

@@ -8,7 +8,7 @@ class BackgroundReader;
 class QLabel;
 class QProgressBar;
 
-/// Shows, while a drawing is being read, how much of it has been, and lets the user call it off.
+/// Shows the progress while a drawing is being read, and lets the user cancel.
 class ReadingBar : public QWidget
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 namespace
 {
 
-// Some hundred thousand groups are read in a second.
+// Some hundred thousand groups are read per second.
 constexpr int groupsBetweenLooks = 256;
 
 /// In the binary form a value has its code before it.

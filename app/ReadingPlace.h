@@ -9,10 +9,10 @@
 class ReadingWatch;
 
 /**
- * How far a reader is in a drawing, told by the groups that it is given.
+ * How far a reader is in a drawing, computed from the groups that it gets.
  *
- * Each of them is two lines of the text. Where the text is none, or is repaired while it is read,
- * the place is an estimate.
+ * Each group is two lines of the text. If the drawing is binary, or its text is repaired while it
+ * is read, the place is an estimate.
  */
 class ReadingPlace
 {
@@ -20,7 +20,8 @@ public:
     /// Both must outlive it.
     ReadingPlace(const QByteArray& content, ReadingWatch& watch);
 
-    /// Tells the watch now and then. Throws Cancelled, which ends the read, if that is wanted.
+    /// Tells the watch now and then. Throws Cancelled, which ends the read, if the watch is
+    /// cancelled.
     void noteGroup(std::size_t valueLength);
 
     /// How much has been read, from 0 to 1.

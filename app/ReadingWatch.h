@@ -6,20 +6,20 @@
 
 #include <atomic>
 
-/// What a thread that reads a drawing and the one that waits for it tell each other.
+/// What the thread that reads a drawing and the thread that waits for it tell each other.
 class ReadingWatch
 {
 public:
     ReadingWatch() = default;
 
-    /// For whoever waits.
+    /// For the thread that waits.
     /// @{
     void cancel() { m_isCancelled = true; }
     /// How much of the file has been read, from 0 to 1.
     double share() const { return m_share; }
     /// @}
 
-    /// For whoever reads.
+    /// For the thread that reads.
     /// @{
     bool isCancelled() const { return m_isCancelled; }
     void setShare(double share) { m_share = share; }

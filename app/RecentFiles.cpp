@@ -14,7 +14,7 @@ namespace
 
 constexpr const char* key = "recentDrawings";
 
-// Of names in the settings that are longer no system makes files.
+// No system has longer file names, but the settings may.
 constexpr int longestName = 4096;
 
 bool isUsable(const QString& fileName)
@@ -39,7 +39,7 @@ RecentFiles::RecentFiles(QSettings& settings, QObject* parent)
 
 QStringList RecentFiles::names() const
 {
-    // Another program may have written there, or anybody anything.
+    // Another program may have changed them, and they may hold anything.
     m_settings.sync();
     QStringList names;
     const QStringList stored = m_settings.value(QLatin1String(key)).toStringList();

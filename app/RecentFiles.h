@@ -11,8 +11,7 @@ class QSettings;
 /**
  * The drawings that were opened last, the newest first, and the menu that offers them.
  *
- * They are remembered at once, so that windows and programs that run side by side know of each
- * other's.
+ * They are stored at once, so that windows and programs that run side by side see each other's.
  */
 class RecentFiles : public QObject
 {

@@ -17,7 +17,7 @@ namespace
 
 constexpr int digits = 15;
 
-/// A sum that does not lose what is small beside what has come together.
+/// A sum that does not lose small values beside a large total.
 class Sum
 {
 public:
@@ -74,7 +74,7 @@ QByteArray reportLine(const QString& fileName, const Measures& measures,
 {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     const auto box = measures.box.value_or(Measures::Box{QPointF(none, none), QPointF(none, none)});
-    // A name that would break the line, or take a field more, is still one field.
+    // A name with a line end or a tab must still be one field.
     QByteArray line = QFile::encodeName(fileName).replace('\t', ' ').replace('\n', ' ');
     for (const double number :
          {measures.length, box.least.x(), box.least.y(), box.greatest.x(), box.greatest.y()})

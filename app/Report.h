@@ -11,7 +11,7 @@
 
 class DXFDocument;
 
-/// What the segments of a drawing come to, seen from above, in drawing units.
+/// The measures of a drawing's segments, seen from above, in drawing units.
 struct Measures {
     struct Box {
         QPointF least;
@@ -23,11 +23,11 @@ struct Measures {
     std::optional<Box> box;
 };
 
-/// Of a document that is set up: its segments are what is measured.
+/// Measures the segments of a document, which must be set up.
 Measures measuresOf(const DXFDocument& document);
 
 /// One line with tabs between its fields: file, length, least x and y, greatest x and y, and what
-/// was skipped as KIND=COUNT with commas between. Numbers have 15 digits; those of an empty box are
-/// nan.
+/// was skipped, as KIND=COUNT separated by commas. Numbers have 15 digits; if there is no box, its
+/// numbers are nan.
 QByteArray reportLine(const QString& fileName, const Measures& measures,
                       const QMap<QString, int>& skipped);

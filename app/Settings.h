@@ -5,7 +5,7 @@
 #include <QSettings>
 
 /// What the program remembers from run to run: one file for all of its parts, in the user's folder
-/// for such files. What stands in it may be anything.
+/// for such files. The file may hold anything.
 class Settings : public QSettings
 {
 public:

@@ -25,8 +25,8 @@
 namespace
 {
 
-// Erasing changes the drawing twenty times a second. Counting a large one takes some milliseconds,
-// and is given this share of the time at most.
+// Erasing changes the drawing twenty times a second. Counting a large drawing takes some
+// milliseconds, so it may use one part in countShare of the time at most.
 constexpr int countDelayMs = 100;
 constexpr int countShare = 20;
 constexpr int mostDecimals = 9;
@@ -38,7 +38,8 @@ int decimalsAt(double scale)
                       mostDecimals);
 }
 
-/// A text whose width changes with every digit would move all the others.
+/// Keeps the largest width so far: a width that changes with every digit would move all other
+/// fields.
 void setSteadyText(QLabel& label, const QString& text)
 {
     label.setText(text);
@@ -97,7 +98,7 @@ void StatusLine::setZoom(double zoom)
 
 void StatusLine::countLater()
 {
-    // Not started again by each change, or a long stroke would see no count at all.
+    // Not restarted by each change: otherwise there would be no count during a long stroke.
     if (!m_countTimer.isActive())
         m_countTimer.start();
 }
@@ -131,7 +132,7 @@ void StatusLine::onEditToggled(bool isOn)
     // The window's own slot runs first, so the editor is there.
     if (DXFEditor* editor = isOn ? currentEditor(m_viewer) : nullptr) {
         connect(editor->stack(), &QUndoStack::indexChanged, this, &StatusLine::countLater);
-        // Edit mode in another window ends it without a word.
+        // Edit mode in another window ends this one without a signal.
         connect(editor, &QObject::destroyed, this, &StatusLine::showHint, Qt::QueuedConnection);
     }
     showHint();

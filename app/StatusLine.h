@@ -12,8 +12,8 @@ class QLabel;
 class QStatusBar;
 
 /**
- * What the status bar says all the time: the pointer's place, the zoom, how much there is, and on
- * the left what is not shown or, in edit mode, how to erase.
+ * What the status bar says all the time: the pointer's place, the number of polylines and segments,
+ * the zoom, and on the left what is not shown or, in edit mode, how to erase.
  */
 class StatusLine : public QObject
 {

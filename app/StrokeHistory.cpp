@@ -18,13 +18,13 @@
 namespace
 {
 
-// What the library keeps without being asked.
+// The library keeps these anyway.
 constexpr int fewestSteps = 10;
 // The stack keeps a list of its steps, and nobody goes back further.
 constexpr int mostSteps = 100000;
 
-// What steps keep: the first a record of each entity, the others what they share of these, and each
-// the segments of the polylines that it cuts.
+// The memory of steps: the first step makes a record of each entity, which later steps share. Each
+// step keeps an entry for each entity, and the segments of the polylines that it cuts.
 constexpr qint64 recordBytes = 160;
 constexpr qint64 bytesPerStep = 1024;
 constexpr qint64 bytesPerEntity = 24;
@@ -87,7 +87,7 @@ void StrokeHistory::follow(DXFEditor& editor, const DXFDocument& document)
     m_stack->setUndoLimit(stepsThatFit(m_memoryBytes, document));
     connect(m_stack, &QUndoStack::indexChanged, this, &StrokeHistory::onIndexChanged);
     connect(m_stack, &QObject::destroyed, this, &StrokeHistory::forget);
-    // Those that the window makes for its tool bar take back single steps.
+    // The actions that the window makes for its tool bar take back single steps.
     const auto singleSteps = editor.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
     for (QAction* action : singleSteps)
         action->setVisible(false);
@@ -116,7 +116,8 @@ bool StrokeHistory::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-/// A stroke that hits nothing begins where the next one does, and leaves no mark of its own.
+/// A stroke that hits nothing begins at the same place as the next one and leaves no mark of its
+/// own.
 void StrokeHistory::beginStroke()
 {
     m_hasToldOfLoss = false;
@@ -136,15 +137,15 @@ void StrokeHistory::onIndexChanged(int index)
     updateActions();
 }
 
-/// Whether the stack got there because a step was added, and not by undo or redo.
+/// Whether the stack got to this index by a new step, not by undo or redo.
 bool StrokeHistory::isPush(int index) const
 {
     const int former = static_cast<int>(m_place - m_dropped);
-    // A full stack drops a step for each that it gets.
+    // A full stack drops one step for each new one.
     if (index == former)
         return index > 0 && index == m_stack->count();
-    // Redo leaves the next step where it is. A push destroys it, and the new one was made before
-    // that, so it lies elsewhere in memory.
+    // Redo keeps the next step. A push destroys it and puts another in its place. That one was made
+    // before, so its address differs.
     return index == former + 1 && m_stack->command(former) != m_nextStep;
 }
 
@@ -154,7 +155,8 @@ void StrokeHistory::onPush(int index)
         m_marks.pop_back();
     m_dropped = m_place + 1 - index;
     const bool isBeginningLost = !m_marks.empty() && m_marks.back() < m_dropped;
-    // The mark before the first step that is left says which stroke that belongs to.
+    // The last mark before the first remaining step is kept: it says where the stroke of that step
+    // began.
     while (m_marks.size() > 1 && m_marks[1] <= m_dropped)
         m_marks.pop_front();
     if (isBeginningLost && !m_hasToldOfLoss) {

@@ -30,14 +30,15 @@ public:
     /// The same with another amount of memory for the steps.
     StrokeHistory(QGraphicsView& view, qint64 memoryBytes, QObject* parent = nullptr);
 
-    /// Serves a new period of edit mode, whose stack must still be empty. It ends with the stack.
+    /// Serves a new period of edit mode, whose stack must still be empty, until the stack is
+    /// destroyed.
     void follow(DXFEditor& editor, const DXFDocument& document);
 
     QAction* undoAction() const { return m_undo; }
     QAction* redoAction() const { return m_redo; }
 
-    /// The number of steps that fit into an amount of memory, at least the ten that are kept
-    /// anyway. An estimate: it depends on what the strokes will hit.
+    /// The number of steps that fit into an amount of memory, at least the ten of the library. An
+    /// estimate: it depends on what the strokes will hit.
     static int stepsThatFit(qint64 memoryBytes, const DXFDocument& document);
 
 public Q_SLOTS:
@@ -45,8 +46,8 @@ public Q_SLOTS:
     void redo();
 
 Q_SIGNALS:
-    /// The stroke that is going on, or the one that undo has just gone back in, has lost its first
-    /// part: that can no longer be undone.
+    /// The current stroke, or the one that undo has just taken back, has lost its first part: that
+    /// part can no longer be undone.
     void beginningLost();
 
 protected:
@@ -54,7 +55,7 @@ protected:
 
 private:
     // Places on the stack are counted from the first step of the period of edit mode, so that they
-    // stay when the stack drops steps at its other end.
+    // stay valid when the stack drops its oldest steps.
     using Place = qint64;
 
     QAction* makeAction(const QString& text, const QStringList& keys);
@@ -74,7 +75,7 @@ private:
     /// Where strokes begin, in ascending order.
     std::deque<Place> m_marks;
     Place m_dropped = 0;
-    /// Where the stack was when it last told.
+    /// The place after the last signal of the stack.
     Place m_place = 0;
     const QUndoCommand* m_nextStep = nullptr;
     bool m_hasToldOfLoss = false;

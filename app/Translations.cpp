@@ -11,7 +11,7 @@
 namespace
 {
 
-/// Where the drawing window's .qm files and the program's own are: the build's folder or the
+/// Where the .qm files of the drawing window and of the program are: the build's folder or the
 /// installed one.
 QStringList folders()
 {

@@ -5,5 +5,5 @@
 class QCoreApplication;
 
 /// Makes the program speak the language of the system: Qt's texts, the drawing window's and its
-/// own. Those that there is no translation of stay English.
+/// own. Texts without a translation stay English.
 void installTranslations(QCoreApplication& application);

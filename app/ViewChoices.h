@@ -10,7 +10,7 @@ class DrawingFiles;
 class QAction;
 class QMenu;
 
-/// What of a drawing is shown, as actions: each change reads the drawing again.
+/// The choices of what is shown of a drawing, as actions. Each change reads the drawing again.
 class ViewChoices : public QObject
 {
     Q_OBJECT

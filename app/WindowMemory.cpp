@@ -13,7 +13,7 @@
 namespace
 {
 
-// Of what the screen has for windows, at most.
+// The largest share of the screen's free area for a new window.
 constexpr double initialShare = 0.85;
 constexpr QSize initialSize(1100, 800);
 
@@ -23,7 +23,7 @@ const QString asStoredKey = QStringLiteral("view/asStored");
 const QString textsKey = QStringLiteral("view/texts");
 const QString onlyPolylinesKey = QStringLiteral("view/onlyPolylines");
 
-/// What is neither yes nor no is as it was the first time.
+/// A stored value that is neither true nor false counts as the one of the first run.
 bool choiceIn(const Settings& settings, const QString& key, bool first)
 {
     const QString stored = settings.value(key).toString();

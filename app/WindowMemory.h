@@ -14,8 +14,8 @@ public:
     WindowMemory(QMainWindow& window, Navigation& navigation, Appearance& appearance,
                  ViewChoices& choices);
 
-    /// Gives the window what it had. Where nothing sensible is remembered, it gets a size that fits
-    /// the screen, and the choices of the first time.
+    /// Gives the window what is remembered. For what is not, it gets a size that fits the screen
+    /// and the choices of the first run.
     void restore();
     void remember() const;
 

@@ -32,8 +32,8 @@ int failWithFile(const QString& what, const QString& fileName, const QString& re
     return fail(CommandLine::tr("%1\n%2\n%3").arg(what, readableName(fileName), reason));
 }
 
-/// A drawing without a window. Its document is null, and the user is told why, if it cannot be
-/// read.
+/// Reads a drawing without a window. If it cannot be read, the document is null, and the user is
+/// told why.
 DrawingRead readFile(const QString& fileName, const ReadingChoices& choices)
 {
     ReadingWatch watch;
@@ -87,7 +87,8 @@ int showWindow(const CommandLine& commandLine)
     return QApplication::exec();
 }
 
-/// Whether there will be a window, found out before there is an application that needs a display.
+/// Whether there will be a window. This must be known before there is an application, which needs a
+/// display.
 bool isWindowNeeded(int argc, char** argv)
 {
     QStringList arguments;
@@ -114,7 +115,7 @@ int main(int argc, char** argv)
 
     CommandLine commandLine;
     commandLine.process(QCoreApplication::arguments());
-    // A drawing can bring a hundred thousand lines about what is left out. Warnings stay.
+    // A drawing can cause a hundred thousand messages about what is left out. Warnings stay.
     if (!commandLine.isVerbose())
         QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
     if (!commandLine.mistake().isEmpty())
