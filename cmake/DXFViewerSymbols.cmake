@@ -6,15 +6,15 @@ include(CheckLinkerFlag)
 # the global namespace, with what a derived class needs of them, and these functions.
 #
 # Hidden visibility is not enough: the templates of the standard library, and what dxflib and Qt
-# define in their headers, are declared visible, and every copy that the compiler makes of them
-# would be exported from here as well.
+# define in their headers, are declared visible, and every copy of them that the compiler makes here
+# would be exported as well.
 function(dxfviewer_export_only target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "CLASSES;FUNCTIONS")
 
     set(names "")
     foreach(class IN LISTS arg_CLASSES)
         # A "?" stands for the blank, which a pattern cannot hold. A quoted name could, but some
-        # linkers want quoted names to exist, and not every class has a table of functions.
+        # linkers require quoted names to exist, and not every class has a virtual table.
         string(APPEND names
             "        ${class}::*;\n"
             "        typeinfo?for?${class};\n"

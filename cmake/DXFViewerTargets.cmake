@@ -3,7 +3,7 @@
 include(CheckCXXCompilerFlag)
 
 set(DXFVIEWER_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
-# At -O3 g++ takes the room behind the header of Qt 5's arrays for no room at all.
+# At -O3 g++ believes that there is no room behind the header of Qt 5's arrays, and warns.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     list(APPEND DXFVIEWER_WARNINGS -Wno-stringop-overflow)
 endif()
@@ -26,7 +26,8 @@ function(dxfviewer_target_defaults target)
     if(DXFVIEWER_WERROR)
         target_compile_options(${target} PRIVATE -Werror)
     endif()
-    # A leak detector without frame pointers walks past Qt's libraries only by luck.
+    # Without frame pointers a leak detector cannot reliably follow the calls through Qt's
+    # libraries.
     if(DXFVIEWER_SANITIZE)
         list(JOIN DXFVIEWER_SANITIZE "," sanitizers)
         target_compile_options(${target} PRIVATE

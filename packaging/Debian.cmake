@@ -27,14 +27,15 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(this_version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 
-# What a program needs is read from the program; this build's own library is not installed yet.
+# The dependencies of a program are read from the program; this build's own library is not installed
+# yet.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/dxfviewer")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 
-# CPack would run ldconfig from scripts of its own, but Debian wants the trigger. It leaves its scripts
-# out where others are named, and those that do not exist are no scripts at all.
+# CPack would run ldconfig from scripts of its own, but Debian wants the trigger. CPack leaves its
+# scripts out if others are named, and files that do not exist are not packed.
 file(WRITE "${CMAKE_CURRENT_BINARY_DIR}/triggers" "activate-noawait ldconfig\n")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
     "${CMAKE_CURRENT_BINARY_DIR}/triggers"
@@ -42,7 +43,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA
     "${CMAKE_CURRENT_BINARY_DIR}/no-script/postinst"
     "${CMAKE_CURRENT_BINARY_DIR}/no-script/postrm")
 
-# Each package says in its own first line what it is; CPack would put the project's before it.
+# The first line of each package's description says what it is; CPack would put the project's
+# summary before it.
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 
 set(about "It comes as a window for other programs to embed, with undo, and as the
@@ -70,7 +72,7 @@ ${about}")
 set(CPACK_DEBIAN_APP_PACKAGE_NAME ${app_package})
 set(CPACK_DEBIAN_APP_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_APP_PACKAGE_DEPENDS "${library_package} ${this_version}")
-# Without Qt's own texts, boxes are half English.
+# Without the translations of Qt's own texts, boxes are half English.
 set(CPACK_DEBIAN_APP_PACKAGE_RECOMMENDS "${qt_translations_package}")
 set(CPACK_DEBIAN_APP_DESCRIPTION
 "viewer and eraser for DXF drawings (Qt ${DXFVIEWER_QT_MAJOR})

@@ -54,7 +54,7 @@ void addBox(Drawing& drawing, const std::string& layer, Point corner, double wid
     drawing.addLine(layer, corner.x, opposite.y, corner.x, corner.y);
 }
 
-/// What stands in the drawing more than once, about its own origin.
+/// The blocks, drawn around their own origin: each is in the drawing more than once.
 void addBlocks(Drawing& drawing)
 {
     constexpr double headRadius = 9.0;
@@ -149,7 +149,7 @@ void addHatch(Drawing& drawing, Point corner, double width, double height)
 {
     constexpr double step = 4.0;
     const Point opposite = corner + Point{width, height};
-    // Lines of y = x + c, at the same places in all parts of what is cut.
+    // Lines of y = x + c, at the same places in all parts of the section.
     const double first = std::ceil((corner.y - opposite.x) / step) * step;
     for (double c = first; c < opposite.y - corner.x; c += step) {
         const double left = std::max(corner.x, corner.y - c);

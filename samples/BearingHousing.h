@@ -7,7 +7,7 @@
 namespace samples
 {
 
-/// A bearing in its housing, in millimetres, as a workshop draws it: of lines, arcs, circles, texts
+/// A bearing in its housing, in millimetres, as a workshop draws it: lines, arcs, circles, texts
 /// and inserted blocks, with y upwards.
 Drawing bearingHousing();
 

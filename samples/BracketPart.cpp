@@ -173,7 +173,7 @@ void addGear(Drawing& drawing)
     drawing.add("CENTER-LINES", cross(center, 66));
 }
 
-/// The plate cut along its middle: what is cut is hatched.
+/// The plate cut along its middle. The cut parts are hatched.
 void addSectionView(Drawing& drawing)
 {
     constexpr Point at{0, 200};

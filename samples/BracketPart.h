@@ -7,7 +7,7 @@
 namespace samples
 {
 
-/// A machine part with a gear, in millimetres; its round edges carry bulges.
+/// A machine part with a gear, in millimetres; its round edges have bulges.
 Drawing bracketPart();
 
 } // namespace samples

@@ -73,15 +73,15 @@ struct Sample {
     double height;
 };
 
-/// Where the level lies between two corners. The same two corners always give the same point,
-/// whichever cell asks.
+/// The point at this level between two corners. The same two corners give the same point for every
+/// cell.
 Point crossing(const Sample& low, const Sample& high, double level)
 {
     const double t = (level - low.height) / (high.height - low.height);
     return {low.at.x + t * (high.at.x - low.at.x), low.at.y + t * (high.at.y - low.at.y)};
 }
 
-/// The contour through a triangle, with the higher ground always on the same hand.
+/// The contour through a triangle, with the higher ground always on the same side.
 void addTriangle(std::array<Sample, 3> corners, double level, std::vector<Edge>& edges)
 {
     for (std::size_t i = 0; i < corners.size(); ++i) {
@@ -104,7 +104,8 @@ Sample sample(int i, int j)
     return {at, elevation(at)};
 }
 
-/// The contour of a cell of the grid. Four triangles about its middle leave no saddle undecided.
+/// The contour of a cell of the grid. With four triangles around its middle a saddle is never
+/// ambiguous.
 void addCell(int i, int j, double level, std::vector<Edge>& edges)
 {
     const std::array<Sample, 4> ring{sample(i, j), sample(i + 1, j), sample(i + 1, j + 1),

@@ -31,12 +31,11 @@ struct Layer {
     std::string lineType = "CONTINUOUS";
 };
 
-/// A DXF drawing in the making: layers, and entities on them. Angles are in degrees, against the
-/// clock.
+/// Builds a DXF drawing: layers, and entities on them. Angles are in degrees, counter-clockwise.
 class Drawing
 {
 public:
-    /// The dash scale is the length in drawing units of the shortest dash of a dashed line.
+    /// The dash scale is the length of the shortest dash of a dashed line, in drawing units.
     Drawing(std::vector<Layer> layers, double dashScale);
 
     /// Draws with the colour and the line type of the layer.
@@ -53,7 +52,7 @@ public:
     void addInsert(const std::string& layer, const std::string& block, double x, double y,
                    double scale, double angle);
 
-    /// What is added between these two makes the block, about the origin.
+    /// The block is what is added between these two calls, around the origin.
     void beginBlock(const std::string& name);
     void endBlock();
 

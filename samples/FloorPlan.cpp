@@ -24,8 +24,8 @@ constexpr int columns = static_cast<int>(houseWidth) / cell;
 constexpr int rows = static_cast<int>(houseDepth) / cell;
 constexpr int hatchEveryCells = 5;
 
-/// The walls as cells of a grid. What is built and broken through there comes out as outlines that
-/// join cleanly at every corner.
+/// The walls as cells of a grid. Walls and openings in the grid become outlines that join cleanly
+/// at every corner.
 class Walls
 {
 public:
@@ -47,7 +47,7 @@ public:
         return result;
     }
 
-    /// Diagonal strokes through whatever is wall.
+    /// Diagonal lines through all cells that are wall.
     std::vector<Path> hatching() const
     {
         std::vector<Path> result;
@@ -87,7 +87,7 @@ private:
         }
     }
 
-    /// The sides of the cell that face no other wall, with the wall always on the same hand.
+    /// The sides of the cell that face no other wall, with the wall always on the same side.
     void addSides(int i, int j, std::vector<Edge>& edges) const
     {
         if (!isWall(i, j - 1))

@@ -29,7 +29,7 @@ bool isOnLine(const Vertex& a, const Vertex& b, const Vertex& c)
     return std::abs((b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x)) < tolerance;
 }
 
-/// The edges by their starting point, and those that nobody has followed yet.
+/// The edges by their starting point, and which of them are not yet part of a path.
 class EdgeIndex
 {
 public:
@@ -181,7 +181,7 @@ std::vector<Path> joined(const std::vector<Edge>& edges)
         if (index.isHead(i) && !index.isUsed(i))
             paths.push_back(index.follow(i));
     }
-    // What is left are rings.
+    // The remaining edges form rings.
     for (std::size_t i = 0; i < edges.size(); ++i) {
         if (!index.isUsed(i))
             paths.push_back(index.follow(i));

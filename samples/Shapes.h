@@ -30,8 +30,8 @@ Path rectangle(Point corner, double width, double height);
 /// A cross of two lines through the centre.
 std::vector<Path> cross(Point center, double halfLength);
 
-/// An open arc. It has a corner every few degrees, so that it looks round wherever bulges are not
-/// drawn, and each edge carries its bulge, so that it is exact wherever they are.
+/// An open arc. It has a corner every few degrees, so that it looks round where bulges are not
+/// drawn. Each edge has its bulge, so that it is exact where they are.
 Path arc(Point center, double radius, double fromAngle, double toAngle);
 Path circle(Point center, double radius);
 Path roundedRectangle(Point corner, double width, double height, double radius);

@@ -19,7 +19,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
     BENCHMARK_PACKAGES=(libbenchmark-dev python3 git)
 }
 
-# step TEXT: says what comes now.
+# step TEXT: says what is done next.
 step() {
     printf '\n==> %s\n' "$1"
 }
@@ -45,7 +45,7 @@ is_installed() {
     [ "$(dpkg-query --show --showformat='${db:Status-Abbrev}' "$1" 2>/dev/null)" = 'ii ' ]
 }
 
-# install_packages PACKAGE...: installs those that are missing, and does nothing if none is.
+# install_packages PACKAGE...: installs those that are missing, if any.
 install_packages() {
     command -v apt-get >/dev/null || die "only Debian's packages are known here; install: $*"
 
