@@ -49,8 +49,8 @@ DrawingFiles::~DrawingFiles() = default;
 
 void DrawingFiles::addActionsTo(QMenu& menu)
 {
-    // The drawing window has hidden actions of its own for Ctrl+O and Ctrl+S. Because they are
-    // hidden, these actions get the keys.
+    // The drawing window has actions of its own for Ctrl+O and Ctrl+S. They are hidden, so the keys
+    // reach the actions here.
     connect(addAction(menu, tr("&Open…"), "Ctrl+O"), &QAction::triggered, this,
             &DrawingFiles::chooseDrawing);
     m_recent.serve(*menu.addMenu(tr("Open &Recent")));

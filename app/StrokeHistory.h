@@ -46,8 +46,8 @@ public Q_SLOTS:
     void redo();
 
 Q_SIGNALS:
-    /// The current stroke, or the one that undo has just taken back, has lost its first part: that
-    /// part can no longer be undone.
+    /// The current stroke, or the one that undo has just taken back in part, has lost its
+    /// beginning: that can no longer be undone.
     void beginningLost();
 
 protected:

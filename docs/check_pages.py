@@ -52,7 +52,7 @@ def problems_of(page, text):
 
 
 def missing_headers():
-    """The public headers that the table of the interface leaves out, or lists in vain."""
+    """The public headers that the interface's table lacks, and other headers that it lists."""
     source = (ROOT / "dxfviewer/CMakeLists.txt").read_text(encoding="utf-8")
     public = set(HEADERS.search(source)[1].split())
     page = (ROOT / "docs/interface.md").read_text(encoding="utf-8")

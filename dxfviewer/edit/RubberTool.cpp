@@ -219,7 +219,7 @@ void RubberTool::moveMarker(const QPointF& pos)
 
 void RubberTool::emitDeleteRequest()
 {
-    // A slot may end edit mode, and this tool with it.
+    // A slot may end edit mode and destroy this tool.
     const QPointer<RubberTool> self(this);
     Q_EMIT requestDelete();
     if (self)

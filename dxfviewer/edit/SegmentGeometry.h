@@ -10,8 +10,8 @@
 /**
  * The foot of the perpendicular from p onto the infinite line through a and b.
  *
- * Unless inside is null, *inside becomes whether the foot lies between a and b, both ends included.
- * If a and b are the same point, the result is a, and *inside stays as it was.
+ * If inside is not null, it receives whether the foot lies between a and b, both ends included. If
+ * a and b are the same point, the result is a, and inside receives nothing.
  */
 DXFVIEWER_EXPORT QPointF projection(QPointF const& p, QPointF const& a, QPointF const& b,
                                     bool* inside);

@@ -36,7 +36,7 @@ bool FlatteningReader::takesGroup(int code, std::string_view value)
 
 bool FlatteningReader::finishReading()
 {
-    // Whatever happens, the next drawing begins anew.
+    // Taken out of the member, so that the next drawing always begins with a new one.
     const auto gatherer = std::move(m_gatherer);
     if (!gatherer)
         return true;

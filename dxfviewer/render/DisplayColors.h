@@ -15,10 +15,10 @@ class DXFEntity;
  * colours that DXFDocument::setup() resolves.
  *
  * A colour number stands for one of the format's 255 index colours; a true colour is used instead
- * of it, under by-layer as well. By-layer (256) is the colour of the entity's layer. By-block (0),
- * and whatever cannot be resolved, is colour 7. Colours 7 and 255 are black on a light ground and
- * white on a dark one. Any other colour whose contrast against the ground is below 3 : 1 becomes
- * lighter or darker, with the same hue, until it has that contrast.
+ * of it, under by-layer as well. By-layer (256) is the colour of the entity's layer. By-block (0)
+ * and everything that cannot be resolved is colour 7. Colours 7 and 255 are black on a light ground
+ * and white on a dark one. Any other colour whose contrast against the ground is below 3 : 1
+ * becomes lighter or darker, with the same hue, until it has that contrast.
  *
  * Only the resolved colours of entities are set. Attributes and saved bytes stay as they are, and
  * copies and cut-off pieces keep the colour.

@@ -32,7 +32,7 @@ constexpr double sceneMarginUnits = 5000.0;
 constexpr double viewMarginUnits = 10.0;
 
 // One for the whole process, not one per window: there is one edit mode at a time. It ends when the
-// application object goes, because an editor does not survive that.
+// application object is destroyed, because an editor does not survive that.
 CurrentEditor currentEditor;
 bool isEndedAtExit = false;
 
