@@ -24,7 +24,7 @@
 namespace
 {
 
-/// Agrees with whatever box comes up, and notes what it says.
+/// Answers every message box with OK, and keeps its text.
 class BoxReader
 {
 public:
@@ -50,7 +50,7 @@ private:
     QTimer m_timer;
 };
 
-/// Drawings of all kinds, some of which are none.
+/// Files of all kinds. Some are no drawings.
 QStringList anyDrawings()
 {
     QStringList names;
@@ -76,14 +76,15 @@ protected:
     }
     ~AnyDrawingTest() override
     {
-        // Painting warns of colours that it does not know; that is no part of what is tested here.
+        // Painting warns of unknown colours. These tests are not about them.
         takeWarnings();
     }
 
     DXFViewer& viewer() const { return *m_window.findChild<DXFViewer*>(); }
     DrawingFiles& files() const { return *m_window.findChild<DrawingFiles*>(); }
 
-    /// Does what makes a drawing come, and waits until it is there or a box has said why not.
+    /// Runs an action that opens a drawing, and waits until the drawing is shown or a box says why
+    /// it is not. True if it is shown.
     template <typename Action>
     bool isShownAfter(Action action)
     {
@@ -112,7 +113,7 @@ protected:
 
     void reload()
     {
-        // Without a window manager nobody gives the keyboard back after a dialog.
+        // Without a window manager the window does not get the keyboard back after a dialog.
         m_window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window, dxftest::patienceMs));
         QTest::keyClick(&m_window, Qt::Key_F5, Qt::NoModifier);
@@ -125,7 +126,7 @@ protected:
                                                  [&isOnTheWay] { isOnTheWay = true; });
         const int shown = m_shown;
         m_window.openDrawing(fileName);
-        // Small ones are read before they can be met on the way.
+        // A small drawing may be read before any progress is reported.
         EXPECT_TRUE(
             dxftest::eventually([&] { return isOnTheWay || !files().reader().isReading(); }));
         files().reader().cancel();
@@ -150,7 +151,7 @@ protected:
     int m_shown = 0;
 };
 
-TEST_F(AnyDrawingTest, IsOpenedCalledOffReloadedAndDropped)
+TEST_F(AnyDrawingTest, IsOpenedCancelledDroppedAndReloaded)
 {
     const QStringList names = anyDrawings();
     ASSERT_FALSE(names.isEmpty());
@@ -172,7 +173,7 @@ TEST_F(AnyDrawingTest, IsOpenedCalledOffReloadedAndDropped)
     }
 }
 
-TEST_F(AnyDrawingTest, IsCutOffAnywhereAndStillToldOrShown)
+TEST_F(AnyDrawingTest, IsShownOrRefusedWhereverItIsCutOff)
 {
     QFile sample(QStringLiteral(DXFVIEWER_SAMPLES "/floor-plan.dxf"));
     ASSERT_TRUE(sample.open(QIODevice::ReadOnly));
@@ -186,7 +187,7 @@ TEST_F(AnyDrawingTest, IsCutOffAnywhereAndStillToldOrShown)
     }
 }
 
-TEST_F(AnyDrawingTest, GrowsOrVanishesWhileItIsRead)
+TEST_F(AnyDrawingTest, MayGrowOrVanishWhileItIsRead)
 {
     const QByteArray content =
         "0\nSECTION\n2\nENTITIES\n"
@@ -208,7 +209,7 @@ TEST_F(AnyDrawingTest, GrowsOrVanishesWhileItIsRead)
     EXPECT_TRUE(m_boxes.texts.constLast().contains(QLatin1String("There is no such file.")));
 }
 
-TEST_F(AnyDrawingTest, AFolderAndADeviceAreNone)
+TEST_F(AnyDrawingTest, FoldersAndDevicesAreRefused)
 {
     for (const char* name : {"/", "/dev/zero", "/dev/full", "/proc/self/mem"}) {
         EXPECT_FALSE(open(QLatin1String(name)));

@@ -33,7 +33,7 @@ protected:
 
     QColor viewColor() const { return drawingView(m_viewer).backgroundBrush().color(); }
 
-    /// The actions of the menu of grounds.
+    /// The actions that choose a ground.
     QList<QAction*> offered()
     {
         m_appearance.addActionsTo(m_menu);
@@ -72,7 +72,7 @@ TEST_F(AppearanceTest, TheViewGetsTheGroundBeforeThereIsADrawing)
     }
 }
 
-TEST_F(AppearanceTest, TellsOfAnotherGroundOnly)
+TEST_F(AppearanceTest, SignalsOnlyAChangeOfTheGround)
 {
     const QSignalSpy spy(&m_appearance, &Appearance::groundChanged);
 
@@ -110,7 +110,7 @@ TEST_F(AppearanceTest, ColorsADrawingThatIsNotShownYet)
     EXPECT_EQ(line->color(), QColor(Qt::black));
 }
 
-TEST_F(AppearanceTest, ADrawingWithoutAnythingCanBeColored)
+TEST_F(AppearanceTest, DocumentWithANullEntityCanBeColored)
 {
     const auto document = dxftest::makeDocument({nullptr});
 
@@ -130,7 +130,7 @@ TEST_F(AppearanceTest, TheDrawingOnScreenGetsTheColorsOfTheGround)
     EXPECT_EQ(shownLine().color(), QColor(Qt::white));
 }
 
-TEST_F(AppearanceTest, WhatAnUndoBringsBackGetsTheColorsOfTheGround)
+TEST_F(AppearanceTest, EditsGetTheColorsOfTheGround)
 {
     showLine();
     editAction(m_viewer).setChecked(true);

@@ -17,7 +17,7 @@
 namespace
 {
 
-// Long enough that the reader can be met in the middle.
+// Reading takes so long that a test can act in the middle of it.
 constexpr int manyPolylines = 150000;
 
 QByteArray drawingOf(int polylines)
@@ -59,8 +59,8 @@ protected:
         return dxftest::eventually([this] { return !m_finished.isEmpty(); });
     }
 
-    /// Begins to read a large drawing, and comes back in the middle of that. On a machine that has
-    /// other things to do, the end may come first: then it begins anew.
+    /// Starts to read a large drawing, and returns in the middle of it. On a busy machine the read
+    /// may end first. Then it starts again.
     bool readToTheMiddle()
     {
         const QString fileName = largeFile();
@@ -96,7 +96,7 @@ TEST_F(BackgroundReaderTest, ReadsADrawing)
     EXPECT_EQ(m_result.document->entities().size(), 2);
 }
 
-TEST_F(BackgroundReaderTest, TellsHowMuchHasBeenRead)
+TEST_F(BackgroundReaderTest, ReportsItsProgress)
 {
     ASSERT_TRUE(readToTheMiddle());
     ASSERT_TRUE(waitForEnd());
@@ -115,7 +115,7 @@ TEST_F(BackgroundReaderTest, SaysWhyAFileCannotBeRead)
     EXPECT_EQ(m_result.reason, QStringLiteral("There is no such file."));
 }
 
-TEST_F(BackgroundReaderTest, WhatIsCancelledIsNotHeardOfAgain)
+TEST_F(BackgroundReaderTest, ACancelledReadSignalsNothingMore)
 {
     ASSERT_TRUE(readToTheMiddle());
 
@@ -132,7 +132,7 @@ TEST_F(BackgroundReaderTest, WhatIsCancelledIsNotHeardOfAgain)
     EXPECT_TRUE(isNew);
 }
 
-TEST_F(BackgroundReaderTest, TheSecondTakesThePlaceOfTheFirst)
+TEST_F(BackgroundReaderTest, ASecondReadReplacesTheFirst)
 {
     ASSERT_TRUE(readToTheMiddle());
 
@@ -155,7 +155,7 @@ TEST_F(BackgroundReaderTest, CancelWithoutAReadDoesNothing)
     EXPECT_EQ(m_finished.size(), 1);
 }
 
-TEST_F(BackgroundReaderTest, AReaderThatGoesEndsItsRead)
+TEST_F(BackgroundReaderTest, ADestroyedReaderSignalsNothing)
 {
     auto reader = std::make_unique<BackgroundReader>();
     QObject::connect(reader.get(), &BackgroundReader::finished,
@@ -166,7 +166,7 @@ TEST_F(BackgroundReaderTest, AReaderThatGoesEndsItsRead)
     QCoreApplication::processEvents();
 }
 
-/// Above all for the sanitizers.
+/// Mainly for the sanitizers.
 TEST_F(BackgroundReaderTest, AnySequenceOfReadsAndCancelsEndsWithTheLastRead)
 {
     const QStringList files{smallFile(), fileWith(drawingOf(2000), QStringLiteral("middle.dxf")),
@@ -189,7 +189,7 @@ TEST_F(BackgroundReaderTest, AnySequenceOfReadsAndCancelsEndsWithTheLastRead)
     EXPECT_EQ(m_result.document->entities().size(), 2);
 }
 
-TEST_F(BackgroundReaderTest, ADrawingIsFreedElsewhere)
+TEST_F(BackgroundReaderTest, ADrawingIsFreedInTheBackground)
 {
     auto document = DXFDocument::load(drawingOf(2));
     const QWeakPointer<DXFDocument> weak(document);

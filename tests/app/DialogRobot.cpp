@@ -39,8 +39,8 @@ void DialogRobot::expectError(std::string& text)
 void DialogRobot::expectFileName(const QString& fileName)
 {
     expect<QFileDialog>([fileName](QFileDialog& dialog) {
-        // As a user types it: selecting leaves a field that has the keyboard alone.
-        // A proposed name that is found in the folder meanwhile would go before the one typed.
+        // The name is typed, because selectFile() does not change a field that has the keyboard. A
+        // file that is selected in the list would win over the typed name.
         const auto lists = dialog.findChildren<QAbstractItemView*>();
         for (QAbstractItemView* list : lists)
             list->clearSelection();
@@ -60,7 +60,7 @@ void DialogRobot::click(QMessageBox& box, QMessageBox::StandardButton button)
 void DialogRobot::look()
 {
     QWidget* widget = QApplication::activeModalWidget();
-    // An answered dialog is on top again when one that it has brought up is gone.
+    // An answered dialog is active again after a dialog that it opened is closed.
     if (!widget || m_answered.contains(widget))
         return;
     if (m_answers.empty()) {
@@ -73,7 +73,8 @@ void DialogRobot::look()
     m_answered.insert(widget);
     QObject::connect(widget, &QObject::destroyed, &m_timer,
                      [this, widget] { m_answered.remove(widget); });
-    // The answer may bring up the next dialog, and a timer does not fire while it is handled.
+    // The answer may open the next dialog. m_timer does not fire while its own slot runs, so
+    // another timer runs the answer.
     QTimer::singleShot(0, widget, [answer, widget] {
         if (!answer(*widget))
             widget->close();

@@ -18,7 +18,8 @@ class QWidget;
 namespace dxftest
 {
 
-/// Answers the dialogs that come up, one after the other, and fails for those that do not come.
+/// Answers dialogs in the order in which they are expected. A dialog that is not expected, or that
+/// does not come up, is a failure.
 class DialogRobot
 {
 public:
@@ -39,7 +40,7 @@ public:
     }
 
     void expectButton(QMessageBox::StandardButton button);
-    /// Notes the text of the box, and agrees.
+    /// Keeps the text of the box, and presses OK.
     void expectError(std::string& text);
     void expectFileName(const QString& fileName);
 

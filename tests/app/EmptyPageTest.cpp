@@ -22,13 +22,13 @@ protected:
         m_view.setBackgroundBrush(Qt::white);
         m_view.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_view, dxftest::patienceMs));
-        // So large that letters have an inside.
+        // Large letters have pixels that are not antialiased.
         QFont large = m_page.font();
         large.setPixelSize(60);
         m_page.setFont(large);
     }
 
-    /// What the user sees has pixels of this colour.
+    /// Whether the user sees a pixel of exactly this colour.
     bool shows(const QColor& color)
     {
         const QImage seen = m_view.grab().toImage();
@@ -46,7 +46,7 @@ protected:
     EmptyPage m_page{m_view};
 };
 
-TEST_F(EmptyPageTest, IsSeenWithWordsOnly)
+TEST_F(EmptyPageTest, IsVisibleOnlyWithWords)
 {
     EXPECT_FALSE(m_page.isVisible());
 
@@ -58,7 +58,7 @@ TEST_F(EmptyPageTest, IsSeenWithWordsOnly)
     EXPECT_FALSE(m_page.isVisible());
 }
 
-TEST_F(EmptyPageTest, TheWordsHaveTheInk)
+TEST_F(EmptyPageTest, TheWordsAreInTheInkColor)
 {
     for (const QColor& ink : {QColor(200, 0, 0), QColor(0, 0, 200)}) {
         m_page.setInk(ink);
@@ -89,7 +89,7 @@ TEST_F(EmptyPageTest, LeavesTheMouseToTheView)
     EXPECT_EQ(m_view.childAt(m_view.rect().center()), m_view.viewport());
 }
 
-TEST_F(EmptyPageTest, TakesWordsAsTheyAre)
+TEST_F(EmptyPageTest, ShowsMarkupAsPlainText)
 {
     const QColor red(255, 0, 0);
     m_page.setInk(Qt::black);

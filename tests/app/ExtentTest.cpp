@@ -31,11 +31,11 @@ TEST(ExtentTest, PointBecomesAUnitAroundIt)
 {
     EXPECT_EQ(withExtent(QRectF(7, 8, 0, 0)), QRectF(6.5, 7.5, 1, 1));
     EXPECT_EQ(withExtent(QRectF()), QRectF(-0.5, -0.5, 1, 1));
-    // Too small for the numbers of the view, so far from the origin.
+    // So far from the origin the view cannot tell this extent from none.
     EXPECT_EQ(withExtent(QRectF(3e9, 0, 1e-3, 0)).width(), 1.0);
 }
 
-TEST(ExtentTest, WhatIsNotFiniteIsAUnitAtTheOrigin)
+TEST(ExtentTest, RectangleThatIsNotFiniteBecomesAUnitAtTheOrigin)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();

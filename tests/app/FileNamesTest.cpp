@@ -32,7 +32,7 @@ TEST_F(FileNamesTest, OrdinaryNamesAreShownAsTheyAre)
     EXPECT_EQ(readableName(name), name);
 }
 
-TEST_F(FileNamesTest, WhatCannotBeShownIsReplaced)
+TEST_F(FileNamesTest, ControlCharactersAreReplaced)
 {
     const QString name = QStringLiteral("a\nb\tc\u202Ed.dxf");
 
@@ -82,7 +82,7 @@ TEST_F(FileNamesTest, ALinkLeadsToTheSameFile)
     EXPECT_FALSE(isSameFile(drawing, touched(QStringLiteral("other.dxf"))));
 }
 
-TEST_F(FileNamesTest, FilesThatAreNotThereAreNotTheSame)
+TEST_F(FileNamesTest, MissingFilesAreNeverTheSame)
 {
     EXPECT_FALSE(isSameFile(QStringLiteral("/no/a.dxf"), QStringLiteral("/no/a.dxf")));
     EXPECT_FALSE(isSameFile(QString(), QString()));

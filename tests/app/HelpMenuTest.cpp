@@ -57,7 +57,7 @@ TEST_F(HelpMenuTest, ThePageHasAPicture)
     EXPECT_FALSE(QImage(QStringLiteral(":/how-to-erase.png")).isNull());
 }
 
-TEST_F(HelpMenuTest, ThePageIsThereOnceAndCanBeClosed)
+TEST_F(HelpMenuTest, ThePageOpensOnceAndCanBeClosed)
 {
     m_menu.actions().constFirst()->trigger();
     m_menu.actions().constFirst()->trigger();

@@ -13,13 +13,13 @@ class KindWordsTest : public dxftest::LoggedTest
 {
 };
 
-TEST_F(KindWordsTest, NamesWhatThereIsMostOfFirst)
+TEST_F(KindWordsTest, NamesTheMostFrequentKindFirst)
 {
     EXPECT_EQ(notShownSentence({{QStringLiteral("IMAGE"), 3}, {QStringLiteral("HATCH"), 12}}),
               QStringLiteral("Not shown: 12 hatches, 3 images"));
 }
 
-TEST_F(KindWordsTest, PutsKindsOfOneWordTogether)
+TEST_F(KindWordsTest, AddsUpKindsWithTheSameWord)
 {
     EXPECT_EQ(notShownSentence({{QStringLiteral("ATTRIB"), 1},
                                 {QStringLiteral("MTEXT"), 2},
@@ -28,13 +28,13 @@ TEST_F(KindWordsTest, PutsKindsOfOneWordTogether)
               QStringLiteral("Not shown: 7 texts, 1 infinite line"));
 }
 
-TEST_F(KindWordsTest, HasAWordForWhatItDoesNotKnow)
+TEST_F(KindWordsTest, CountsUnknownKindsAsOtherObjects)
 {
     EXPECT_EQ(notShownSentence({{QStringLiteral("3DSOLID"), 1}, {QStringLiteral("LIGHT"), 1}}),
               QStringLiteral("Not shown: 2 other objects"));
 }
 
-TEST_F(KindWordsTest, SaysNothingOfNothing)
+TEST_F(KindWordsTest, SaysNothingWhenEverythingIsShown)
 {
     EXPECT_EQ(notShownSentence({}), QString());
     EXPECT_EQ(notShownSentence({{QStringLiteral("HATCH"), 0}}), QString());

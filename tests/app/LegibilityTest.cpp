@@ -25,9 +25,9 @@ namespace
 constexpr double leastShare = 0.0002;
 constexpr double leastContrast = 3.0;
 
-/// What can be seen of a drawing.
+/// How well a drawing can be seen.
 struct Legibility {
-    /// Of all pixels.
+    /// The share of all pixels that do not have the colour of the ground.
     double drawnShare = 0.0;
     double medianContrast = 0.0;
 };
@@ -78,7 +78,7 @@ protected:
         ASSERT_TRUE(dxftest::eventually([&] { return shownDocument(viewer()) != before; }));
     }
 
-    /// What there is to be seen now on one of the grounds.
+    /// How well the drawing can be seen on a ground.
     Legibility onGround(const char* action)
     {
         actionOf(m_window, QString::fromLatin1(action)).trigger();
@@ -90,7 +90,7 @@ protected:
     MainWindow m_window;
 };
 
-TEST_F(LegibilityTest, DrawingsFromElsewhereCanBeSeenOnEveryGround)
+TEST_F(LegibilityTest, ExtraDrawingsAreLegibleOnEveryGround)
 {
     if (!qEnvironmentVariableIsSet("DXFVIEWER_EXTRA_DRAWINGS"))
         GTEST_SKIP() << "DXFVIEWER_EXTRA_DRAWINGS names no folder of drawings";

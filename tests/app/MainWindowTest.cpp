@@ -69,7 +69,7 @@ const QByteArray mixedDrawing =
     "0\nHATCH\n8\n0\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n";
 const QByteArray hatchOnly = "0\nSECTION\n2\nENTITIES\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n";
 
-/// The plain reader may list a polyline more than once.
+/// The polylines of a document, each once. The plain reader may list one several times.
 std::set<const DXFEntity*> polylinesOf(const DXFDocument& document)
 {
     std::set<const DXFEntity*> polylines;
@@ -91,7 +91,7 @@ protected:
 
     ~MainWindowTest() override
     {
-        // A window that asks at the end is no part of what was tested.
+        // Destroyed, not closed: closing would ask about unsaved edits.
         m_window.reset();
     }
 
@@ -128,7 +128,7 @@ protected:
 
     DrawingFiles& files() const { return *m_window->findChild<DrawingFiles*>(); }
 
-    /// Does what makes a drawing come, and waits until it is on screen.
+    /// Runs an action that opens a drawing, and waits until the drawing is shown.
     template <typename Action>
     void waitForDrawing(Action action)
     {
@@ -141,7 +141,7 @@ protected:
         waitForDrawing([&] { m_window->openDrawing(fileName); });
     }
 
-    /// Opens what cannot be read, and notes what the box says.
+    /// Opens a file that cannot be read, and keeps the text of the box.
     void openInVain(const QString& fileName, std::string& error)
     {
         m_robot.expectError(error);
@@ -169,7 +169,7 @@ protected:
 
     EmptyPage& emptyPage() const { return *m_window->findChild<EmptyPage*>(); }
 
-    /// Whether a part of the status bar shows this.
+    /// Whether a label in the status bar contains the text.
     bool statusShows(const char* text) const
     {
         const auto labels = m_window->statusBar()->findChildren<QLabel*>();
@@ -183,7 +183,7 @@ protected:
         return static_cast<int>(shownDocument(viewer())->entities().size());
     }
 
-    /// Drops something on the window. False if it does not want it.
+    /// Drops something on the window. False if the window refuses it.
     bool drop(const QMimeData& data)
     {
         QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -195,19 +195,19 @@ protected:
 
     static void acceptAsItIs(QFileDialog& dialog)
     {
-        // Not public in this class.
+        // accept() is not public in QFileDialog.
         static_cast<QDialog&>(dialog).accept();
     }
 
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier)
     {
-        // Without a window manager nobody gives the keyboard back after a dialog.
+        // Without a window manager the window does not get the keyboard back after a dialog.
         m_window->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get(), dxftest::patienceMs));
         QTest::keyClick(m_window.get(), key, modifiers);
     }
 
-    // Outlives the window, which may ask at its end.
+    // Outlives the window, which may open dialogs until its end.
     DialogRobot m_robot;
     std::unique_ptr<MainWindow> m_window;
 
@@ -233,7 +233,7 @@ TEST_F(MainWindowTest, ShowsADrawingUnderItsName)
     EXPECT_TRUE(action("Export &Picture…").isEnabled());
 }
 
-TEST_F(MainWindowTest, ShowsNamesThatNeedCare)
+TEST_F(MainWindowTest, TheTitleShowsNamesWithSpecialCharacters)
 {
     open(fileWith(crossDrawing, QStringLiteral("a[*]\nb.dxf")));
 
@@ -301,7 +301,7 @@ TEST_F(MainWindowTest, ShowsOnlyPolylinesWhenTold)
     EXPECT_FALSE(statusShows("Not shown"));
 }
 
-TEST_F(MainWindowTest, AsksBeforeAChoiceOfTheViewThrowsEditsAway)
+TEST_F(MainWindowTest, AsksBeforeAViewChoiceDiscardsEdits)
 {
     openInEditMode();
     erase();
@@ -314,7 +314,7 @@ TEST_F(MainWindowTest, AsksBeforeAChoiceOfTheViewThrowsEditsAway)
     EXPECT_EQ(polylineCount(), 1);
 }
 
-TEST_F(MainWindowTest, ReadsTheDrawingAgainForItsTexts)
+TEST_F(MainWindowTest, TheChoiceOfTextsReadsTheDrawingAgain)
 {
     open(fileWith(mixedDrawing, QStringLiteral("mixed.dxf")));
     const auto before = shownDocument(viewer());
@@ -366,7 +366,7 @@ TEST_F(MainWindowTest, CtrlAndDragMovesTheDrawingBeforeAndAfterEditMode)
     }
 }
 
-TEST_F(MainWindowTest, ShowsTheDrawingsColorsOnTheGroundThatIsChosen)
+TEST_F(MainWindowTest, ShowsTheColorsOfTheChosenGround)
 {
     open(crossFile());
     const auto colorOfLine = [this] {
@@ -382,7 +382,7 @@ TEST_F(MainWindowTest, ShowsTheDrawingsColorsOnTheGroundThatIsChosen)
     EXPECT_FALSE(action("&Dark").isChecked());
 }
 
-TEST_F(MainWindowTest, WhatAnUndoBringsBackIsLegibleOnTheNewGround)
+TEST_F(MainWindowTest, RestoredPolylinesHaveTheColorsOfTheNewGround)
 {
     openInEditMode();
     erase();
@@ -395,7 +395,7 @@ TEST_F(MainWindowTest, WhatAnUndoBringsBackIsLegibleOnTheNewGround)
         EXPECT_EQ(entity->color(), QColor(Qt::black));
 }
 
-TEST_F(MainWindowTest, RemembersItsLooks)
+TEST_F(MainWindowTest, RemembersItsSizeAndViewChoices)
 {
     action("&Light").trigger();
     action("As &Stored (y Downwards)").trigger();
@@ -442,20 +442,20 @@ TEST_F(MainWindowTest, FitsTheScreenAtFirst)
     EXPECT_TRUE(m_window->screen()->availableGeometry().contains(m_window->frameGeometry()));
 }
 
-TEST_F(MainWindowTest, TellsWhereThePointerIs)
+TEST_F(MainWindowTest, ShowsWhereThePointerIs)
 {
     open(crossFile());
 
     SceneMouse(view()).move({12, -34});
 
-    // The mouse goes from pixel to pixel.
+    // The mouse has only whole pixels.
     const QPointF pixel = view().mapFromScene(12, -34);
     const QPointF place = view().viewportTransform().inverted().map(pixel);
     EXPECT_TRUE(statusShows(qPrintable(
         QStringLiteral("x %1  y %2").arg(place.x(), 0, 'f', 1).arg(place.y(), 0, 'f', 1))));
 }
 
-TEST_F(MainWindowTest, TellsTheZoomAndHowMuchThereIs)
+TEST_F(MainWindowTest, ShowsTheZoomAndTheNumberOfSegments)
 {
     open(crossFile());
     EXPECT_TRUE(statusShows("100 %"));
@@ -529,7 +529,7 @@ TEST_F(MainWindowTest, KeysUndoAndRedoWhileEditModeIsOn)
     EXPECT_FALSE(action("Undo").isEnabled());
 }
 
-TEST_F(MainWindowTest, EditsOutliveEditMode)
+TEST_F(MainWindowTest, EditsStayWhenEditModeEnds)
 {
     openInEditMode();
     erase();
@@ -545,7 +545,7 @@ TEST_F(MainWindowTest, EditsOutliveEditMode)
     EXPECT_TRUE(m_window->isWindowModified());
 }
 
-TEST_F(MainWindowTest, EditModeOfAnotherWindowEndsThisOne)
+TEST_F(MainWindowTest, EditModeInAnotherWindowEndsItHere)
 {
     openInEditMode();
     erase();
@@ -571,7 +571,7 @@ TEST_F(MainWindowTest, ClosesWithoutAQuestionWhenNothingWasErased)
     EXPECT_TRUE(m_window->close());
 }
 
-TEST_F(MainWindowTest, AsksBeforeItClosesOverEdits)
+TEST_F(MainWindowTest, AsksBeforeClosingWithUnsavedEdits)
 {
     openInEditMode();
     erase();
@@ -584,7 +584,7 @@ TEST_F(MainWindowTest, AsksBeforeItClosesOverEdits)
     EXPECT_TRUE(m_window->close());
 }
 
-TEST_F(MainWindowTest, AsksBeforeItQuitsOverEdits)
+TEST_F(MainWindowTest, AsksBeforeQuittingWithUnsavedEdits)
 {
     openInEditMode();
     erase();
@@ -597,7 +597,7 @@ TEST_F(MainWindowTest, AsksBeforeItQuitsOverEdits)
     EXPECT_TRUE(m_window->close());
 }
 
-TEST_F(MainWindowTest, StaysOpenWhenTheSavingIsCalledOff)
+TEST_F(MainWindowTest, StaysOpenWhenSavingIsCancelled)
 {
     openInEditMode();
     erase();
@@ -624,7 +624,7 @@ TEST_F(MainWindowTest, SavesBeforeItCloses)
     EXPECT_EQ(kept->entities().size(), 1);
 }
 
-TEST_F(MainWindowTest, AsksBeforeAnotherDrawingTakesThePlaceOfEdits)
+TEST_F(MainWindowTest, AsksBeforeAnotherDrawingReplacesEdits)
 {
     openInEditMode();
     erase();
@@ -643,7 +643,7 @@ TEST_F(MainWindowTest, AsksBeforeAnotherDrawingTakesThePlaceOfEdits)
     EXPECT_EQ(polylineCount(), 2);
 }
 
-TEST_F(MainWindowTest, ProposesANewNameAndTakesIt)
+TEST_F(MainWindowTest, ProposesANewNameAndSavesUnderIt)
 {
     openInEditMode();
     erase();
@@ -662,7 +662,7 @@ TEST_F(MainWindowTest, ProposesANewNameAndTakesIt)
     EXPECT_EQ(contentOf(proposed), viewer().getData());
 }
 
-TEST_F(MainWindowTest, SavesUnderANameWithItsSuffix)
+TEST_F(MainWindowTest, AddsTheMissingSuffix)
 {
     open(crossFile());
     m_robot.expectFileName(path(QStringLiteral("kept")));
@@ -685,7 +685,7 @@ TEST_F(MainWindowTest, UndoAfterASaveIsAnEdit)
     EXPECT_TRUE(m_window->isWindowModified());
 }
 
-TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
+TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheOpenedFile)
 {
     const QString fileName = fileWith(mixedDrawing, QStringLiteral("mixed.dxf"));
     open(fileName);
@@ -707,7 +707,7 @@ TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheDrawingThatWasOpened)
     EXPECT_TRUE(m_window->isWindowModified());
 }
 
-TEST_F(MainWindowTest, ReplacesTheDrawingThatWasOpenedIfTold)
+TEST_F(MainWindowTest, ReplacesTheOpenedFileWhenConfirmed)
 {
     openInEditMode();
     erase();
@@ -750,7 +750,7 @@ TEST_F(MainWindowTest, SavesAgainWhenTheCopyHasVanished)
     EXPECT_EQ(contentOf(kept), viewer().getData());
 }
 
-TEST_F(MainWindowTest, AsksBeforeItReplacesWhatAnotherProgramHasSaved)
+TEST_F(MainWindowTest, AsksBeforeItReplacesAFileThatAnotherProgramChanged)
 {
     openInEditMode();
     erase();
@@ -773,7 +773,7 @@ TEST_F(MainWindowTest, AsksBeforeItReplacesWhatAnotherProgramHasSaved)
     EXPECT_EQ(contentOf(kept), viewer().getData());
 }
 
-TEST_F(MainWindowTest, TheOtherKeyAsksForAnotherName)
+TEST_F(MainWindowTest, SaveAsKeyAsksForAnotherName)
 {
     openInEditMode();
     m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
@@ -801,7 +801,7 @@ TEST_F(MainWindowTest, AsksOnceBeforeItReplacesAnotherFile)
     EXPECT_EQ(contentOf(old), viewer().getData());
 }
 
-TEST_F(MainWindowTest, ReloadsTheFileAsItIsNow)
+TEST_F(MainWindowTest, ReloadShowsTheFileAsItIsNow)
 {
     openInEditMode();
     fileWith(crossDrawing.left(crossDrawing.lastIndexOf("0\nLWPOLYLINE")) + "0\nENDSEC\n0\nEOF\n",
@@ -813,7 +813,7 @@ TEST_F(MainWindowTest, ReloadsTheFileAsItIsNow)
     EXPECT_FALSE(edit().isChecked());
 }
 
-TEST_F(MainWindowTest, AsksBeforeItReloadsOverEdits)
+TEST_F(MainWindowTest, AsksBeforeReloadDiscardsEdits)
 {
     openInEditMode();
     erase();
@@ -827,7 +827,7 @@ TEST_F(MainWindowTest, AsksBeforeItReloadsOverEdits)
     EXPECT_FALSE(m_window->isWindowModified());
 }
 
-TEST_F(MainWindowTest, AReloadOfAFileThatHasVanishedLosesNothing)
+TEST_F(MainWindowTest, ReloadOfAMissingFileKeepsTheEdits)
 {
     openInEditMode();
     erase();
@@ -845,7 +845,7 @@ TEST_F(MainWindowTest, AReloadOfAFileThatHasVanishedLosesNothing)
     EXPECT_TRUE(edit().isChecked());
 }
 
-TEST_F(MainWindowTest, AsksAboutEditsThatWereMadeWhileADrawingWasRead)
+TEST_F(MainWindowTest, AsksAboutEditsMadeWhileADrawingIsRead)
 {
     openInEditMode();
     m_window->openDrawing(fileWith(crossDrawing, QStringLiteral("other.dxf")));
@@ -863,7 +863,7 @@ TEST_F(MainWindowTest, AsksAboutEditsThatWereMadeWhileADrawingWasRead)
     EXPECT_TRUE(edit().isChecked());
 }
 
-TEST_F(MainWindowTest, ADrawingDoesNotComeBehindADialog)
+TEST_F(MainWindowTest, ADrawingIsNotShownBehindADialog)
 {
     open(crossFile());
     const QString other = fileWith(crossDrawing, QStringLiteral("other.dxf"));
@@ -898,7 +898,7 @@ TEST_F(MainWindowTest, ClosesWhileADrawingIsRead)
     m_window.reset();
 }
 
-TEST_F(MainWindowTest, OffersTheDrawingsThatWereOpened)
+TEST_F(MainWindowTest, OffersRecentDrawings)
 {
     open(crossFile());
     open(fileWith(crossDrawing, QStringLiteral("other.dxf")));
@@ -913,7 +913,7 @@ TEST_F(MainWindowTest, OffersTheDrawingsThatWereOpened)
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
 }
 
-TEST_F(MainWindowTest, ForgetsARecentDrawingThatHasVanished)
+TEST_F(MainWindowTest, ForgetsAMissingRecentDrawing)
 {
     const QString fileName = crossFile();
     open(fileName);
@@ -927,7 +927,7 @@ TEST_F(MainWindowTest, ForgetsARecentDrawingThatHasVanished)
     EXPECT_NE(recent->actions().constFirst()->text(), fileName);
 }
 
-TEST_F(MainWindowTest, EscapeLeavesEditModeAndTellsWhatStays)
+TEST_F(MainWindowTest, EscapeLeavesEditModeAndSaysThatEditsStay)
 {
     openInEditMode();
     erase();
@@ -941,7 +941,7 @@ TEST_F(MainWindowTest, EscapeLeavesEditModeAndTellsWhatStays)
     EXPECT_EQ(polylineCount(), 1);
 }
 
-TEST_F(MainWindowTest, LeavingEditModeWithoutAHistoryTellsNothing)
+TEST_F(MainWindowTest, LeavingEditModeWithoutEditsSaysNothing)
 {
     openInEditMode();
 
@@ -952,7 +952,7 @@ TEST_F(MainWindowTest, LeavingEditModeWithoutAHistoryTellsNothing)
     EXPECT_TRUE(m_window->statusBar()->currentMessage().isEmpty());
 }
 
-TEST_F(MainWindowTest, AnotherDrawingTellsNothingOfTheEditsThatAreGone)
+TEST_F(MainWindowTest, AnotherDrawingSaysNothingAboutDiscardedEdits)
 {
     openInEditMode();
     erase();
@@ -1036,7 +1036,7 @@ TEST_F(MainWindowTest, OpensInTheMiddleOfAStroke)
     EXPECT_EQ(polylineCount(), 2);
 }
 
-TEST_F(MainWindowTest, GoesInEditModeInTheMiddleOfAStroke)
+TEST_F(MainWindowTest, MayBeDestroyedInTheMiddleOfAStroke)
 {
     openInEditMode();
     erase();
@@ -1062,7 +1062,7 @@ TEST_F(MainWindowTest, OpensADrawingThatIsDropped)
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
 }
 
-TEST_F(MainWindowTest, AsksBeforeADropTakesThePlaceOfEdits)
+TEST_F(MainWindowTest, AsksBeforeADroppedDrawingReplacesEdits)
 {
     openInEditMode();
     erase();
@@ -1081,7 +1081,7 @@ TEST_F(MainWindowTest, AsksBeforeADropTakesThePlaceOfEdits)
     EXPECT_EQ(polylineCount(), 1);
 }
 
-TEST_F(MainWindowTest, LeavesDragsOfOtherThingsAlone)
+TEST_F(MainWindowTest, RefusesDragsOfOtherFiles)
 {
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(path(QStringLiteral("notes.txt")))});
@@ -1105,7 +1105,7 @@ TEST_F(MainWindowTest, ExportsWhatIsOnScreen)
     EXPECT_EQ(contentOf(path(QStringLiteral("cross.svg"))).count("<polyline"), 1);
 }
 
-TEST_F(MainWindowTest, ExportsAPngUnlessToldOtherwise)
+TEST_F(MainWindowTest, ExportsAPngByDefault)
 {
     open(fileWith(crossDrawing, QStringLiteral("cross.v2.dxf")));
     m_robot.expect<QFileDialog>([](QFileDialog& dialog) { acceptAsItIs(dialog); });

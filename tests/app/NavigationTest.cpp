@@ -102,7 +102,7 @@ TEST_F(NavigationTest, ShowsWhatHasNoExtent)
     }
 }
 
-TEST_F(NavigationTest, SurvivesCoordinatesWithoutEnd)
+TEST_F(NavigationTest, HugeAndInfiniteCoordinatesDoNoHarm)
 {
     show({{-1e308, 0}, {1e308, 1e308}});
     zoomWithWheel({0, 0}, 1200);
@@ -112,7 +112,7 @@ TEST_F(NavigationTest, SurvivesCoordinatesWithoutEnd)
     EXPECT_TRUE(std::isfinite(m_navigation.zoom()));
 }
 
-TEST_F(NavigationTest, HasYUpwards)
+TEST_F(NavigationTest, YPointsUpwards)
 {
     show({{0, 0}, {100, 0}, {100, 50}});
 
@@ -156,7 +156,7 @@ TEST_F(NavigationTest, CtrlAndTheWheelZoomAtThePointer)
     EXPECT_NEAR(scale(), before, 1e-9 * before);
 }
 
-TEST_F(NavigationTest, ZoomGoesOnFromTheFitOfTheSecondDrawing)
+TEST_F(NavigationTest, ZoomStartsFromTheFitOfTheSecondDrawing)
 {
     show({{0, 0}, {100, 0}, {100, 50}});
     for (int i = 0; i < 10; ++i)
@@ -197,7 +197,7 @@ TEST_F(NavigationTest, ZoomHasLimits)
     EXPECT_GT(m_navigation.zoom(), 0.01);
 }
 
-TEST_F(NavigationTest, IsFittedAgainUntilTheUserZooms)
+TEST_F(NavigationTest, ResizingFitsAgainUntilTheUserZooms)
 {
     show({{0, 0}, {100, 0}, {100, 50}});
 
@@ -214,7 +214,7 @@ TEST_F(NavigationTest, IsFittedAgainUntilTheUserZooms)
     EXPECT_DOUBLE_EQ(scale(), zoomed);
 }
 
-TEST_F(NavigationTest, FitComesBack)
+TEST_F(NavigationTest, FitShowsTheWholeDrawingAgain)
 {
     show({{0, 0}, {100, 0}, {100, 50}});
     const double fitted = scale();
@@ -280,7 +280,7 @@ TEST_F(NavigationTest, TheEraserIsWhereThePointerIs)
     EXPECT_LT((disc.center() - placeOf(marker.scenePos())).manhattanLength(), 1.0);
 }
 
-TEST_F(NavigationTest, OutlivesTheView)
+TEST_F(NavigationTest, MayOutliveTheView)
 {
     auto window = std::make_unique<DXFViewer>();
     Navigation navigation(viewOf(*window));

@@ -41,7 +41,7 @@ QByteArray longPolyline()
 
 using ProgramOutOfMemoryTest = LoggedTest;
 
-TEST_F(ProgramOutOfMemoryTest, ADrawingThatCannotBeReadGivesABoxAndLeavesThePicture)
+TEST_F(ProgramOutOfMemoryTest, AFailedReadGivesABoxAndLeavesTheShownDrawing)
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("long.dxf")));
@@ -51,7 +51,7 @@ TEST_F(ProgramOutOfMemoryTest, ADrawingThatCannotBeReadGivesABoxAndLeavesThePict
     DialogRobot robot;
     MainWindow window;
     window.show();
-    // The reader that asks for one large array.
+    // With this choice dxflib reads the drawing, and asks for one large array.
     const auto actions = window.findChildren<QAction*>();
     for (QAction* action : actions) {
         if (action->text() == QStringLiteral("Only &Polylines"))

@@ -63,10 +63,11 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Whether the colour is that of the stroke rather than that of the background.
+/// Whether the pixel at this share of the width and height has the colour of a line, not of the
+/// ground.
 bool isStroke(const QImage& image, double x, double y)
 {
-    // A stroke may lie between two rows of pixels.
+    // A line may lie between two rows of pixels.
     const QPoint at(qRound(x * image.width()), qRound(y * image.height()));
     int reddest = 0;
     for (int dx = -1; dx <= 1; ++dx) {
@@ -76,7 +77,7 @@ bool isStroke(const QImage& image, double x, double y)
     return reddest > 100;
 }
 
-TEST_F(PictureTest, ShowsTheStrokesWhereTheyAre)
+TEST_F(PictureTest, LinesAreAtTheirPlaces)
 {
     const QImage image = png(drawingOf({{0, 0}, {100, 0}, {100, 50}}));
 
@@ -94,7 +95,7 @@ TEST_F(PictureTest, ShowsTheClosingEdge)
     EXPECT_TRUE(isStroke(image, 0.02 / 1.04, 0.5));
 }
 
-TEST_F(PictureTest, KeepsFarAwayCoordinatesApart)
+TEST_F(PictureTest, CoordinatesFarFromTheOriginStayDistinct)
 {
     constexpr double far = 3.2e6;
     const QString svg =
@@ -120,7 +121,7 @@ TEST_F(PictureTest, WritesEachKind)
     EXPECT_THAT(contentOf(picture(document, QStringLiteral("SVG"))), HasSubstr("<polyline"));
 }
 
-TEST_F(PictureTest, TakesTheDrawingAtOnce)
+TEST_F(PictureTest, KeepsTheDrawingAsItWasAtConstruction)
 {
     const auto document = drawingOf({{0, 0}, {100, 100}});
     const Picture before(document, QColor(background));
@@ -146,7 +147,7 @@ TEST_F(PictureTest, RefusesADrawingWithNothingToShow)
     EXPECT_FALSE(QFile::exists(fileName(QStringLiteral("x.png"))));
 }
 
-TEST_F(PictureTest, HasTheDrawingsColorsOnItsGround)
+TEST_F(PictureTest, ColorsAreLegibleOnTheGround)
 {
     const auto polyline = makePolyline({{0, 0}, {100, 0}});
     polyline->setAttributes(makeAttributes(QStringLiteral("0"), 7));
@@ -180,25 +181,25 @@ TEST_F(PictureTest, AnSvgHasATitleAndTheSizeOfThePdf)
     const std::string pdf = contentOf(fileName(QStringLiteral("a.pdf")));
 
     EXPECT_THAT(svg, HasSubstr("<title>House &amp; garden</title>"));
-    // 2000 pixels of 144 to the inch: 352.8 millimetres, 1000 points.
+    // 2000 pixels at 144 pixels to the inch are 352.8 millimetres or 1000 points.
     EXPECT_THAT(svg, HasSubstr("<svg width=\"352.778mm\""));
     EXPECT_THAT(pdf, HasSubstr("/MediaBox [0 0 1000"));
 }
 
-TEST_F(PictureTest, ALevelLineAndALonePointArePictures)
+TEST_F(PictureTest, AHorizontalLineAndAPointGivePictures)
 {
     EXPECT_TRUE(isStroke(png(drawingOf({{0, 7}, {1000, 7}})), 0.5, 0.5));
     EXPECT_FALSE(png(drawingOf({{5, 5}, {5, 5}})).isNull());
 }
 
-TEST_F(PictureTest, AVeryLongStripKeepsAHeight)
+TEST_F(PictureTest, ALongFlatDrawingKeepsAHeight)
 {
     const QImage image = png(drawingOf({{0, 0}, {1e9, 1}}));
 
     EXPECT_GE(image.height(), 10);
 }
 
-TEST_F(PictureTest, RefusesCoordinatesWithoutEnd)
+TEST_F(PictureTest, RefusesHugeAndInfiniteCoordinates)
 {
     constexpr double most = std::numeric_limits<double>::max();
     for (const double x : {most, std::numeric_limits<double>::infinity()}) {

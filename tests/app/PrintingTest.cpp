@@ -72,7 +72,7 @@ QImage pageOf(QPrintPreviewWidget& preview)
     return picture.copy(paper.adjusted(frame, frame, -frame, -frame));
 }
 
-/// Whether there is dark ink within some pixels of a place.
+/// Whether a pixel near the place is dark.
 bool isInked(const QImage& page, const QPoint& place)
 {
     constexpr int reach = 3;
@@ -102,7 +102,7 @@ protected:
         return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
     }
 
-    /// Prints to the file when the dialog comes.
+    /// Answers the print dialog with a file to print to.
     void expectDialog() { expectDialog(file()); }
     void expectDialog(const QString& fileName)
     {
@@ -135,7 +135,7 @@ TEST_F(PrintingTest, ADrawingFillsThePage)
     EXPECT_NEAR(ink.height() * 4, ink.width(), 8);
 }
 
-TEST_F(PrintingTest, APageLiesAsTheDrawingDoes)
+TEST_F(PrintingTest, OrientationFollowsTheDrawing)
 {
     EXPECT_TRUE(Picture(wideDrawing(), Qt::white).isWide());
     EXPECT_FALSE(
@@ -153,7 +153,7 @@ TEST_F(PrintingTest, PrintsOnePage)
     EXPECT_EQ(content().count("/Type /Page\n"), 1);
 }
 
-TEST_F(PrintingTest, PrintsNothingIfItIsCalledOff)
+TEST_F(PrintingTest, PrintsNothingWhenCancelled)
 {
     m_robot.expect<QPrintDialog>([](QPrintDialog& dialog) { dialog.reject(); });
 
@@ -162,7 +162,7 @@ TEST_F(PrintingTest, PrintsNothingIfItIsCalledOff)
     EXPECT_FALSE(QFile::exists(file()));
 }
 
-TEST_F(PrintingTest, ADrawingWithoutAnythingIsAnEmptyPage)
+TEST_F(PrintingTest, AnEmptyDrawingPrintsOnePage)
 {
     expectDialog();
 
@@ -190,7 +190,7 @@ TEST_F(PrintingTest, AFullDiskGivesABox)
     EXPECT_THAT(error, HasSubstr("The disk may be full."));
 }
 
-TEST_F(PrintingTest, ADeviceThatTakesNothingGivesABox)
+TEST_F(PrintingTest, AFullDeviceGivesABox)
 {
     std::string error;
     expectDialog(QStringLiteral("/dev/full"));
@@ -201,7 +201,7 @@ TEST_F(PrintingTest, ADeviceThatTakesNothingGivesABox)
     EXPECT_THAT(error, HasSubstr("/dev/full"));
 }
 
-TEST_F(PrintingTest, ShowsOnePageBeforeItIsPrinted)
+TEST_F(PrintingTest, PreviewShowsOnePage)
 {
     int pages = 0;
     m_robot.expect<QPrintPreviewDialog>([&pages](QPrintPreviewDialog& dialog) {
@@ -216,7 +216,7 @@ TEST_F(PrintingTest, ShowsOnePageBeforeItIsPrinted)
     EXPECT_EQ(pages, 1);
 }
 
-TEST_F(PrintingTest, APageIsTheRightWayUpAndOnWhite)
+TEST_F(PrintingTest, ThePageIsUprightAndWhite)
 {
     QImage page;
     m_robot.expect<QPrintPreviewDialog>([&page](QPrintPreviewDialog& dialog) {

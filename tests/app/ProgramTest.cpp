@@ -33,7 +33,7 @@ protected:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         environment.insert(QStringLiteral("LANGUAGE"), language);
-        // The program must see by itself that it needs no display.
+        // The program must run without a display.
         for (const char* display : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
             environment.remove(QLatin1String(display));
         process.setProcessEnvironment(environment);
@@ -60,7 +60,7 @@ QString sample(const QString& name)
     return QStringLiteral(DXFVIEWER_SAMPLES "/") + name;
 }
 
-/// A blank picture has one.
+/// The number of colours. A blank picture has one.
 int colorCount(const QImage& image)
 {
     QSet<QRgb> colors;
@@ -95,7 +95,7 @@ TEST_F(ProgramTest, TellsItsOptions)
         EXPECT_THAT(outcome.output, HasSubstr(option));
 }
 
-TEST_F(ProgramTest, NamesTheFileInItsHelpInOneLanguage)
+TEST_F(ProgramTest, HelpNamesItsArgumentsInTheUsersLanguage)
 {
     const Outcome outcome = run({QStringLiteral("--help")}, QStringLiteral("de"));
 
@@ -185,7 +185,7 @@ INSTANTIATE_TEST_SUITE_P(, ProgramSampleTest,
                              return name;
                          });
 
-TEST_F(ProgramTest, MakesPicturesOnTheGroundThatIsNamed)
+TEST_F(ProgramTest, MakesPicturesOnTheNamedGround)
 {
     const QString picture = path(QStringLiteral("out.png"));
     const QString drawing = sample(QStringLiteral("floor-plan.dxf"));
@@ -250,7 +250,7 @@ TEST_F(ProgramTest, ReportsOnTheOthersWhenOneCannotBeRead)
     EXPECT_THAT(nothing.errors, HasSubstr("no drawing to report on"));
 }
 
-TEST_F(ProgramTest, TellsWhatItReadsOnlyWhenToldTo)
+TEST_F(ProgramTest, LogsOnlyWhenVerbose)
 {
     // A block of one line, 900 million times.
     const QString drawing = path(QStringLiteral("array.dxf"));

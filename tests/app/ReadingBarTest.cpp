@@ -19,7 +19,7 @@
 namespace
 {
 
-// Long enough that the reader can be met in the middle.
+// Reading takes so long that a test can act in the middle of it.
 constexpr int manyPolylines = 150000;
 
 class ReadingBarTest : public dxftest::LoggedTest
@@ -39,8 +39,8 @@ protected:
     }
 
     int value() const { return m_bar->findChild<QProgressBar*>()->value(); }
-    /// Begins to read, and comes back when the bar shows that. On a machine that has other things
-    /// to do, the end may come first: then it begins anew.
+    /// Starts to read, and returns when the bar shows progress. On a busy machine the read may end
+    /// first. Then it starts again.
     bool readToTheMiddle()
     {
         return dxftest::eventually([this] {
@@ -70,7 +70,7 @@ TEST_F(ReadingBarTest, ShowsWhatIsReadAndHowFarItIs)
     EXPECT_FALSE(m_reader.isReading());
 }
 
-TEST_F(ReadingBarTest, TheButtonCallsTheReadOff)
+TEST_F(ReadingBarTest, TheButtonCancelsTheRead)
 {
     ASSERT_TRUE(readToTheMiddle());
 

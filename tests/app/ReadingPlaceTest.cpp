@@ -35,7 +35,7 @@ TEST(ReadingPlaceTest, MoreGroupsThanLinesDoNoHarm)
     EXPECT_EQ(place.share(), 1.0);
 }
 
-TEST(ReadingPlaceTest, WithoutLinesTheValuesCount)
+TEST(ReadingPlaceTest, WithoutLinesTheSizesOfTheValuesCount)
 {
     const QByteArray content(100, '\0');
     ReadingWatch watch;
@@ -47,7 +47,7 @@ TEST(ReadingPlaceTest, WithoutLinesTheValuesCount)
     EXPECT_EQ(place.share(), 1.0);
 }
 
-TEST(ReadingPlaceTest, NothingIsReadAtOnce)
+TEST(ReadingPlaceTest, AnEmptyTextIsReadCompletely)
 {
     const QByteArray content;
     ReadingWatch watch;
@@ -57,7 +57,7 @@ TEST(ReadingPlaceTest, NothingIsReadAtOnce)
     EXPECT_EQ(place.share(), 1.0);
 }
 
-TEST(ReadingPlaceTest, TellsTheWatchNowAndThen)
+TEST(ReadingPlaceTest, ReportsToTheWatch)
 {
     const QByteArray content = QByteArray("0\nEOF\n").repeated(2 * groups);
     ReadingWatch watch;
@@ -69,7 +69,7 @@ TEST(ReadingPlaceTest, TellsTheWatchNowAndThen)
     EXPECT_LE(watch.share(), place.share());
 }
 
-TEST(ReadingPlaceTest, EndsTheReadThatNobodyWaitsFor)
+TEST(ReadingPlaceTest, ThrowsWhenTheReadIsCancelled)
 {
     const QByteArray content;
     ReadingWatch watch;

@@ -57,7 +57,7 @@ TEST_F(RecentFilesTest, TheNewestComesFirst)
     EXPECT_EQ(m_recent.names(), (QStringList{numbered(2), numbered(1)}));
 }
 
-TEST_F(RecentFilesTest, EachDrawingStandsThereOnce)
+TEST_F(RecentFilesTest, EachDrawingIsListedOnce)
 {
     m_recent.add(numbered(1));
     m_recent.add(numbered(2));
@@ -77,14 +77,14 @@ TEST_F(RecentFilesTest, TwoNamesOfAFileAreOneDrawing)
     EXPECT_EQ(m_recent.names(), QStringList{numbered(2)});
 }
 
-TEST_F(RecentFilesTest, TheFolderThatTheProgramWasStartedInDoesNotMatter)
+TEST_F(RecentFilesTest, NamesAreMadeAbsolute)
 {
     m_recent.add(QStringLiteral("plan.dxf"));
 
     EXPECT_EQ(m_recent.names(), QStringList{QDir::current().filePath(QStringLiteral("plan.dxf"))});
 }
 
-TEST_F(RecentFilesTest, TenAreKept)
+TEST_F(RecentFilesTest, AtMostTenAreKept)
 {
     for (int number = 1; number <= 12; ++number)
         m_recent.add(numbered(number));
@@ -94,7 +94,7 @@ TEST_F(RecentFilesTest, TenAreKept)
     EXPECT_EQ(m_recent.names().constLast(), numbered(3));
 }
 
-TEST_F(RecentFilesTest, TheyOutliveTheProgram)
+TEST_F(RecentFilesTest, TheListIsKeptInTheSettings)
 {
     m_recent.add(numbered(1));
 
@@ -102,7 +102,7 @@ TEST_F(RecentFilesTest, TheyOutliveTheProgram)
     EXPECT_EQ(RecentFiles(settings).names(), QStringList{numbered(1)});
 }
 
-TEST_F(RecentFilesTest, ProgramsSideBySideKeepEachOthers)
+TEST_F(RecentFilesTest, TwoProgramsShareOneList)
 {
     QSettings settings(m_settings.fileName(), QSettings::IniFormat);
     RecentFiles other(settings);
@@ -113,7 +113,7 @@ TEST_F(RecentFilesTest, ProgramsSideBySideKeepEachOthers)
     EXPECT_EQ(other.names(), (QStringList{numbered(3), numbered(2), numbered(1)}));
 }
 
-TEST_F(RecentFilesTest, OneCanBeTakenOut)
+TEST_F(RecentFilesTest, OneCanBeRemoved)
 {
     m_recent.add(numbered(1));
     m_recent.add(numbered(2));
@@ -122,7 +122,7 @@ TEST_F(RecentFilesTest, OneCanBeTakenOut)
     EXPECT_EQ(m_recent.names(), QStringList{numbered(1)});
 }
 
-TEST_F(RecentFilesTest, NonsenseIsPassedOver)
+TEST_F(RecentFilesTest, NonsenseInTheSettingsIsSkipped)
 {
     store(QStringList{QString(), QStringLiteral("relative.dxf"),
                       QStringLiteral("/a*b.dxf").replace(QLatin1Char('*'), QChar(0)),
@@ -154,7 +154,7 @@ TEST_F(RecentFilesTest, SettingsThatCannotBeWrittenDoNoHarm)
     EXPECT_EQ(m_recent.names(), QStringList{numbered(1)});
 }
 
-TEST_F(RecentFilesTest, TheMenuOffersThem)
+TEST_F(RecentFilesTest, TheMenuListsThem)
 {
     m_recent.add(path(QStringLiteral("walls & doors.dxf")));
     m_recent.add(numbered(1));

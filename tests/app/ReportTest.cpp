@@ -32,7 +32,7 @@ TEST_F(ReportTest, MeasuresAllSegments)
     EXPECT_EQ(measures.box->greatest, QPointF(10, 6));
 }
 
-TEST_F(ReportTest, LosesNothingInALongSum)
+TEST_F(ReportTest, SmallLengthsCountInALongSum)
 {
     QVector<QPointF> zigzag{{0, 0}, {1e9, 0}};
     for (int i = 0; i < 100000; ++i)

@@ -33,7 +33,7 @@ protected:
         file.write(oldContent);
     }
 
-    /// Runs the action in a process of its own, which ends with its result.
+    /// Runs the action in a child process, which exits with the action's result.
     static pid_t inChild(const std::function<int()>& action)
     {
         const pid_t child = fork();
@@ -42,7 +42,8 @@ protected:
         return child;
     }
 
-    /// Saves more than the process may write to a file. For a process that ends afterwards.
+    /// Saves more than the process may write to a file. The limit stays, so only a child process
+    /// may do this.
     int saveBeyondLimit() const
     {
         const rlimit limit{limitBytes, limitBytes};
@@ -74,7 +75,7 @@ protected:
     const QString m_fileName = m_folder.filePath(QStringLiteral("drawing.dxf"));
 };
 
-TEST_F(SaveFailureTest, AProcessThatIsKilledInTheMiddleLeavesTheOldFile)
+TEST_F(SaveFailureTest, AProcessKilledInTheMiddleLeavesTheOldFile)
 {
     const pid_t child = inChild([this] {
         // The system kills a process at the write that goes beyond its limit.

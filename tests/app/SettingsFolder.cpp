@@ -10,8 +10,8 @@
 namespace
 {
 
-/// Gives the tests, and the programs that they start, a folder for settings of their own: the
-/// user's are none of their business.
+/// Gives the tests, and the programs that they start, a settings folder of their own. They must not
+/// read or change the user's settings.
 class SettingsFolder : public ::testing::Environment
 {
 public:

@@ -65,7 +65,7 @@ protected:
         return QStringLiteral("Polylines: %1, segments: %2").arg(polylines).arg(segments);
     }
 
-    /// The words for the pixel that a point is in.
+    /// The text for the pixel that holds a point.
     QString placeOf(const QPointF& point, int decimals) const
     {
         const QGraphicsView& view = drawingView(m_viewer);
@@ -155,7 +155,7 @@ TEST_F(StatusLineTest, SaysWhereThePointerIsUntilItLeaves)
     EXPECT_EQ(place(), QString());
 }
 
-TEST_F(StatusLineTest, ThePlaceHasTheDecimalsThatPixelsCanTellApart)
+TEST_F(StatusLineTest, ThePlaceHasAsManyDecimalsAsThePixelsNeed)
 {
     showDrawing();
     QGraphicsView& view = drawingView(m_viewer);
@@ -177,7 +177,7 @@ TEST_F(StatusLineTest, SaysHowToEraseInEditMode)
     EXPECT_EQ(hint(), m_sentence);
 }
 
-TEST_F(StatusLineTest, EditModeInAnotherWindowEndsTheHint)
+TEST_F(StatusLineTest, EditModeInAnotherWindowRemovesTheHint)
 {
     showDrawing();
     editAction(m_viewer).setChecked(true);

@@ -30,7 +30,7 @@ constexpr int posts = 40;
 constexpr double spacing = 10.0;
 constexpr qint64 plenty = 1LL << 30;
 
-/// The middle of a post of the fence.
+/// The middle of one post of fence().
 QPointF post(int index)
 {
     return {spacing * index, 0.0};
@@ -111,7 +111,7 @@ TEST_F(StrokeHistoryTest, UndoTakesBackAWholeStroke)
     EXPECT_TRUE(m_history.redoAction()->isEnabled());
 }
 
-TEST_F(StrokeHistoryTest, RedoTakesUpAWholeStroke)
+TEST_F(StrokeHistoryTest, RedoRepeatsAWholeStroke)
 {
     stroke({1, 2});
     stroke({3, 4, 5});
@@ -152,7 +152,7 @@ TEST_F(StrokeHistoryTest, AStrokeThatHitsNothingLeavesRedo)
     EXPECT_EQ(count(), posts - 2);
 }
 
-TEST_F(StrokeHistoryTest, AStrokeAfterUndoTakesTheUndoneOnesPlace)
+TEST_F(StrokeHistoryTest, AStrokeAfterUndoReplacesTheUndoneStroke)
 {
     stroke({1, 2});
     stroke({3, 4});
@@ -225,7 +225,7 @@ TEST_F(StrokeHistoryTest, MoreThanTenStepsAreKept)
     EXPECT_EQ(count(), posts);
 }
 
-TEST_F(StrokeHistoryTest, SingleStepsOfTheWindowAreHidden)
+TEST_F(StrokeHistoryTest, ActionsForSingleStepsAreHidden)
 {
     stroke({1});
 
@@ -248,7 +248,7 @@ TEST_F(StrokeHistoryTest, TheHistoryEndsWithEditMode)
     EXPECT_EQ(count(), posts - 2);
 }
 
-TEST_F(StrokeHistoryTest, ANewPeriodOfEditModeHasAHistoryOfItsOwn)
+TEST_F(StrokeHistoryTest, EachEditModeHasItsOwnHistory)
 {
     stroke({1, 2});
     editAction(m_viewer).setChecked(false);
@@ -261,7 +261,7 @@ TEST_F(StrokeHistoryTest, ANewPeriodOfEditModeHasAHistoryOfItsOwn)
     EXPECT_FALSE(m_history.undoAction()->isEnabled());
 }
 
-TEST_F(StrokeHistoryTest, KeysOfBothHabits)
+TEST_F(StrokeHistoryTest, HasTheUsualKeys)
 {
     EXPECT_EQ(m_history.undoAction()->shortcuts(),
               QList<QKeySequence>{QKeySequence(QStringLiteral("Ctrl+Z"))});
@@ -271,8 +271,8 @@ TEST_F(StrokeHistoryTest, KeysOfBothHabits)
         m_history.redoAction()->shortcuts().contains(QKeySequence(QStringLiteral("Ctrl+Y"))));
 }
 
-/// Whatever the user does, the drawing is what it was after one of the strokes.
-TEST_F(StrokeHistoryTest, AnyStrokesUndosAndRedosLeadToWhatWasThere)
+/// After each undo and redo the drawing is as it was after one of the strokes.
+TEST_F(StrokeHistoryTest, RandomUndosAndRedosRestoreWholeStrokes)
 {
     std::mt19937 random(7);
     const auto chance = [&random](int choices) {
@@ -329,7 +329,7 @@ protected:
     QSignalSpy m_lost;
 };
 
-TEST_F(ShortStrokeHistoryTest, AStrokeThatIsTooLongTellsOnce)
+TEST_F(ShortStrokeHistoryTest, ATooLongStrokeSignalsOnce)
 {
     stroke(range(1, 10));
     EXPECT_EQ(m_lost.count(), 0);
@@ -339,7 +339,7 @@ TEST_F(ShortStrokeHistoryTest, AStrokeThatIsTooLongTellsOnce)
     EXPECT_EQ(m_lost.count(), 1);
 }
 
-TEST_F(ShortStrokeHistoryTest, UndoOfAStrokeThatWasTooLongTakesBackItsEndAndTells)
+TEST_F(ShortStrokeHistoryTest, UndoOfATooLongStrokeRevertsItsEndAndSignals)
 {
     stroke(range(1, 12));
     m_lost.clear();
@@ -399,7 +399,7 @@ TEST(StrokeMemoryTest, CountsTheSegmentsThatAStepCopies)
     EXPECT_LT(StrokeHistory::stepsThatFit(1LL << 28, *document), 100);
 }
 
-TEST(StrokeMemoryTest, NeverKeepsLessThanTheWindowDoes)
+TEST(StrokeMemoryTest, KeepsAtLeastTenSteps)
 {
     EXPECT_EQ(StrokeHistory::stepsThatFit(0, DXFDocument()), 10);
     EXPECT_EQ(StrokeHistory::stepsThatFit(-1, DXFDocument()), 10);

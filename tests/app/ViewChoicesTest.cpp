@@ -42,7 +42,7 @@ protected:
 
     ~ViewChoicesTest() override
     {
-        // Its history outlives it.
+        // The history must outlive the viewer.
         m_viewer.reset();
     }
 
@@ -64,7 +64,7 @@ protected:
     }
     int entities() const { return static_cast<int>(shownDocument(*m_viewer)->entities().size()); }
 
-    /// An edit that no file has.
+    /// Makes an unsaved edit.
     void edit()
     {
         editAction(*m_viewer).setChecked(true);
@@ -94,7 +94,7 @@ TEST_F(ViewChoicesTest, TheMenuSaysHowDrawingsAreRead)
     EXPECT_EQ(m_choices.choices(), ReadingChoices());
 }
 
-TEST_F(ViewChoicesTest, EachActionIsAChoiceOfItsOwn)
+TEST_F(ViewChoicesTest, EachActionIsAnIndependentChoice)
 {
     texts().trigger();
     EXPECT_FALSE(m_files.choices().showsTexts);
@@ -137,7 +137,7 @@ TEST_F(ViewChoicesTest, EachChangeReadsTheDrawingAgain)
     EXPECT_EQ(entities(), all);
 }
 
-TEST_F(ViewChoicesTest, WhatIsTheSameIsNotReadAgain)
+TEST_F(ViewChoicesTest, SameChoicesDoNotReadAgain)
 {
     openDrawing();
 
@@ -159,7 +159,7 @@ TEST_F(ViewChoicesTest, NothingChangesIfTheUserKeepsTheEdits)
     EXPECT_FALSE(m_files.reader().isReading());
 }
 
-TEST_F(ViewChoicesTest, EditsThatTheUserThrowsAwayGiveWay)
+TEST_F(ViewChoicesTest, TheChoiceAppliesIfTheUserDiscardsTheEdits)
 {
     openDrawing();
     edit();

@@ -24,11 +24,11 @@
 namespace
 {
 
-/// A window as the program has it, as far as it is remembered.
+/// The parts of the program's window that are remembered.
 struct Remembered {
     ~Remembered()
     {
-        // Its history outlives it.
+        // The history must outlive the viewer.
         viewer.reset();
     }
 
@@ -50,7 +50,7 @@ ReadingChoices otherChoices()
     return choices;
 }
 
-/// Nothing of it is as it is the first time.
+/// Changes everything that is remembered from its default.
 void change(Remembered& it)
 {
     it.window.setGeometry(60, 50, 433, 311);
@@ -80,14 +80,14 @@ protected:
     Remembered m_it;
 };
 
-TEST_F(WindowMemoryTest, TheFirstTimeHasASizeThatFitsTheScreen)
+TEST_F(WindowMemoryTest, TheDefaultSizeFitsTheScreen)
 {
     m_it.memory.restore();
 
     expectFirstTime(m_it);
 }
 
-TEST_F(WindowMemoryTest, WhatIsNotRememberedBecomesThatOfTheFirstTime)
+TEST_F(WindowMemoryTest, WithoutSettingsTheDefaultsAreRestored)
 {
     change(m_it);
 
@@ -96,7 +96,7 @@ TEST_F(WindowMemoryTest, WhatIsNotRememberedBecomesThatOfTheFirstTime)
     expectFirstTime(m_it);
 }
 
-TEST_F(WindowMemoryTest, TheNextWindowIsAsTheLastOne)
+TEST_F(WindowMemoryTest, TheNextWindowIsLikeTheLastOne)
 {
     change(m_it);
     m_it.memory.remember();
@@ -110,7 +110,7 @@ TEST_F(WindowMemoryTest, TheNextWindowIsAsTheLastOne)
     EXPECT_EQ(next.choices.choices(), otherChoices());
 }
 
-TEST_F(WindowMemoryTest, TheLastWindowCounts)
+TEST_F(WindowMemoryTest, TheLatestStateIsRemembered)
 {
     change(m_it);
     m_it.memory.remember();
@@ -125,7 +125,7 @@ TEST_F(WindowMemoryTest, TheLastWindowCounts)
     EXPECT_EQ(next.choices.choices(), ReadingChoices());
 }
 
-TEST_F(WindowMemoryTest, NonsenseInTheFileIsTheFirstTime)
+TEST_F(WindowMemoryTest, NonsenseInTheFileGivesTheDefaults)
 {
     const QString fileName = Settings().fileName();
     ASSERT_TRUE(QDir().mkpath(QFileInfo(fileName).path()));
@@ -144,7 +144,7 @@ TEST_F(WindowMemoryTest, NonsenseInTheFileIsTheFirstTime)
     }
 }
 
-TEST_F(WindowMemoryTest, ValuesOfOtherKindsAreTheFirstTime)
+TEST_F(WindowMemoryTest, ValuesOfOtherTypesGiveTheDefaults)
 {
     const QVariant others[] = {QVariant(), QVariantMap{{QStringLiteral("a"), 1}}, -1e300,
                                QByteArray(100000, '\x01'), QSize(-1, -1)};
