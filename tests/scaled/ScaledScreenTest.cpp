@@ -26,7 +26,7 @@ using ::testing::Le;
 constexpr int factor = 2;
 constexpr int eraserDiameter = 10;
 
-/// A slanted and a level line.
+/// A slanted and a horizontal line.
 const QByteArray drawing = QByteArrayLiteral("0\nSECTION\n2\nENTITIES\n"
                                              "0\nPOLYLINE\n8\n0\n66\n1\n"
                                              "0\nVERTEX\n8\n0\n10\n0\n20\n0\n"
@@ -55,7 +55,7 @@ QRect redPartOf(const QImage& picture)
     return part;
 }
 
-/// Whether the picture is a smaller one with every pixel written several times.
+/// Whether the picture is a smaller one whose pixels are repeated.
 bool isMagnified(const QImage& picture)
 {
     const QSize small = picture.size() / factor;
@@ -82,7 +82,7 @@ protected:
 
     QImage picture() { return m_view->viewport()->grab().toImage(); }
 
-    /// Sweeps the eraser along the level line, so many device-independent pixels beside it.
+    /// Moves the eraser along the horizontal line at a distance in device-independent pixels.
     void eraseBesideLevelLine(double distance)
     {
         const double y = 300.0 + distance / m_view->transform().m11();
@@ -116,7 +116,7 @@ TEST_F(ScaledScreenTest, MarkerIsFivePointsInRadius)
 
     const QRect marker = redPartOf(picture());
 
-    // The outline of one point lies half inside the disc.
+    // Half of the outline, which is one point wide, lies inside the disc.
     EXPECT_THAT(marker.width(),
                 AllOf(Ge((eraserDiameter - 1) * factor - 1), Le(eraserDiameter * factor)));
     EXPECT_THAT(marker.height(),

@@ -11,10 +11,10 @@ namespace dxftest
 {
 
 /**
- * A host that acts from within Qt's log: it does something at the first message of a text.
+ * A host that acts inside a message handler: it runs an action at the first message with a text.
  *
- * Every message goes to the handler that was installed before, this one first. Qt prints by itself
- * what comes while a handler is at work.
+ * Every message then goes to the handler that was installed before. Qt itself prints messages that
+ * are logged inside a message handler.
  */
 class AtMessage
 {

@@ -16,8 +16,8 @@
 namespace dxftest
 {
 
-/// Attributes on a layer, with the values that matter on the screen; the others are those of a
-/// plain entity.
+/// Attributes on a layer, with the values that matter on the screen. The other values are those of
+/// a plain entity.
 QSharedPointer<DXFAttributes> makeAttributes(const QString& layerName, int color, int color24 = -1,
                                              int width = 0);
 

@@ -13,23 +13,23 @@ namespace dxftest
 namespace
 {
 
-/// Warnings of the platform that the tests happen to run on.
+/// Warnings of the platform on which the tests run. They are ignored.
 constexpr std::array platformWarnings{
-    // The offscreen platform says so whenever a window is shown.
+    // The offscreen platform logs this whenever a window is shown.
     "This plugin does not support propagateSizeHints()",
     "This plugin does not support raise()",
 };
 
 bool isPlatformWarning(const QString& text)
 {
-    // A window manager handles a request when the window may be gone.
+    // The window may be destroyed before the window manager handles a request for it.
     if (text.startsWith(QLatin1String("QXcbConnection: XCB error")))
         return true;
     return std::any_of(platformWarnings.begin(), platformWarnings.end(),
                        [&text](const char* known) { return text == QLatin1String(known); });
 }
 
-/// Drawings may be read in other threads, which have messages as well.
+/// Other threads, which read drawings, log messages as well.
 std::mutex& recordMutex()
 {
     static std::mutex mutex;

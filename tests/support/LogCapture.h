@@ -11,8 +11,8 @@ namespace dxftest
 /**
  * Records Qt's log messages while it lives, the debug channel apart from warnings and worse.
  *
- * The library logs without a category. So a message of one counts as a warning that begins with
- * the category's name, unless it comes from Qt itself.
+ * The library logs without a category. So a message with a category counts as a warning that begins
+ * with the category's name, unless the category is Qt's own.
  *
  * Captures may be nested: the innermost one records.
  */

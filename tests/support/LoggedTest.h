@@ -13,10 +13,10 @@ namespace dxftest
 {
 
 /**
- * A test that fails on every warning which it did not announce, and on announced ones that do not
- * come.
+ * A test that fails on every warning that it did not announce, and on every announced warning that
+ * does not come.
  *
- * This is found out when the fixture is destroyed, after what its subclass holds.
+ * This is checked in the destructor of this class, after the members of the subclass are destroyed.
  */
 class LoggedTest : public ::testing::Test
 {
@@ -30,8 +30,7 @@ protected:
     /// The debug messages since the last call, in order.
     QStringList takeDebugMessages() { return m_log.takeDebugMessages(); }
 
-    /// The warnings since the last call, in order. They count neither as announced nor as
-    /// unannounced any more.
+    /// The warnings since the last call, in order. They are not checked any more.
     QStringList takeWarnings() { return m_log.takeWarnings(); }
 
 private:

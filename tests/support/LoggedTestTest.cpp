@@ -15,7 +15,7 @@ namespace
 Q_LOGGING_CATEGORY(foreign, "foreign.category")
 Q_LOGGING_CATEGORY(ofQt, "qt.category")
 
-/// A test that stands for one of another file.
+/// A test whose failures the tests below look at.
 class InnerTest : public LoggedTest
 {
 public:

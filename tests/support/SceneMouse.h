@@ -14,7 +14,7 @@ namespace dxftest
 {
 
 /**
- * A mouse over a graphics view that is moved in scene coordinates.
+ * A mouse over a graphics view, which is moved in scene coordinates.
  *
  * Its events go to the view's viewport, as those of a real one do. The buttons that are held are
  * remembered, so that moves carry them. Moves without any reach the view only if its viewport

@@ -12,7 +12,7 @@ using ToolMember = QPointer<ISelectionTool> DXFEditor::*;
 
 ToolMember toolMember();
 
-// The names in an explicit instantiation are not checked for access.
+// C++ does not check access to the names in an explicit instantiation.
 template <ToolMember member>
 struct Access {
     friend ToolMember toolMember() { return member; }

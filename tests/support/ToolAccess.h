@@ -9,8 +9,8 @@
 namespace dxftest
 {
 
-/// An overlay keeps its tool to itself. A host that makes the parts of a window itself can connect
-/// to the tool's signal; here the window's own tool is reached for the same.
+/// The tool of an overlay is private. A host that makes the parts of a window itself can connect to
+/// the tool's signal. Tests of a whole window get the tool from here.
 ISelectionTool* toolOf(const DXFEditor& overlay);
 
 } // namespace dxftest

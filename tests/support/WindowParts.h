@@ -29,7 +29,7 @@ struct Chain {
 /// The text of a DXF file that holds these polylines, with every digit of their coordinates.
 QByteArray drawingText(const QVector<Chain>& chains);
 
-// What a window is made of, as a host finds it.
+// The parts of a window, found as a host finds them.
 View& viewOf(const DXFViewer& window);
 QGraphicsScene& sceneOf(const DXFViewer& window);
 QToolBar& toolBarOf(const DXFViewer& window);

@@ -10,14 +10,14 @@
 namespace
 {
 
-/// Tests open no windows on anybody's screen unless they are told to.
+/// Tests open windows on the user's screen only if the environment asks for it.
 void choosePlatform()
 {
     if (qEnvironmentVariableIntValue("DXFVIEWER_TEST_ONSCREEN") == 0)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-/// Nor do they read or change what anybody's programs remember; nor those that they start.
+/// Tests, and the programs that they start, do not read or change the user's settings.
 void useSettingsOfOurOwn(const QTemporaryDir& folder)
 {
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));

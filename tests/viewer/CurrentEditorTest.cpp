@@ -26,7 +26,7 @@ using ::testing::SizeIs;
 namespace
 {
 
-/// Two items in a scene, and two who may own edit mode.
+/// Two items in a scene, and two possible owners of edit mode.
 class CurrentEditorTest : public LoggedTest
 {
 protected:
@@ -53,7 +53,7 @@ protected:
     std::unique_ptr<CurrentEditor> current;
 };
 
-TEST_F(CurrentEditorTest, IsNobodysAtFirst)
+TEST_F(CurrentEditorTest, HasNoOwnerAtFirst)
 {
     EXPECT_FALSE(current->isOf(owner));
     current->end();
@@ -81,7 +81,7 @@ TEST_F(CurrentEditorTest, EndDestroysTheEditor)
     EXPECT_FALSE(item->isEnabled());
 }
 
-TEST_F(CurrentEditorTest, OwnDestructionEndsEditMode)
+TEST_F(CurrentEditorTest, DestructionEndsEditMode)
 {
     const QPointer<DXFEditor> editor = current->begin(*item, owner);
 
@@ -90,7 +90,7 @@ TEST_F(CurrentEditorTest, OwnDestructionEndsEditMode)
     EXPECT_EQ(editor, nullptr);
 }
 
-TEST_F(CurrentEditorTest, LaterEditorTakesThePlaceOfTheFormerOne)
+TEST_F(CurrentEditorTest, LaterEditorReplacesTheFormerOne)
 {
     const QPointer<DXFEditor> former = current->begin(*item, owner);
 
@@ -102,7 +102,7 @@ TEST_F(CurrentEditorTest, LaterEditorTakesThePlaceOfTheFormerOne)
     EXPECT_TRUE(current->isOf(otherOwner));
 }
 
-TEST_F(CurrentEditorTest, EditorMayGoByItself)
+TEST_F(CurrentEditorTest, EditorMayBeDestroyedByItsScene)
 {
     const QPointer<DXFEditor> editor = current->begin(*item, owner);
 
@@ -112,7 +112,7 @@ TEST_F(CurrentEditorTest, EditorMayGoByItself)
     current->end();
 }
 
-TEST_F(CurrentEditorTest, EndOfTheFormerFindsTheLaterOne)
+TEST_F(CurrentEditorTest, EndOfTheFormerSeesTheLaterOwner)
 {
     const QPointer<DXFEditor> former = current->begin(*item, owner);
     bool found = false;
@@ -156,7 +156,7 @@ TEST_F(CurrentEditorTest, EndOfTheFormerMayBeginAThirdOne)
     EXPECT_TRUE(current->isOf(owner));
 }
 
-TEST_F(CurrentEditorTest, EndIsCalledAgainWhileItGoesOn)
+TEST_F(CurrentEditorTest, EndMayBeCalledInsideEnd)
 {
     const QPointer<DXFEditor> editor = current->begin(*item, owner);
     QObject::connect(editor, &QObject::destroyed, qApp, [this] { current->end(); });
@@ -166,7 +166,7 @@ TEST_F(CurrentEditorTest, EndIsCalledAgainWhileItGoesOn)
     EXPECT_EQ(editor, nullptr);
 }
 
-TEST_F(CurrentEditorTest, ItemMayGoWhileTheEditorSaysThatItIsThere)
+TEST_F(CurrentEditorTest, ItemMayBeDeletedWhileTheEditorLogsItsCreation)
 {
     const AtMessage end("DXFEditor created ", [this] { delete item; });
 
@@ -177,7 +177,7 @@ TEST_F(CurrentEditorTest, ItemMayGoWhileTheEditorSaysThatItIsThere)
     EXPECT_THAT(takeWarnings(), SizeIs(1)) << "its tool was never made";
 }
 
-TEST_F(CurrentEditorTest, EditorInTheMiddleOfAMoveIsNobodysAnyMore)
+TEST_F(CurrentEditorTest, EditorEndedInAMoveOfItsStackHasNoOwner)
 {
     QPointer<DXFEditor> editor = current->begin(*item, owner);
     QObject::connect(editor->stack(), &QUndoStack::indexChanged, qApp, [&] {

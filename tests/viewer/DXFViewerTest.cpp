@@ -51,7 +51,7 @@ QKeySequence keys(const char* text)
     return QKeySequence(QString::fromLatin1(text), QKeySequence::PortableText);
 }
 
-/// What the window returns for a drawing without anything in it.
+/// The data that the window returns for an empty drawing.
 QByteArray emptyDrawing()
 {
     DXFViewer window;
@@ -70,7 +70,7 @@ QVector<QUndoView*> undoViews()
     return views;
 }
 
-/// Of the timers that wait for a single shot.
+/// The intervals of the single-shot timers that are running.
 QVector<int> timerIntervals()
 {
     QVector<int> intervals;
@@ -243,7 +243,7 @@ TEST_F(DXFViewerTest, ViewFillsTheCentre)
     EXPECT_EQ(viewOf(*window).parentWidget(), central);
 }
 
-TEST_F(DXFViewerTest, OnlyEditIsSeenInTheToolBar)
+TEST_F(DXFViewerTest, OnlyEditIsVisibleInTheToolBar)
 {
     show();
 
@@ -319,7 +319,7 @@ TEST_F(TranslatedTest, UndoAndRedoAreTranslated)
 
 // Shortcuts
 
-TEST_F(DXFViewerTest, ControlEAloneIsAlive)
+TEST_F(DXFViewerTest, OnlyTheShortcutOfEditWorks)
 {
     show();
     QSignalSpy opened(&actionOf(*window, "actionOpen_dxf"), SIGNAL(triggered(bool)));
@@ -392,7 +392,7 @@ TEST_F(DXFViewerTest, ViewIsFittedWithAMarginOf10Units)
     show();
     window->loadData(line);
 
-    // Both in one turn: scroll bars come later and take room.
+    // Both fits run without events between them. Scroll bars would appear then and take room.
     call("postLoad");
     const QTransform fitted = viewOf(*window).transform();
     viewOf(*window).fitInView(QRectF(-17, -5, 120, 70), Qt::KeepAspectRatio);
@@ -432,7 +432,7 @@ TEST_F(DXFViewerTest, TwoLoadsInARowLeaveOneItem)
     window->loadData(line);
 
     ASSERT_TRUE(eventually([this] { return !itemsOf(*window).isEmpty(); }));
-    // Whatever the first load still has to do happens before this.
+    // After this wait the timer of the first load has fired.
     bool hasWaited = false;
     QTimer::singleShot(20, window.get(), [&] { hasWaited = true; });
     ASSERT_TRUE(eventually([&] { return hasWaited; }));
@@ -493,7 +493,7 @@ TEST_F(FailedLoadTest, IsLoggedAfterItsReason)
                            QStringLiteral("Load failed")}));
 }
 
-TEST_F(FailedLoadTest, LeavesThePicture)
+TEST_F(FailedLoadTest, LeavesTheShownDrawing)
 {
     const auto items = itemsOf(*window);
     const auto document = shownDocument(*window);
@@ -509,14 +509,14 @@ TEST_F(FailedLoadTest, LeavesThePicture)
     EXPECT_EQ(viewOf(*window).transform(), transform);
 }
 
-TEST_F(FailedLoadTest, LeavesTheNewEmptyDocumentToBeTaken)
+TEST_F(FailedLoadTest, LeavesAnEmptyDocumentAsData)
 {
     window->loadData(missing);
 
     EXPECT_EQ(window->getData(), emptyDrawing());
 }
 
-TEST_F(FailedLoadTest, LeavesARunningEditorToItsDrawing)
+TEST_F(FailedLoadTest, LeavesTheEditorRunning)
 {
     editActionOf(*window).setChecked(true);
 
@@ -535,7 +535,7 @@ TEST_F(FailedLoadTest, MayBeFollowedByAGoodOne)
     EXPECT_THAT(itemsOf(*window), SizeIs(1));
 }
 
-TEST_F(FailedLoadTest, FolderInPlaceOfAFileFailsToo)
+TEST_F(FailedLoadTest, LoadingAFolderFailsToo)
 {
     const QString folder = QDir::tempPath();
 
@@ -578,7 +578,7 @@ TEST_F(LoadDocumentTest, IsShownAfterFiveMilliseconds)
     EXPECT_THAT(after, ElementsAre(5));
 }
 
-TEST_F(LoadDocumentTest, CanBeTakenAtOnce)
+TEST_F(LoadDocumentTest, IsReturnedAsDataAtOnce)
 {
     window->loadDocument(document);
 
@@ -612,7 +612,7 @@ TEST_F(LoadDocumentTest, MayBeShownTwice)
     EXPECT_EQ(segmentIdsOf(document), ids);
 }
 
-TEST_F(LoadDocumentTest, NullIsALoadThatFailed)
+TEST_F(LoadDocumentTest, NullIsAFailedLoad)
 {
     ASSERT_TRUE(loadAndShow(*window, square));
     editActionOf(*window).setChecked(true);
@@ -635,7 +635,7 @@ TEST_F(LoadDocumentTest, NullIsALoadThatFailed)
 class ActingLogTest : public DXFViewerTest
 {
 protected:
-    /// A drawing that cannot be set up without a message.
+    /// A drawing whose set-up logs a message.
     static QSharedPointer<DXFDocument> odd()
     {
         const auto polyline = makePolyline({{0, 0}, {30, 40}});
@@ -652,10 +652,10 @@ protected:
     static constexpr const char* oddMessage = "Color BYBLOCK not supported";
 };
 
-TEST_F(ActingLogTest, OtherLoadIsShownWhileADrawingIsSetUp)
+TEST_F(ActingLogTest, AnotherLoadMayBeShownWhileADrawingIsSetUp)
 {
     const auto document = odd();
-    // Once: Qt itself prints what comes while a handler is at work.
+    // Expected once: a message that is logged inside a message handler is printed by Qt itself.
     expectWarning(oddMessage);
     const AtMessage other(oddMessage, [&] { EXPECT_TRUE(showsOnce(document)); });
 
@@ -696,7 +696,7 @@ TEST_F(ActingLogTest, DrawingIsShownAlthoughAnotherLoadFailed)
     EXPECT_TRUE(showsOnce(document));
 }
 
-TEST_F(ActingLogTest, WindowIsDestroyedWhileADrawingIsSetUp)
+TEST_F(ActingLogTest, WindowMayBeDestroyedWhileADrawingIsSetUp)
 {
     expectWarning(oddMessage);
     const AtMessage end(oddMessage, [this] { window.reset(); });
@@ -706,7 +706,7 @@ TEST_F(ActingLogTest, WindowIsDestroyedWhileADrawingIsSetUp)
     EXPECT_TRUE(eventually([&] { return end.hasActed(); }));
 }
 
-TEST_F(ActingLogTest, DrawingChangesWhileItIsSetUp)
+TEST_F(ActingLogTest, DrawingMayChangeWhileItIsSetUp)
 {
     const auto document = odd();
     expectWarning(oddMessage);
@@ -721,7 +721,7 @@ TEST_F(ActingLogTest, DrawingChangesWhileItIsSetUp)
     EXPECT_TRUE(showsOnce(document));
 }
 
-TEST_F(ActingLogTest, WindowIsDestroyedWhileADrawingIsRead)
+TEST_F(ActingLogTest, WindowMayBeDestroyedWhileADrawingIsRead)
 {
     const AtMessage end("addLine", [this] { window.reset(); });
 
@@ -731,7 +731,7 @@ TEST_F(ActingLogTest, WindowIsDestroyedWhileADrawingIsRead)
     EXPECT_TRUE(end.hasActed());
 }
 
-TEST_F(ActingLogTest, OtherLoadComesWhileADrawingIsWritten)
+TEST_F(ActingLogTest, AnotherLoadMayComeWhileADrawingIsWritten)
 {
     window->loadDocument(
         makeDocument({QSharedPointer<OtherEntity>::create(-1), makePolyline({{0, 0}, {30, 40}})}));
@@ -782,7 +782,7 @@ TEST_F(DXFViewerTest, OpenFromItsActionLoadsAnEmptyName)
     EXPECT_EQ(window->getData(), emptyDrawing());
 }
 
-/// Opens in a folder where no drawing is, so that the log tells the name.
+/// Opens in an empty folder, so that the log names the file that is missing.
 class OpenElsewhereTest : public DXFViewerTest
 {
 protected:
@@ -820,7 +820,7 @@ TEST_F(OpenElsewhereTest, FromAnotherActionItLoadsAFixedDrawing)
     expectTheFixedDrawing();
 }
 
-TEST_F(DXFViewerTest, OpenReplacesTheDocumentAndLeavesThePicture)
+TEST_F(DXFViewerTest, OpenReplacesTheDocumentAndLeavesTheShownOne)
 {
     ASSERT_TRUE(loadAndShow(*window, square));
     const auto document = shownDocument(*window);
@@ -913,7 +913,7 @@ TEST_F(DXFViewerTest, UndoViewIsNeitherShownNorDestroyed)
     EXPECT_EQ(undoView->stack(), nullptr);
 }
 
-// A host that meddles with what is inside
+// A host that deletes or changes the window's parts
 
 TEST_F(DXFViewerTest, HostMayDeleteTheItem)
 {
@@ -935,7 +935,7 @@ TEST_F(DXFViewerTest, HostMayClearTheScene)
     EXPECT_THAT(itemsOf(*window), SizeIs(1));
 }
 
-TEST_F(DXFViewerTest, HostMayTakeTheItemOutOfTheScene)
+TEST_F(DXFViewerTest, HostMayRemoveTheItemFromTheScene)
 {
     ASSERT_TRUE(loadAndShow(*window, square));
     DXFGraphicsItem* item = itemsOf(*window).first();
@@ -986,7 +986,7 @@ TEST_F(DXFViewerTest, HostMayGiveTheViewAnotherScene)
     EXPECT_THAT(other.items(), IsEmpty());
 }
 
-TEST_F(DXFViewerTest, HostMayTakeTheSceneAway)
+TEST_F(DXFViewerTest, HostMayRemoveTheScene)
 {
     ASSERT_TRUE(loadAndShow(*window, square));
 

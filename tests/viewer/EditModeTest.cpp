@@ -84,7 +84,7 @@ protected:
         return editorsOf(*window).value(0);
     }
 
-    /// What stands in the tool bar behind the window's own actions.
+    /// The actions in the tool bar after the window's own four.
     QStringList addedActions(const DXFViewer& which) const
     {
         QStringList texts;
@@ -171,7 +171,7 @@ TEST_F(EditModeTest, ActionsUndoAndRedoTheStrokes)
     EXPECT_EQ(addedActions(*window), undoAndRedo) << "the commands have no text";
 }
 
-TEST_F(EditModeTest, OffEndsEverythingButTheEdits)
+TEST_F(EditModeTest, OffEndsTheEditorAndKeepsTheEdits)
 {
     const QPointer<DXFEditor> editor = startEditing();
     eraseFirstLine();
@@ -196,7 +196,7 @@ TEST_F(EditModeTest, EditedDrawingCanBeTakenAfterwards)
     EXPECT_EQ(during.count("VERTEX"), 4);
 }
 
-TEST_F(EditModeTest, HistoryStartsAnew)
+TEST_F(EditModeTest, HistoryStartsEmptyAgain)
 {
     startEditing();
     eraseFirstLine();
@@ -238,7 +238,7 @@ TEST_F(EditModeTest, SlotDoesNotChangeTheAction)
     EXPECT_TRUE(editActionOf(*window).isChecked());
 }
 
-TEST_F(EditModeTest, BeforeAnythingIsLoadedNothingStarts)
+TEST_F(EditModeTest, WithoutADrawingNoEditorStarts)
 {
     DXFViewer empty;
 
@@ -250,7 +250,7 @@ TEST_F(EditModeTest, BeforeAnythingIsLoadedNothingStarts)
     EXPECT_THAT(takeDebugMessages(), IsEmpty());
 }
 
-TEST_F(EditModeTest, BeforeAnythingIsLoadedItEndsAnyOther)
+TEST_F(EditModeTest, SwitchingOnWithoutADrawingEndsTheOtherEditor)
 {
     DXFViewer empty;
     const QPointer<DXFEditor> editor = startEditing();
@@ -317,9 +317,9 @@ TEST_F(EditModeTest, AfterAClickArrowKeysGoToTheEraser)
     EXPECT_EQ(scrolled(), after);
 }
 
-// One for the whole process
+// There is one editor in the whole process
 
-TEST_F(EditModeTest, SecondWindowEndsTheFirstOnesEditor)
+TEST_F(EditModeTest, EditModeInTheSecondWindowEndsTheFirstEditor)
 {
     const QPointer<DXFEditor> editor = startEditing();
 
@@ -350,7 +350,7 @@ TEST_F(EditModeTest, DestroyingAnyWindowEndsTheEditor)
     EXPECT_THAT(sceneOf(*window).items(), SizeIs(1));
 }
 
-TEST_F(EditModeTest, ClosingAWindowThatGoesWhenClosedEndsTheEditor)
+TEST_F(EditModeTest, ClosingAWindowThatIsThenDestroyedEndsTheEditor)
 {
     const QPointer<DXFEditor> editor = startEditing();
     const QPointer<DXFViewer> closed = second.release();
@@ -362,7 +362,7 @@ TEST_F(EditModeTest, ClosingAWindowThatGoesWhenClosedEndsTheEditor)
     EXPECT_EQ(editor, nullptr);
 }
 
-TEST_F(EditModeTest, ClosingAWindowThatStaysEndsNothing)
+TEST_F(EditModeTest, ClosingAWindowThatIsKeptLeavesTheEditor)
 {
     const QPointer<DXFEditor> editor = startEditing();
 
@@ -371,7 +371,7 @@ TEST_F(EditModeTest, ClosingAWindowThatStaysEndsNothing)
     EXPECT_NE(editor, nullptr);
 }
 
-TEST_F(EditModeTest, DestroyedWindowTakesItsEditorAlong)
+TEST_F(EditModeTest, DestroyedWindowDestroysItsEditor)
 {
     const QPointer<DXFEditor> editor = startEditing();
     eraseFirstLine();
@@ -410,7 +410,7 @@ TEST_F(EditModeTest, EditorWorksOnTheOldDrawingUntilTheNewOneIsShown)
     EXPECT_TRUE(eventually([&] { return shownDocument(*window) != old; }));
 }
 
-TEST_F(EditModeTest, LoadInTheMiddleOfAStroke)
+TEST_F(EditModeTest, LoadInTheMiddleOfAStrokeErasesNothingInTheNewDrawing)
 {
     startEditing();
     SceneMouse mouse(viewOf(*window));
@@ -434,7 +434,7 @@ TEST_F(EditModeTest, LoadInAnotherWindowLeavesTheEditor)
     EXPECT_TRUE(editActionOf(*window).isChecked());
 }
 
-TEST_F(EditModeTest, LoadInAWindowWhoseEditModeWasTakenOverLeavesItsAction)
+TEST_F(EditModeTest, LoadLeavesTheActionIfAnotherWindowHasEditMode)
 {
     startEditing();
     editActionOf(*second).setChecked(true);
@@ -445,7 +445,7 @@ TEST_F(EditModeTest, LoadInAWindowWhoseEditModeWasTakenOverLeavesItsAction)
     EXPECT_TRUE(editActionOf(*window).isChecked());
 }
 
-TEST_F(EditModeTest, LoadEndsEditModeAlsoWhenItsItemIsGone)
+TEST_F(EditModeTest, LoadEndsEditModeWhoseItemIsDeleted)
 {
     const QPointer<DXFEditor> editor = startEditing();
     delete itemsOf(*window).first();
@@ -457,7 +457,7 @@ TEST_F(EditModeTest, LoadEndsEditModeAlsoWhenItsItemIsGone)
     EXPECT_THAT(addedActions(*window), IsEmpty());
 }
 
-TEST_F(EditModeTest, LoadEndsEditModeAlsoWhenItsItemIsInNoScene)
+TEST_F(EditModeTest, LoadEndsEditModeWhoseItemIsInNoScene)
 {
     const QPointer<DXFEditor> editor = startEditing();
     sceneOf(*window).removeItem(itemsOf(*window).first());
@@ -502,7 +502,7 @@ TEST_F(EditModeTest, OtherWindowMayBeEditedWhenALoadEndsEditMode)
     EXPECT_THAT(editorsOf(*second), SizeIs(1));
 }
 
-TEST_F(EditModeTest, LoadEndsEditModeAlsoWhenItIsSwitchedOnAgainMeanwhile)
+TEST_F(EditModeTest, LoadEndsEditModeThatASlotSwitchesOnAgain)
 {
     startEditing();
     QObject::connect(&editActionOf(*window), &QAction::toggled, window.get(), [this](bool on) {
@@ -525,7 +525,7 @@ TEST_F(EditModeTest, EditModeMayStartAgainAfterALoad)
     EXPECT_EQ(addedActions(*window), undoAndRedo);
 }
 
-// The window goes in the middle of things
+// The window is destroyed, or edit mode ends, in the middle of an event
 
 TEST_F(EditModeTest, WindowMayBeDestroyedAtATick)
 {
@@ -544,7 +544,7 @@ TEST_F(EditModeTest, WindowMayBeDestroyedAtATick)
     EXPECT_EQ(editor, nullptr);
 }
 
-/// Lets something happen inside the handling of the tool's next tick.
+/// Runs an action inside the next tick of the tool's timer.
 class AtNextTick : public QObject
 {
 public:
@@ -557,7 +557,7 @@ public:
     {
         auto* timer = qobject_cast<QTimer*>(watched);
         if (event->type() == QEvent::Timer && timer && timer->interval() == 50 && m_action) {
-            // Behind the tool's own slot, within the same signal.
+            // The action runs in the same signal, after the tool's own slot.
             QObject::connect(timer, &QTimer::timeout, std::exchange(m_action, nullptr));
         }
         return false;
@@ -597,7 +597,7 @@ TEST_F(EditModeTest, EditModeMayEndInsideAStroke)
     EXPECT_EQ(editor, nullptr);
 }
 
-/// A host that asks its user something from a slot, once.
+/// A host that opens a dialog from a slot, once.
 class DialogInSlot
 {
 public:
@@ -638,7 +638,7 @@ TEST_F(EditModeTest, DialogMayOpenAtADeleteRequest)
     EXPECT_EQ(entityCount(), 1);
 }
 
-TEST_F(EditModeTest, LoadMayComeWithADialogAtADeleteRequest)
+TEST_F(EditModeTest, LoadAndDialogMayComeAtADeleteRequest)
 {
     const QPointer<DXFEditor> editor = startEditing();
     DialogInSlot dialog;
@@ -675,7 +675,8 @@ TEST_F(EditModeTest, DialogMayOpenWhenTheStackMoves)
     EXPECT_EQ(entityCount(), 1);
 }
 
-/// Edit mode ends while the stack moves, as when the user undoes something: from the event loop.
+/// Edit mode ends while the undo stack moves: in a slot of one of its signals. A user's undo comes
+/// from the event loop.
 class MovingStackTest : public EditModeTest
 {
 protected:
@@ -693,7 +694,8 @@ protected:
     QPointer<QUndoStack> stack;
 
 private:
-    /// In a loop of the kind that a program runs in, which eventually() has not.
+    /// Runs a QEventLoop as a program does. eventually() only processes events, which is not enough
+    /// for deleteLater().
     void runUntilTheEditorIsGone()
     {
         QEventLoop loop;
@@ -704,7 +706,7 @@ private:
     }
 };
 
-TEST_F(MovingStackTest, SwitchingOff)
+TEST_F(MovingStackTest, SwitchingOffEndsTheEditorAfterTheMove)
 {
     endWhenTheStackMoves([this] {
         editActionOf(*window).setChecked(false);
@@ -718,7 +720,7 @@ TEST_F(MovingStackTest, SwitchingOff)
     EXPECT_EQ(entityCount(), 3);
 }
 
-TEST_F(MovingStackTest, SwitchingOffTwice)
+TEST_F(MovingStackTest, SwitchingOffTwiceIsHarmless)
 {
     endWhenTheStackMoves([this] {
         toggle(*window, false);
@@ -728,7 +730,7 @@ TEST_F(MovingStackTest, SwitchingOffTwice)
     EXPECT_THAT(editorsOf(*window), IsEmpty());
 }
 
-TEST_F(MovingStackTest, SwitchingOnAgain)
+TEST_F(MovingStackTest, SwitchingOnAgainMakesANewEditor)
 {
     endWhenTheStackMoves([this] { toggle(*window, true); });
 
@@ -736,7 +738,7 @@ TEST_F(MovingStackTest, SwitchingOnAgain)
     EXPECT_THAT(toolBarOf(*window).actions(), SizeIs(6));
 }
 
-TEST_F(MovingStackTest, SwitchingOffInALoopOfTheHostsOwn)
+TEST_F(MovingStackTest, SwitchingOffInTheHostsOwnLoopKeepsTheStackDuringTheMove)
 {
     const QPointer<DXFEditor> overlay = startEditing();
     const QPointer<QUndoStack> moving = overlay->stack();
@@ -752,7 +754,7 @@ TEST_F(MovingStackTest, SwitchingOffInALoopOfTheHostsOwn)
     EXPECT_EQ(entityCount(), 2);
 }
 
-TEST_F(MovingStackTest, SwitchingOffWhenTheHostCallsUndoInItsOwnLoop)
+TEST_F(MovingStackTest, SwitchingOffDuringTheHostsUndoKeepsTheStackDuringTheMove)
 {
     const QPointer<DXFEditor> overlay = startEditing();
     const QPointer<QUndoStack> moving = overlay->stack();
@@ -769,7 +771,7 @@ TEST_F(MovingStackTest, SwitchingOffWhenTheHostCallsUndoInItsOwnLoop)
     EXPECT_EQ(entityCount(), 3);
 }
 
-TEST_F(MovingStackTest, SwitchingOffWhenTheStackIsSaidToBeClean)
+TEST_F(MovingStackTest, SwitchingOffAtCleanChangedEndsTheEditor)
 {
     const QPointer<DXFEditor> overlay = startEditing();
     QObject::connect(overlay->stack(), &QUndoStack::cleanChanged, qApp, [&] {
@@ -782,7 +784,7 @@ TEST_F(MovingStackTest, SwitchingOffWhenTheStackIsSaidToBeClean)
     EXPECT_EQ(overlay, nullptr);
 }
 
-TEST_F(MovingStackTest, SwitchingOffInAMoveWithinAMove)
+TEST_F(MovingStackTest, SwitchingOffInANestedMoveKeepsTheStackDuringBothMoves)
 {
     const QPointer<DXFEditor> overlay = startEditing();
     const QPointer<QUndoStack> moving = overlay->stack();
@@ -803,7 +805,7 @@ TEST_F(MovingStackTest, SwitchingOffInAMoveWithinAMove)
     EXPECT_EQ(entityCount(), 3);
 }
 
-TEST_F(MovingStackTest, SwitchingOffInAMoveInsideTheDialogOfAnother)
+TEST_F(MovingStackTest, SwitchingOffInAMoveInADialogOfAMoveKeepsTheStack)
 {
     DialogInSlot dialog;
     int moves = 0;
@@ -823,7 +825,7 @@ TEST_F(MovingStackTest, SwitchingOffInAMoveInsideTheDialogOfAnother)
     EXPECT_EQ(entityCount(), 2);
 }
 
-TEST_F(MovingStackTest, ToolGoesAtOnceAlsoWhenTheEditorCannot)
+TEST_F(MovingStackTest, ToolIsDestroyedAtOnceWhenTheEditorMustWait)
 {
     endWhenTheStackMoves([this] {
         const QPointer<ISelectionTool> tool = toolOf(*editor);
@@ -853,7 +855,7 @@ TEST_F(MovingStackTest, MoveWithinTheLastSignalOfAMoveIsCounted)
     EXPECT_EQ(entityCount(), 2);
 }
 
-TEST_F(MovingStackTest, MacroOfTheHostIsNoMove)
+TEST_F(MovingStackTest, SwitchingOffInAMacroOfTheHostKeepsTheStack)
 {
     const QPointer<DXFEditor> overlay = startEditing();
     const QPointer<QUndoStack> moving = overlay->stack();
@@ -870,7 +872,7 @@ TEST_F(MovingStackTest, MacroOfTheHostIsNoMove)
     EXPECT_TRUE(eventually([&] { return overlay.isNull(); }));
 }
 
-TEST_F(MovingStackTest, EndedEditorHasNothingLeftToRedo)
+TEST_F(MovingStackTest, EndedEditorHasNothingToRedo)
 {
     QUndoGroup group;
     endWhenTheStackMoves([&] {
@@ -887,7 +889,7 @@ TEST_F(MovingStackTest, EndedEditorHasNothingLeftToRedo)
     EXPECT_EQ(entityCount(), 3);
 }
 
-TEST_F(MovingStackTest, AfterAMoveTheEditorGoesAtOnce)
+TEST_F(MovingStackTest, AfterAMoveTheEditorIsDestroyedAtOnce)
 {
     const QPointer<DXFEditor> overlay = startEditing();
     eraseFirstLine();
@@ -902,14 +904,14 @@ TEST_F(MovingStackTest, AfterAMoveTheEditorGoesAtOnce)
     loop.exec();
 }
 
-TEST_F(MovingStackTest, DestroyingTheWindow)
+TEST_F(MovingStackTest, DestroyingTheWindowDestroysTheStackAfterTheMove)
 {
     endWhenTheStackMoves([this] { window.reset(); });
 
     EXPECT_EQ(stack, nullptr);
 }
 
-TEST_F(MovingStackTest, ShowingWhatIsLoadedWhileADialogIsOpen)
+TEST_F(MovingStackTest, ALoadInADialogKeepsTheStackDuringTheMove)
 {
     DialogInSlot dialog;
     const auto old = shownDocument(*window);
@@ -937,12 +939,12 @@ TEST_F(MovingStackTest, DialogsLoopDoesNotDestroyTheStack)
     EXPECT_TRUE(dialog.isAnswered());
 }
 
-// A host that meddles with what is inside
+// A host that deletes or changes the window's parts
 
 class MeddlingTest : public EditModeTest
 {
 protected:
-    /// What a user does afterwards, and the end.
+    /// Uses both windows afterwards, and destroys the first. Nothing may crash or warn.
     void goOn()
     {
         if (auto* view = window->findChild<View*>())
@@ -959,7 +961,7 @@ protected:
     }
 };
 
-TEST_F(MeddlingTest, ViewIsDeletedInEditMode)
+TEST_F(MeddlingTest, ViewMayBeDeletedInEditMode)
 {
     const QPointer<DXFEditor> editor = startEditing();
 
@@ -970,7 +972,7 @@ TEST_F(MeddlingTest, ViewIsDeletedInEditMode)
     goOn();
 }
 
-TEST_F(MeddlingTest, ItemIsDeletedInEditMode)
+TEST_F(MeddlingTest, ItemMayBeDeletedInEditMode)
 {
     startEditing();
     eraseFirstLine();
@@ -981,7 +983,7 @@ TEST_F(MeddlingTest, ItemIsDeletedInEditMode)
     goOn();
 }
 
-TEST_F(MeddlingTest, EditorIsDeletedByTheHost)
+TEST_F(MeddlingTest, EditorMayBeDeletedByTheHost)
 {
     const QPointer<DXFEditor> editor = startEditing();
     eraseFirstLine();
@@ -992,7 +994,7 @@ TEST_F(MeddlingTest, EditorIsDeletedByTheHost)
     goOn();
 }
 
-TEST_F(MeddlingTest, SceneIsClearedInEditMode)
+TEST_F(MeddlingTest, SceneMayBeClearedInEditMode)
 {
     const QPointer<DXFEditor> editor = startEditing();
     eraseFirstLine();
@@ -1003,7 +1005,7 @@ TEST_F(MeddlingTest, SceneIsClearedInEditMode)
     goOn();
 }
 
-/// Switches a window's edit mode off when the undo stack that is watched has gone.
+/// Switches a window's edit mode off when the watched undo stack is destroyed.
 class SwitchesOff : public QUndoGroup
 {
 public:
@@ -1023,7 +1025,7 @@ private:
     bool m_wasCalled = false;
 };
 
-TEST_F(MeddlingTest, EndOfTheEditorIsAnsweredByEndingEditMode)
+TEST_F(MeddlingTest, EndOfTheEditorMayEndEditMode)
 {
     const QPointer<DXFEditor> editor = startEditing();
     eraseFirstLine();
@@ -1036,7 +1038,7 @@ TEST_F(MeddlingTest, EndOfTheEditorIsAnsweredByEndingEditMode)
     goOn();
 }
 
-TEST_F(MeddlingTest, EndOfTheFormerEditorEndsTheNewOne)
+TEST_F(MeddlingTest, EndOfTheFormerEditorMayEndTheNewOne)
 {
     const QPointer<DXFEditor> former = startEditing();
     const SwitchesOff group(former->stack(), editActionOf(*window));
@@ -1050,7 +1052,7 @@ TEST_F(MeddlingTest, EndOfTheFormerEditorEndsTheNewOne)
     goOn();
 }
 
-/// Does something when the undo stack that is watched has gone.
+/// Runs an action when the watched undo stack is destroyed.
 class AtEndOf : public QUndoGroup
 {
 public:
@@ -1062,7 +1064,7 @@ public:
     }
 };
 
-TEST_F(MeddlingTest, EndOfTheFormerEditorDeletesTheNewOne)
+TEST_F(MeddlingTest, EndOfTheFormerEditorMayDeleteTheNewOne)
 {
     const QPointer<DXFEditor> former = startEditing();
     QObject::connect(former, &QObject::destroyed, qApp, [this] { qDeleteAll(editorsOf(*second)); });
@@ -1075,7 +1077,7 @@ TEST_F(MeddlingTest, EndOfTheFormerEditorDeletesTheNewOne)
     goOn();
 }
 
-TEST_F(MeddlingTest, EndOfTheFormerEditorClearsTheSceneOfTheNewOne)
+TEST_F(MeddlingTest, EndOfTheFormerEditorMayClearTheSceneOfTheNewOne)
 {
     const QPointer<DXFEditor> former = startEditing();
     const AtEndOf end(former->stack(), [this] { sceneOf(*second).clear(); });
@@ -1087,7 +1089,7 @@ TEST_F(MeddlingTest, EndOfTheFormerEditorClearsTheSceneOfTheNewOne)
     goOn();
 }
 
-TEST_F(MeddlingTest, EndOfTheFormerEditorDestroysTheWindowOfTheNewOne)
+TEST_F(MeddlingTest, EndOfTheFormerEditorMayDestroyTheWindowOfTheNewOne)
 {
     const QPointer<DXFEditor> former = startEditing();
     QObject::connect(former, &QObject::destroyed, qApp, [this] { second.reset(); });
@@ -1098,7 +1100,7 @@ TEST_F(MeddlingTest, EndOfTheFormerEditorDestroysTheWindowOfTheNewOne)
     EXPECT_EQ(second, nullptr);
 }
 
-TEST_F(MeddlingTest, ItemIsReplacedWhileAnEditorIsMade)
+TEST_F(MeddlingTest, ItemMayBeReplacedWhileAnEditorIsMade)
 {
     window->loadData(otherDrawing);
     const AtMessage load("DXFEditor created ", [this] {
@@ -1114,7 +1116,7 @@ TEST_F(MeddlingTest, ItemIsReplacedWhileAnEditorIsMade)
     goOn();
 }
 
-TEST_F(MeddlingTest, EditModeMovesOnWhileAnEditorIsMade)
+TEST_F(MeddlingTest, AnotherWindowMayTakeEditModeWhileAnEditorIsMade)
 {
     const AtMessage toggling("DXFEditor created ",
                              [this] { editActionOf(*second).setChecked(true); });
@@ -1157,7 +1159,7 @@ TEST_F(MeddlingTest, EndOfTheEditorMayOpenADialogWhileTheMouseMoves)
     goOn();
 }
 
-TEST_F(MeddlingTest, LoadIsDueWhileTheViewIsDestroyed)
+TEST_F(MeddlingTest, LoadMayBeDueWhileTheViewIsDestroyed)
 {
     const QPointer<DXFEditor> editor = startEditing();
     bool hasWaited = false;
@@ -1174,7 +1176,7 @@ TEST_F(MeddlingTest, LoadIsDueWhileTheViewIsDestroyed)
     goOn();
 }
 
-TEST_F(MeddlingTest, UndoViewIsDeletedByTheHost)
+TEST_F(MeddlingTest, UndoViewMayBeDeletedByTheHost)
 {
     startEditing();
     const auto widgets = QApplication::topLevelWidgets();
@@ -1189,7 +1191,7 @@ TEST_F(MeddlingTest, UndoViewIsDeletedByTheHost)
     goOn();
 }
 
-TEST_F(MeddlingTest, SceneIsClearedInTheMiddleOfAStroke)
+TEST_F(MeddlingTest, SceneMayBeClearedInTheMiddleOfAStroke)
 {
     startEditing();
     SceneMouse mouse(viewOf(*window));
@@ -1203,7 +1205,7 @@ TEST_F(MeddlingTest, SceneIsClearedInTheMiddleOfAStroke)
     goOn();
 }
 
-TEST_F(MeddlingTest, SceneIsDeletedInEditMode)
+TEST_F(MeddlingTest, SceneMayBeDeletedInEditMode)
 {
     startEditing();
 
@@ -1212,7 +1214,7 @@ TEST_F(MeddlingTest, SceneIsDeletedInEditMode)
     goOn();
 }
 
-TEST_F(MeddlingTest, ItemIsTakenOutOfTheSceneInEditMode)
+TEST_F(MeddlingTest, ItemMayBeRemovedFromTheSceneInEditMode)
 {
     startEditing();
     DXFGraphicsItem* item = itemsOf(*window).first();
@@ -1223,7 +1225,7 @@ TEST_F(MeddlingTest, ItemIsTakenOutOfTheSceneInEditMode)
     goOn();
 }
 
-TEST_F(MeddlingTest, ToolBarIsDeletedInEditMode)
+TEST_F(MeddlingTest, ToolBarMayBeDeletedInEditMode)
 {
     startEditing();
 
@@ -1232,7 +1234,7 @@ TEST_F(MeddlingTest, ToolBarIsDeletedInEditMode)
     goOn();
 }
 
-TEST_F(MeddlingTest, EditActionIsDeletedInEditMode)
+TEST_F(MeddlingTest, EditActionMayBeDeletedInEditMode)
 {
     const QPointer<DXFEditor> editor = startEditing();
 
@@ -1248,7 +1250,7 @@ class ExitTest : public LoggedTest, public ::testing::WithParamInterface<const c
 {
 };
 
-TEST_P(ExitTest, WindowLeakedInTheMiddleOfAStrokeEndsCleanly)
+TEST_P(ExitTest, LeakedWindowInTheMiddleOfAStrokeEndsCleanly)
 {
     const QTemporaryDir runtimeFolder;
     auto environment = QProcessEnvironment::systemEnvironment();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 // A host that leaks a window in edit mode, in the middle of a stroke, and exits. The argument says
-// how: "destroyed", "quit", "exit", "leaked" or "second". It must end with 0 and without a word.
+// how: "destroyed", "quit", "exit", "leaked" or "second". It must exit with 0 and print nothing.
 
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "dxfviewer/viewer/View.h"
@@ -21,14 +21,14 @@ namespace
 
 using namespace dxftest;
 
-/// Says everything but progress and what the platform cannot do.
+/// Prints all messages except debug messages and those about missing features of the platform.
 void say(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
 {
     if (type != QtDebugMsg && !text.startsWith(QLatin1String("This plugin does not support")))
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-// Within reach, so that it counts as kept and not as lost.
+// A global, so that LeakSanitizer still finds the window and reports no leak.
 DXFViewer* window = nullptr;
 
 bool leakWindowInAStroke()

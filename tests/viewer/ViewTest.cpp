@@ -47,7 +47,7 @@ protected:
         view.scene()->setSceneRect(-1000, -1000, 2000, 2000);
     }
 
-    /// Whether the transform is a pure scale, that of the level.
+    /// Expects the transform to be a pure scale, that of the level.
     void expectLevel(double level)
     {
         const QTransform transform = view.transform();
@@ -96,7 +96,7 @@ TEST_F(ViewTest, OwnsASceneOfItsOwn)
     EXPECT_EQ(view.scene()->parent(), &view);
 }
 
-TEST_F(ViewTest, SceneGoesWithTheView)
+TEST_F(ViewTest, SceneIsDestroyedWithTheView)
 {
     auto other = std::make_unique<View>();
     const QPointer<QGraphicsScene> scene = other->scene();
@@ -121,7 +121,7 @@ TEST_F(ViewTest, BackgroundIsSteelBlueAtHalfBrightness)
     EXPECT_NEAR(color.value(), 90, 1);
 }
 
-TEST_F(ViewTest, EverythingElseIsAsInAnyView)
+TEST_F(ViewTest, OtherPropertiesAreThoseOfAnyView)
 {
     const QGraphicsView plain;
 
@@ -242,7 +242,7 @@ TEST_F(ViewTest, LevelZeroIsInitialisedAgain)
     EXPECT_THAT(takeDebugMessages(), IsEmpty());
 }
 
-TEST_F(ViewTest, LevelZeroIsInitialisedFromTheTransformOfThatMoment)
+TEST_F(ViewTest, LevelZeroIsInitialisedFromTheCurrentTransform)
 {
     for (int i = 0; i < 25; ++i)
         view.zoomCalc(-1);
@@ -253,9 +253,9 @@ TEST_F(ViewTest, LevelZeroIsInitialisedFromTheTransformOfThatMoment)
     expectLevel(360);
 }
 
-TEST_F(ViewTest, LevelNextToZeroIsALevelLikeAnyOther)
+TEST_F(ViewTest, LevelCloseToZeroIsNotInitialisedAgain)
 {
-    // A step out from here ends less than a millionth of a millionth above zero.
+    // A step out from here leads to a level that is less than 1e-12 above zero.
     const double scale = scaleOfLevel(10.0 + 3e-13);
     view.setTransform(QTransform::fromScale(scale, scale));
     view.zoomCalc(-1);
@@ -268,7 +268,7 @@ TEST_F(ViewTest, LevelNextToZeroIsALevelLikeAnyOther)
     expectLevel(10);
 }
 
-TEST_F(ViewTest, TransformSetElsewhereIsLeftByAJump)
+TEST_F(ViewTest, StepIgnoresATransformThatTheHostSets)
 {
     view.zoomCalc(1);
     view.setTransform(QTransform::fromScale(0.01, 0.01).rotate(30));
@@ -278,7 +278,7 @@ TEST_F(ViewTest, TransformSetElsewhereIsLeftByAJump)
     expectLevel(270);
 }
 
-TEST_F(ViewTest, FittingIsLeftByAJump)
+TEST_F(ViewTest, StepIgnoresAFit)
 {
     view.zoomCalc(1);
     view.fitInView(QRectF(0, 0, 20000, 10), Qt::KeepAspectRatio);
@@ -312,7 +312,7 @@ class WheelTest : public ViewTest, public ::testing::WithParamInterface<WheelRow
 {
 };
 
-TEST_P(WheelTest, StepsAlongTheAxisThatIsTurnedFurther)
+TEST_P(WheelTest, StepsAlongTheAxisWithTheLargerDelta)
 {
     EXPECT_TRUE(turnWheel(GetParam().angle, Qt::ControlModifier));
 
@@ -337,7 +337,7 @@ INSTANTIATE_TEST_SUITE_P(
                       WheelRow{"NotTurnedAtAll", {0, 0}, 240}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST_F(ViewTest, WheelZoomsWhateverElseIsHeldWithControl)
+TEST_F(ViewTest, WheelWithControlAndOtherKeysZooms)
 {
     turnWheel({0, 120}, Qt::ControlModifier | Qt::ShiftModifier);
 
@@ -375,8 +375,8 @@ TEST_F(ShownViewTest, WheelWithShiftAloneDoesNotZoom)
     EXPECT_TRUE(view.transform().isIdentity());
 }
 
-// The ranges of scroll bars over a drawing seen from very near, at which their style would divide
-// by zero.
+// Over a drawing seen from very near, scroll bars get ranges at which their style would divide by
+// zero.
 
 TEST_F(ShownViewTest, ScrollBarsOfTheWidestRangeArePainted)
 {
