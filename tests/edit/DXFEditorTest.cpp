@@ -89,14 +89,14 @@ protected:
         ASSERT_TRUE(QMetaObject::invokeMethod(editor, slot, Qt::DirectConnection)) << slot;
     }
 
-    /// Deletes by way of the document's selection, as the tool does.
+    /// Deletes through the document's selection, as the tool does.
     void deleteSegments(const QVector<int>& deleted)
     {
         document->setSelected(deleted);
         call("onDeleteRequested");
     }
 
-    /// Hands the editor a left-button event in the way of the scene.
+    /// Sends the editor a left-button event through the scene.
     bool send(QEvent::Type type, const QPointF& pos, Qt::MouseButtons held = Qt::LeftButton)
     {
         QGraphicsSceneMouseEvent event(type);
@@ -113,7 +113,7 @@ protected:
         view.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&view, patienceMs));
         ASSERT_TRUE(eventually([this] { return item->paints > 0; }));
-        // What is still to be painted after showing.
+        // Some paints may still follow the first one.
         while (std::exchange(paintsBefore, item->paints) != item->paints)
             QCoreApplication::processEvents();
     }
@@ -226,7 +226,7 @@ TEST_F(DXFEditorTest, CoversTheSceneAndFarMore)
     EXPECT_EQ(editor->boundingRect(), QRectF(-50010, -50020, 100400, 100300));
 }
 
-TEST_F(DXFEditorTest, FollowsTheScenesRectangle)
+TEST_F(DXFEditorTest, FollowsTheSceneRectangle)
 {
     scene.setSceneRect(1, 2, 3, 4);
 
@@ -268,7 +268,7 @@ TEST_F(PlainSceneTest, OverlayCoversTheDrawingWhereItIsMoved)
     EXPECT_EQ(overlay->boundingRect(), reached().translated(70000, -80000));
 }
 
-TEST_F(PlainSceneTest, SceneDoesNotGrowWithQuestions)
+TEST_F(PlainSceneTest, SceneDoesNotGrowWhenRectanglesAreAskedFor)
 {
     for (int i = 0; i < 5; ++i) {
         EXPECT_EQ(plain.sceneRect(), reached());
@@ -276,7 +276,7 @@ TEST_F(PlainSceneTest, SceneDoesNotGrowWithQuestions)
     }
 }
 
-TEST_F(PlainSceneTest, SceneDoesNotGrowWithEventsAndPaintings)
+TEST_F(PlainSceneTest, SceneDoesNotGrowWithEventsAndPainting)
 {
     QGraphicsView plainView(&plain);
     plainView.show();
@@ -292,7 +292,7 @@ TEST_F(PlainSceneTest, SceneDoesNotGrowWithEventsAndPaintings)
     EXPECT_EQ(overlay->boundingRect(), reached());
 }
 
-TEST_F(PlainSceneTest, RectangleThatIsSetLaterIsFollowed)
+TEST_F(PlainSceneTest, FollowsARectangleThatIsSetLater)
 {
     plain.sceneRect();
     overlay->boundingRect();
@@ -303,7 +303,7 @@ TEST_F(PlainSceneTest, RectangleThatIsSetLaterIsFollowed)
     EXPECT_EQ(overlay->boundingRect(), QRectF(-49999, -49998, 100003, 100004));
 }
 
-// The tint that is not seen
+// The tint, which the scene never shows
 
 TEST_F(DXFEditorTest, TintFillsTheRectangleInTranslucentGreen)
 {
@@ -311,7 +311,7 @@ TEST_F(DXFEditorTest, TintFillsTheRectangleInTranslucentGreen)
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setPen(Qt::NoPen);
-    // The overlay's corner in the middle of the picture.
+    // The overlay's corner is in the middle of the picture.
     painter.translate(QPointF(10, 10) - editor->boundingRect().topLeft());
 
     editor->paint(&painter, nullptr, nullptr);
@@ -372,7 +372,7 @@ TEST_F(DXFEditorTest, EventsAreNeverReportedAsHandled)
     EXPECT_FALSE(scene.sendEvent(editor, &hover));
 }
 
-TEST_F(DXFEditorTest, EventsAreLeftAsTheyAre)
+TEST_F(DXFEditorTest, EventsKeepTheirAcceptedFlag)
 {
     QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMousePress);
     event.setButtons(Qt::LeftButton);
@@ -540,7 +540,7 @@ TEST_F(DXFEditorTest, ElevenCommandsLeaveTenToUndo)
     EXPECT_EQ(segmentIdsOf(document), ids.mid(1)) << "the first deletion stays";
 }
 
-TEST_F(DXFEditorTest, DocumentOfTheItemIsTheOneEdited)
+TEST_F(DXFEditorTest, EditsTheDocumentThatTheItemHasNow)
 {
     const auto later = makeDrawing();
     item->setDocument(later);
@@ -553,7 +553,7 @@ TEST_F(DXFEditorTest, DocumentOfTheItemIsTheOneEdited)
     EXPECT_THAT(document->entities(), SizeIs(15));
 }
 
-TEST_F(DXFEditorTest, ItemWithoutADocumentIsBorne)
+TEST_F(DXFEditorTest, ItemWithoutADocumentDoesNoHarm)
 {
     auto* empty = new DXFGraphicsItem;
     scene.addItem(empty);
@@ -566,7 +566,7 @@ TEST_F(DXFEditorTest, ItemWithoutADocumentIsBorne)
     EXPECT_EQ(editor->stack()->count(), 0);
 }
 
-// The tool's life
+// The life time of the tool
 
 TEST_F(DXFEditorTest, CleaningUpDeletesTheTool)
 {
@@ -621,7 +621,7 @@ TEST_F(DXFEditorTest, NewToolMayBeSetUpAfterCleaningUp)
     EXPECT_THAT(document->selectedIDs(), ElementsAre(ids[2]));
 }
 
-TEST_F(DXFEditorTest, RequestsOfALaterToolAreNotHeard)
+TEST_F(DXFEditorTest, RequestsOfALaterToolDeleteNothing)
 {
     showView();
     call("cleanupTool");
@@ -638,7 +638,7 @@ TEST_F(DXFEditorTest, RequestsOfALaterToolAreNotHeard)
 
 // The end of edit mode
 
-TEST_F(DXFEditorTest, EndLeavesTheItemDisabledAndTheEditsInPlace)
+TEST_F(DXFEditorTest, EndDisablesTheItemAndKeepsTheEdits)
 {
     deleteSegments({ids[0]});
 
@@ -648,7 +648,7 @@ TEST_F(DXFEditorTest, EndLeavesTheItemDisabledAndTheEditsInPlace)
     EXPECT_EQ(segmentIdsOf(document), ids.mid(1));
 }
 
-TEST_F(DXFEditorTest, EndTakesOverlayAndMarkerOutOfTheScene)
+TEST_F(DXFEditorTest, EndRemovesOverlayAndMarkerFromTheScene)
 {
     delete editor;
 
@@ -678,7 +678,7 @@ TEST_F(DXFEditorTest, EndReleasesTheDocument)
     EXPECT_TRUE(weak.isNull());
 }
 
-TEST_F(DXFEditorTest, EndLetsNobodyRunOnItsHalves)
+TEST_F(DXFEditorTest, EndEmitsNoSignalOfTheStack)
 {
     deleteSegments({ids[0]});
     const QSignalSpy moves(editor->stack(), &QUndoStack::indexChanged);
@@ -714,7 +714,7 @@ TEST_F(DXFEditorTest, SceneMayDestroyItemAndEditor)
     EXPECT_EQ(editor, nullptr);
 }
 
-/// What takes part in edit mode, each part destroyed on its own.
+/// The objects of edit mode. Each can be destroyed separately.
 class Stage
 {
 public:
@@ -779,7 +779,7 @@ public:
     }
 
 private:
-    /// A stroke that stays open, so that the eraser's timer is running.
+    /// A stroke, and the beginning of a second one, so that the eraser's timer runs.
     void sendStroke()
     {
         for (const auto type : {QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseMove,
@@ -804,7 +804,7 @@ class DestructionTest : public LoggedTest
 {
 };
 
-TEST_F(DestructionTest, EveryOrderIsBorne)
+TEST_F(DestructionTest, PartsMayBeDestroyedInAnyOrder)
 {
     using Step = void (Stage::*)();
     const std::array<Step, 5> steps{&Stage::destroyScene, &Stage::destroyEditor,
@@ -814,7 +814,7 @@ TEST_F(DestructionTest, EveryOrderIsBorne)
     std::mt19937 random(5);
     int orders = 0;
     do {
-        // The smaller parts go somewhere in between.
+        // The commands and the marker are destroyed at random places in this order.
         std::vector<Step> all;
         for (const std::size_t step : order)
             all.push_back(steps[step]);

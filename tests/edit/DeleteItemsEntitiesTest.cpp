@@ -21,7 +21,7 @@ using ::testing::SizeIs;
 namespace
 {
 
-// Polylines without segments, and what is no polyline
+// Polylines without segments, and entities that are no polylines
 
 TEST_F(DeleteItemsTest, PolylinesWithoutSegmentsAreRemoved)
 {
@@ -47,7 +47,7 @@ TEST_F(DeleteItemsTest, UndoBringsPolylinesWithoutSegmentsBack)
     EXPECT_THAT(pointsOf(*at(2)), ElementsAre(QPointF(3, 3)));
 }
 
-TEST_F(DeleteItemsTest, ForeignEntitiesStayInTheirPlace)
+TEST_F(DeleteItemsTest, OtherEntitiesStayInTheirPlace)
 {
     const Entity unknown = QSharedPointer<OtherEntity>::create(-1);
     const Entity foreign = QSharedPointer<OtherEntity>::create(4);
@@ -60,7 +60,7 @@ TEST_F(DeleteItemsTest, ForeignEntitiesStayInTheirPlace)
     EXPECT_EQ(document->entities()[2], foreign);
 }
 
-TEST_F(DeleteItemsTest, UndoPutsClonesOfForeignEntitiesBack)
+TEST_F(DeleteItemsTest, UndoRestoresClonesOfOtherEntities)
 {
     const Entity foreign = QSharedPointer<OtherEntity>::create(4);
     use({makeLine(3), foreign});
@@ -182,9 +182,9 @@ TEST_F(DeleteItemsTest, LayersAndLineTypesAreNeverTouched)
     EXPECT_THAT(document->lineTypes(), ElementsAre(lineType));
 }
 
-// Polylines of a host
+// A host's subclass of polylines
 
-/// A polyline that knows more than the library does.
+/// A polyline with an owner, which the library does not know.
 class HostPolyline : public DXFPolyline
 {
 public:
@@ -235,7 +235,7 @@ TEST_F(HostPolylineTest, UndoRestoresAllOfIt)
     EXPECT_EQ(segmentIdsOf(*at(0)), ids);
 }
 
-TEST_F(HostPolylineTest, CutOffPieceIsOneToo)
+TEST_F(HostPolylineTest, CutOffPieceIsAHostPolylineToo)
 {
     push({ids[1]});
 

@@ -19,13 +19,13 @@ using Entity = QSharedPointer<DXFEntity>;
 using Polyline = QSharedPointer<DXFPolyline>;
 using Document = QSharedPointer<DXFDocument>;
 
-/// An id that was handed out just now and belongs to nothing.
+/// A new id, which belongs to no entity and no segment.
 inline int freshId()
 {
     return Segment().id();
 }
 
-/// A polyline with as many segments as wanted, one drawing unit each, at a height of its own.
+/// A horizontal polyline at the given y, with segments of one drawing unit.
 inline Polyline makeLine(int segments, double y = 0.0)
 {
     QVector<QPointF> points;
@@ -34,7 +34,7 @@ inline Polyline makeLine(int segments, double y = 0.0)
     return makePolyline(points);
 }
 
-/// What can be seen of a polyline, its own id apart.
+/// What can be seen of a polyline, except its own id.
 struct PolylineState {
     QVector<QLineF> lines;
     QVector<int> segmentIds;
@@ -98,7 +98,7 @@ protected:
     qsizetype entityCount() const { return document->entities().size(); }
 
     Document document;
-    // The segments' ids before anything is deleted.
+    // The ids of the segments before anything is deleted.
     QVector<int> ids;
     QUndoStack stack;
 };

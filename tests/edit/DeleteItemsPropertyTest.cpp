@@ -21,10 +21,11 @@ namespace
 
 // Properties
 
-/// The splitting rule once more, on plain lists.
+/// A second implementation of the splitting rule, on plain lists.
 struct ModelPolyline {
     QVector<QLineF> lines;
-    // Unknown ids, those of pieces, are taken from the document after each step.
+    // The ids of new pieces are not known in advance: they are taken from the document after each
+    // step.
     QVector<int> ids;
     bool isClosed = false;
 };
@@ -102,7 +103,7 @@ protected:
 
     Polyline randomPolyline()
     {
-        // Few different coordinates, so that pieces often end where they start.
+        // The coordinates have few different values, so that pieces often end where they start.
         QVector<QPointF> points;
         const int count = upTo(12);
         for (int i = 0; i < count; ++i)
@@ -119,7 +120,7 @@ protected:
         use(entities);
     }
 
-    /// A few ids of segments, most of them neighbours, with some that name none among them.
+    /// A few ids of segments, most of them neighbours, and some ids that belong to no segment.
     QVector<int> randomBatch()
     {
         const QVector<int> present = segmentIdsOf(document);
@@ -138,7 +139,7 @@ protected:
     std::mt19937 random;
 };
 
-TEST_P(DeleteItemsPropertyTest, LeavesWhatTheRuleLeaves)
+TEST_P(DeleteItemsPropertyTest, LeavesTheSegmentsThatTheRuleLeaves)
 {
     useRandomDrawing();
     std::vector<ModelPolyline> model;
@@ -183,7 +184,7 @@ TEST_P(DeleteItemsPropertyTest, HandsOutTheIdsOfTheRule)
     }
 }
 
-TEST_P(DeleteItemsPropertyTest, EveryPositionOfTheStackIsAsItWasFirst)
+TEST_P(DeleteItemsPropertyTest, UndoAndRedoRestoreTheStateOfEachStep)
 {
     useRandomDrawing();
     std::vector<State> positions{stateOf(document)};

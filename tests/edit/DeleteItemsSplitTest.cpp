@@ -37,7 +37,7 @@ TEST_F(DeleteItemsTest, MiddleSegmentCutsThePolylineInTwo)
     EXPECT_THAT(linesOf(*at(1)), ElementsAre(QLineF(3, 0, 4, 0), QLineF(4, 0, 5, 0)));
 }
 
-TEST_F(DeleteItemsTest, CutPolylineKeepsItsIdAndItsPlace)
+TEST_F(DeleteItemsTest, CutPolylineKeepsItsIdAndPlace)
 {
     use({makeLine(5, 0), makeLine(3, 1)});
     const QVector<int> before = entityIdsOf(document);
@@ -47,7 +47,7 @@ TEST_F(DeleteItemsTest, CutPolylineKeepsItsIdAndItsPlace)
     EXPECT_EQ(entityIdsOf(document).mid(0, 2), before);
 }
 
-TEST_F(DeleteItemsTest, CutOffPieceHasNewIdsAndStandsLast)
+TEST_F(DeleteItemsTest, CutOffPieceHasNewIdsAndIsListedLast)
 {
     use({makeLine(5, 0), makeLine(3, 1)});
     const int highest = freshId();
@@ -59,7 +59,7 @@ TEST_F(DeleteItemsTest, CutOffPieceHasNewIdsAndStandsLast)
     EXPECT_THAT(segmentIdsOf(*at(2)), Each(::testing::Gt(highest)));
 }
 
-TEST_F(DeleteItemsTest, EachRunOfSurvivorsBecomesAPolyline)
+TEST_F(DeleteItemsTest, EachRunOfRemainingSegmentsBecomesAPolyline)
 {
     push({ids[1], ids[3]});
 
@@ -109,7 +109,7 @@ TEST_F(DeleteItemsTest, BothEndsShortenInPlace)
     EXPECT_EQ(segmentIdsOf(*at(0)), ids.mid(2, 2));
 }
 
-TEST_F(DeleteItemsTest, PolylineWithoutSurvivorsIsRemoved)
+TEST_F(DeleteItemsTest, PolylineWithoutRemainingSegmentsIsRemoved)
 {
     push(ids);
 
@@ -126,7 +126,7 @@ TEST_F(DeleteItemsTest, RemovedPolylineItselfIsUnchanged)
     EXPECT_EQ(stateOf(*polyline), before);
 }
 
-TEST_F(DeleteItemsTest, SurvivorsKeepTheirFlagsAndCutOffOnesLoseThem)
+TEST_F(DeleteItemsTest, KeptSegmentsKeepTheirFlagsAndCutOffOnesLoseThem)
 {
     document->setSelected({ids[0], ids[4]});
     document->setHovered({ids[1], ids[3]});
@@ -158,7 +158,7 @@ TEST_F(DeleteItemsTest, CutOffPieceLooksAsItsPolylineDid)
     EXPECT_EQ(at(1)->lineWidth(), 1);
 }
 
-TEST_F(DeleteItemsTest, CutOffPieceIsSelectedAndHoveredAsItsPolylineIs)
+TEST_F(DeleteItemsTest, CutOffPieceIsSelectedAndHoveredLikeItsPolyline)
 {
     use({makeLine(3, 0), makeLine(3, 1), makeLine(3, 2)});
     document->setSelected({at(0)->id(), ids[5]});
@@ -200,7 +200,7 @@ TEST_F(DeleteItemsTest, PiecesKeepTheFlagsButTheClosedBit)
     }
 }
 
-TEST_F(DeleteItemsTest, KeptPieceIsNotSetUpUntilItIsAsked)
+TEST_F(DeleteItemsTest, KeptPieceNeedsAnotherSetup)
 {
     push({ids[2]});
 
@@ -266,7 +266,7 @@ TEST_F(DeleteFromClosedTest, PiecesAreNotJoinedAtTheFirstVertex)
     ASSERT_EQ(entityCount(), 3);
     EXPECT_THAT(linesOf(*at(0)), ElementsAre(QLineF(0, 0, 10, 0)));
     EXPECT_FALSE(at(0)->isClosed());
-    // The closing segment is last in the chain and runs backwards; only its end is read.
+    // The closing segment is last in the chain and runs backwards. Only its end is read.
     EXPECT_THAT(linesOf(*at(2)), ElementsAre(QLineF(10, 10, 0, 10), QLineF(0, 10, 0, 10)));
     EXPECT_FALSE(at(2)->isClosed());
 }
@@ -290,7 +290,7 @@ TEST_F(DeleteFromClosedTest, ClosingSegmentIsTheLast)
     EXPECT_FALSE(at(0)->isClosed());
 }
 
-TEST_F(DeleteFromClosedTest, ErasingElsewhereOpensIt)
+TEST_F(DeleteFromClosedTest, DeletingAnySegmentOpensIt)
 {
     const QVector<QLineF> before = linesOf(*at(0));
 
@@ -325,7 +325,7 @@ TEST_F(DeleteFromClosedTest, PieceThatEndsWhereItStartsIsClosed)
     EXPECT_THAT(linesOf(*at(0)), SizeIs(3));
 }
 
-TEST_F(DeleteFromClosedTest, CutOffPieceThatEndsWhereItStartsGetsAClosingSegmentOfNoLength)
+TEST_F(DeleteFromClosedTest, CutOffPieceThatEndsWhereItStartsGetsAClosingSegmentWithoutLength)
 {
     use({makePolyline({{-6, 0}, {-5, 0}, {0, 0}, {10, 0}, {10, 10}, {0, 0}})});
 

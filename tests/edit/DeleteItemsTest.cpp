@@ -28,7 +28,7 @@ namespace
 
 // The command by itself
 
-TEST_F(DeleteItemsTest, ConstructionTouchesNothing)
+TEST_F(DeleteItemsTest, ConstructionChangesNothing)
 {
     const State before = stateOf(document);
     const auto entities = document->entities();
@@ -62,7 +62,7 @@ TEST_F(DeleteItemsTest, EveryBatchIsAStepOfItsOwn)
     EXPECT_EQ(stack.undoText(), QString());
 }
 
-TEST_F(DeleteItemsTest, KeepsTheIdsAsTheyWere)
+TEST_F(DeleteItemsTest, KeepsItsOwnCopyOfTheIds)
 {
     QVector<int> deleted{ids[4]};
     auto* command = new DeleteItems(document, deleted);
@@ -144,7 +144,7 @@ TEST_F(DeleteItemsTest, RepeatedAndUnsortedIdsCountOnce)
     EXPECT_THAT(linesOf(*at(1)), ElementsAre(QLineF(2, 0, 3, 0)));
 }
 
-TEST_F(DeleteItemsTest, UnmatchedIdsStillGiveEveryPolylineItsSegmentsAnew)
+TEST_F(DeleteItemsTest, UnmatchedIdsStillRenewTheSegmentsOfEveryPolyline)
 {
     use({makePolyline({{0, 0}, {1, 0}, {1, 1}}, true)});
 
@@ -248,7 +248,7 @@ TEST_F(DeleteItemsTest, SplittingAloneTakesNoSnapshot)
     EXPECT_EQ(freshId(), highest + 4);
 }
 
-TEST_F(DeleteItemsTest, SplittingRemovesAPolylineWithoutSurvivors)
+TEST_F(DeleteItemsTest, SplittingRemovesAPolylineWithoutRemainingSegments)
 {
     use({makeLine(2, 0), makeLine(1, 1)});
     DeleteItems command(document, ids);
@@ -271,7 +271,7 @@ TEST_F(DeleteItemsTest, SplittingAPolylineOfNoDocumentAddsItsPieces)
     EXPECT_THAT(linesOf(*at(1)), ElementsAre(QLineF(2, 9, 3, 9)));
 }
 
-TEST_F(DeleteItemsTest, SplittingDoesNotLendItsIdsToTheDeletion)
+TEST_F(DeleteItemsTest, IdsFromSplittingAreNotReusedByTheDeletion)
 {
     const Polyline twin(at(0)->clone());
     document->addEntity(twin);
@@ -280,7 +280,7 @@ TEST_F(DeleteItemsTest, SplittingDoesNotLendItsIdsToTheDeletion)
     command->splitPoly(twin);
     stack.push(command);
 
-    // The polyline and its twin, which share ids, and a piece cut off from each.
+    // The polyline and its twin share segment ids. The other two are the pieces cut off from them.
     ASSERT_EQ(entityCount(), 4);
     const auto pieceIds = segmentIdsOf(*at(2)) + segmentIdsOf(*at(3));
     EXPECT_THAT(pieceIds, SizeIs(4));

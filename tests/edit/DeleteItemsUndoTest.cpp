@@ -57,7 +57,7 @@ TEST_F(DeleteItemsTest, UndoListsEntitiesInTheOrderOfTheirOldIds)
                 ElementsAre(QLineF(0, 2, 1, 2), QLineF(0, 3, 1, 3), QLineF(0, 1, 1, 1)));
 }
 
-TEST_F(DeleteItemsTest, UndoneClonesAreThoseOfTheSnapshot)
+TEST_F(DeleteItemsTest, UndoRestoresTheClonesOfTheSnapshot)
 {
     const int highest = freshId();
     push({ids[2]});
@@ -88,7 +88,7 @@ TEST_F(DeleteItemsTest, UndoRestoresTheFlagsOfTheSnapshot)
     EXPECT_THAT(document->selectedIDs(), ElementsAre(at(0)->id(), ids[0], ids[4]));
 }
 
-/// What undo puts back besides the geometry.
+/// What undo restores besides the geometry.
 void expectLook(const DXFPolyline& polyline, const DXFPolyline& expected)
 {
     EXPECT_EQ(polyline.attributes(), expected.attributes());
@@ -127,7 +127,7 @@ TEST_F(DeleteItemsTest, UndoRestoresTheLookOfCutUntouchedAndRemovedPolylines)
     const std::vector<DXFPolyline> before{*at(0), *at(1), *at(2)};
     push({ids[2], ids[10], ids[11], ids[12], ids[13], ids[14]});
     ASSERT_EQ(entityCount(), 3);
-    // What becomes of the former objects is of no matter.
+    // Changes to the former objects do not matter.
     for (const Entity& entity : qAsConst(entities)) {
         entity->setAttributes(nullptr);
         entity->setColor(Qt::red);
@@ -201,7 +201,7 @@ TEST_F(DeleteItemsTest, RedoTwiceWithoutUndoTakesASecondSnapshot)
     EXPECT_EQ(stateOf(document), afterFirst);
 }
 
-TEST_F(DeleteItemsTest, UndoOfASecondRedoDoesNotBringBackWhatTheFirstErased)
+TEST_F(DeleteItemsTest, UndoOfASecondRedoDoesNotRestoreWhatTheFirstErased)
 {
     use({makeLine(1), makeLine(2, 1)});
     DeleteItems command(document, {ids[0]});
@@ -361,7 +361,7 @@ TEST_F(SnapshotTest, RedoReplacesTheSnapshot)
     EXPECT_EQ(CountedEntity::alive, 2);
 }
 
-TEST_F(SnapshotTest, DestroyedCommandLetsGo)
+TEST_F(SnapshotTest, DestroyedCommandReleasesItsSnapshot)
 {
     push({ids[2]});
     push({ids[0]});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// Hosts compile against these signatures and link to what they make. A change that a host would
-// notice is not to slip in: most of it does not even compile here.
+// Hosts compile against these signatures and link to these symbols. A change that a host would
+// notice must not happen by accident. Most such changes do not compile here.
 
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/edit/DeleteItems.h"
@@ -16,7 +16,7 @@
 namespace
 {
 
-// The geometry, which comes with the eraser's header
+// The geometry, which is in the eraser's header
 
 static_assert(std::is_same_v<decltype(&projection),
                              QPointF (*)(QPointF const&, QPointF const&, QPointF const&, bool*)>);
@@ -38,7 +38,7 @@ TEST(ISelectionToolInterfaceTest, IsAnAbstractObjectWithoutMembers)
     EXPECT_EQ(sizeof(ISelectionTool), sizeof(QObject));
 }
 
-TEST(ISelectionToolInterfaceTest, NeedsNoMoreThanItsTwoOperations)
+TEST(ISelectionToolInterfaceTest, NeedsOnlyItsTwoFunctions)
 {
     class Tool : public ISelectionTool
     {
@@ -106,7 +106,7 @@ TEST(DeleteItemsInterfaceTest, IsDestroyedByTheStackAndNotCopied)
 
 // The overlay
 
-/// What only a subclass may name.
+/// Members that only a subclass may use.
 struct EditorMembers : DXFEditor {
     using DXFEditor::sceneEvent;
 };
@@ -118,7 +118,7 @@ static_assert(
                    void (DXFEditor::*)(QPainter*, const QStyleOptionGraphicsItem*, QWidget*)>);
 static_assert(std::is_same_v<decltype(&EditorMembers::sceneEvent), bool (DXFEditor::*)(QEvent*)>);
 
-// Its shape is its rectangle, so that it gets what happens anywhere in it.
+// Its shape is its rectangle, so it gets the events anywhere in it.
 static_assert(std::is_same_v<decltype(&DXFEditor::shape), QPainterPath (QGraphicsItem::*)() const>);
 static_assert(
     std::is_same_v<decltype(&DXFEditor::contains), bool (QGraphicsItem::*)(const QPointF&) const>);

@@ -20,7 +20,7 @@
 namespace dxftest
 {
 
-/// Notes the timer of whose ticks it sees events.
+/// Remembers the timer whose ticks it sees.
 class TimerWatch : public QObject
 {
 public:

@@ -113,7 +113,7 @@ TEST_F(RubberToolTest, HitTestSelectsNothing)
     EXPECT_THAT(selection(), IsEmpty());
 }
 
-TEST_F(RubberToolTest, PassesByNullAndForeignEntities)
+TEST_F(RubberToolTest, SkipsNullAndOtherEntities)
 {
     auto mixed = makeDocument({nullptr, QSharedPointer<OtherEntity>::create(-1),
                                QSharedPointer<OtherEntity>::create(7), makePolyline({{0, 0}}),
@@ -174,7 +174,8 @@ protected:
             << "at " << ::testing::PrintToString(pos) << ", scale " << view.transform().m11();
     }
 
-    /// Every comparison would be passed by finding nothing, or everything, if that was right.
+    /// A test that finds nothing, or everything, would say little. So it must find some segments
+    /// and miss others.
     void expectBothKinds() const
     {
         EXPECT_GT(m_found, 0);
@@ -198,7 +199,7 @@ private:
     qint64 m_found = 0;
 };
 
-TEST_F(HitTestPropertyTest, RandomSegmentsAroundThePointer)
+TEST_F(HitTestPropertyTest, RandomSegmentsFollowTheRule)
 {
     for (const double center : {0.0, 3e6, -1e15}) {
         for (const double scale : {1.0, 0.013, 40.0}) {
@@ -228,9 +229,9 @@ TEST_F(HitTestPropertyTest, RandomSegmentsAroundThePointer)
     expectBothKinds();
 }
 
-TEST_F(HitTestPropertyTest, SegmentsThatTouchTheRadius)
+TEST_F(HitTestPropertyTest, SegmentsThatTouchTheRadiusFollowTheRule)
 {
-    // Distances that are exactly the radius, and the nearest numbers on both sides.
+    // The distances are exactly the radius, and the nearest numbers on both sides of it.
     const double touching[] = {5.0, std::nextafter(5.0, 0.0), std::nextafter(5.0, 6.0)};
     for (const double d : touching) {
         for (const double sign : {1.0, -1.0}) {
@@ -260,7 +261,7 @@ TEST_F(HitTestPropertyTest, SegmentsThatTouchTheRadius)
     expectBothKinds();
 }
 
-TEST_F(HitTestPropertyTest, SegmentsThatTouchTheRadiusFarFromTheOrigin)
+TEST_F(HitTestPropertyTest, SegmentsThatTouchTheRadiusFarFromTheOriginFollowTheRule)
 {
     std::mt19937 random(21);
     std::uniform_int_distribution<int> ulps(-3, 3);
@@ -295,7 +296,7 @@ TEST_F(HitTestPropertyTest, SegmentsThatTouchTheRadiusFarFromTheOrigin)
     expectBothKinds();
 }
 
-TEST_F(HitTestPropertyTest, EveryCombinationOfHardNumbers)
+TEST_F(HitTestPropertyTest, HardNumbersFollowTheRule)
 {
     const double hard[] = {0.0, -0.0,  1.0,   -5.0,  5e-324, 1e-310,   1e-200, -1e-160,  1e-154,
                            3e6, -1e15, 1e153, 1e154, 1e300,  -1.7e308, nan,    infinity, -infinity};
@@ -317,7 +318,7 @@ TEST_F(HitTestPropertyTest, EveryCombinationOfHardNumbers)
     expectBothKinds();
 }
 
-TEST_F(HitTestPropertyTest, TinyDistancesAtEnormousZoom)
+TEST_F(HitTestPropertyTest, TinyDistancesAtEnormousZoomFollowTheRule)
 {
     std::mt19937 random(23);
     std::uniform_real_distribution<double> factor(-12, 12);
@@ -336,7 +337,7 @@ TEST_F(HitTestPropertyTest, TinyDistancesAtEnormousZoom)
     expectBothKinds();
 }
 
-TEST_F(HitTestPropertyTest, UndefinedAndInfiniteRadius)
+TEST_F(HitTestPropertyTest, UndefinedAndInfiniteRadiusFollowTheRule)
 {
     addSegment({0, 0}, {10, 0});
     addSegment({nan, 0}, {10, 0});

@@ -204,7 +204,7 @@ TEST_F(RubberToolTest, ClickWithoutMovementSelectsNothing)
     EXPECT_THAT(selectionAtRequest, IsEmpty());
 }
 
-TEST_F(RubberToolTest, CollectedIdsAreForgottenAfterTheRequestNotBefore)
+TEST_F(RubberToolTest, CollectedIdsAreForgottenAfterTheRequest)
 {
     bool isNested = false;
     QVector<int> selectionInside;
@@ -251,7 +251,7 @@ TEST_F(RubberToolTest, NewToolDoesNotTick)
     QSignalSpy requests(tool.get(), SIGNAL(requestDelete()));
     tool->enable();
 
-    // Two ticks of a running tool leave a tool that was running as well no excuse.
+    // After two ticks of this tool, the other one would have ticked too if it ran.
     ASSERT_TRUE(eventually([&] { return requests.count() >= 2; }));
 
     EXPECT_THAT(othersRequests, IsEmpty());
@@ -334,7 +334,7 @@ TEST_F(RubberToolTest, DestructionStopsTheTimer)
     EXPECT_EQ(timer, nullptr);
 }
 
-// Whoever is asked may do anything
+// What a slot of the request may do
 
 TEST_F(RubberToolTest, SlotMayDeleteTheToolAtATick)
 {

@@ -87,7 +87,7 @@ TEST_F(RubberToolTest, MarkerKeepsItsSizeAtEveryZoom)
     EXPECT_EQ(tool->getMarker()->flags(), QGraphicsItem::ItemIgnoresTransformations);
 }
 
-TEST_F(RubberToolTest, NewMarkerBelongsToNobody)
+TEST_F(RubberToolTest, NewMarkerHasNoParentAndNoScene)
 {
     RubberTool other(document);
 
@@ -102,7 +102,7 @@ TEST_F(RubberToolTest, MarkerIsMadeOnce)
     EXPECT_EQ(tool->getMarker(), tool->getMarker());
 }
 
-TEST_F(RubberToolTest, MarkerOutlivesTheTool)
+TEST_F(RubberToolTest, MarkerMayOutliveTheTool)
 {
     QGraphicsItem* marker = tool->getMarker();
 
@@ -111,7 +111,7 @@ TEST_F(RubberToolTest, MarkerOutlivesTheTool)
     EXPECT_THAT(scene.items(), ElementsAre(marker));
 }
 
-TEST_F(RubberToolTest, ToolOutlivesTheMarker)
+TEST_F(RubberToolTest, ToolMayOutliveTheMarker)
 {
     delete tool->getMarker();
 
@@ -179,7 +179,7 @@ TEST_F(RubberToolTest, HandlingTheButtonsAloneDoesNotMoveTheMarker)
     EXPECT_THAT(selection(), ElementsAre(ids[0]));
 }
 
-// Events that mean nothing
+// Events that do nothing
 
 TEST_F(RubberToolTest, DoubleClickNeitherMovesTheMarkerNorCollects)
 {
@@ -202,7 +202,7 @@ TEST_F(RubberToolTest, DoubleClickDoesNotStartTheTimer)
     EXPECT_FALSE(timer->isActive());
 }
 
-TEST_F(RubberToolTest, DoubleClickHandedToTheButtonsMeansNothing)
+TEST_F(RubberToolTest, HandleMouseEventIgnoresADoubleClick)
 {
     QSignalSpy requests(tool.get(), SIGNAL(requestDelete()));
     QGraphicsSceneMouseEvent event(QEvent::GraphicsSceneMouseDoubleClick);
@@ -215,7 +215,7 @@ TEST_F(RubberToolTest, DoubleClickHandedToTheButtonsMeansNothing)
     EXPECT_THAT(requests, IsEmpty());
 }
 
-TEST_F(RubberToolTest, OtherEventsAreTakenAndMeanNothing)
+TEST_F(RubberToolTest, OtherEventsAreTakenAndDoNothing)
 {
     QSignalSpy requests(tool.get(), SIGNAL(requestDelete()));
 
@@ -237,7 +237,7 @@ TEST_F(RubberToolTest, ScaleIsTheHorizontalOneOfTheView)
     EXPECT_EQ(tool->getViewScaleFactor(), 2.0);
 }
 
-TEST_F(RubberToolTest, ScaleDisregardsRotation)
+TEST_F(RubberToolTest, ScaleIgnoresRotation)
 {
     view.setTransform(QTransform(0.5, 3, -3, 0.5, 0, 0));
 

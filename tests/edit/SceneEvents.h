@@ -17,7 +17,7 @@
 namespace dxftest
 {
 
-/// Hands a tool a mouse event, as the scene would make it; the result is handle()'s.
+/// Gives a tool a mouse event, as the scene would make it. Returns the result of handle().
 inline bool sendMouse(ISelectionTool& tool, QEvent::Type type, const QPointF& pos,
                       Qt::MouseButtons held)
 {

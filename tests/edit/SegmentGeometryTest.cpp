@@ -103,7 +103,7 @@ class DistanceTest : public LoggedTest, public ::testing::WithParamInterface<Dis
 {
 };
 
-TEST_P(DistanceTest, IsThatToTheNearestPoint)
+TEST_P(DistanceTest, IsMeasuredToTheNearestPoint)
 {
     const DistanceRow& row = GetParam();
 
@@ -162,7 +162,7 @@ TEST_F(SegmentGeometryTest, ZeroLengthLeavesTheFlagAsItWas)
     EXPECT_FALSE(wasFalse);
 }
 
-TEST_F(SegmentGeometryTest, LengthThatUnderflowsWhenSquaredIsNeverInside)
+TEST_F(SegmentGeometryTest, FootIsOutsideIfTheSquaredLengthUnderflows)
 {
     bool inside = true;
 
@@ -222,13 +222,13 @@ TEST_F(SegmentGeometryTest, EndsAtInfinityLeaveTheOtherEnd)
     EXPECT_DOUBLE_EQ(distPointToSegment({-3, 4}, QLineF(-infinity, 0, 0, 0)), 5.0);
 }
 
-TEST_F(SegmentGeometryTest, DenominatorIsTheSquareOfTheComputedLength)
+TEST_F(SegmentGeometryTest, DividesByTheSquareOfTheComputedLength)
 {
 #ifdef __FP_FAST_FMA
     GTEST_SKIP() << "the compiler may contract the library's expressions and ours differently";
 #endif
-    // The squared length and the dot product differ in the last bits for most directions; the
-    // foot must be the one of the former.
+    // For most directions the square of the length and the dot product differ in the last bits. The
+    // foot must be computed with the square of the length.
     const QPointF a(0.1, 0.2);
     int differing = 0;
     for (int i = 1; i <= 1000; ++i) {

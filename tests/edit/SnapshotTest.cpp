@@ -24,7 +24,7 @@ namespace
 using Entity = QSharedPointer<DXFEntity>;
 using Polyline = QSharedPointer<DXFPolyline>;
 
-/// A deletion that makes a clone of every entity at each redo, and cuts every polyline.
+/// A plain deletion to compare with: each redo clones every entity and cuts every polyline.
 class PlainDeletion
 {
 public:
@@ -134,8 +134,8 @@ public:
             changeSomething();
     }
 
-    /// All that can be seen of the document, ids counted from the session's start. Clones are
-    /// looked at, because looking at vertices is remembered.
+    /// All that can be seen of the document. Ids are counted from the start of the session. This
+    /// looks at clones, because looking at vertices changes the state of a polyline.
     QStringList state() const
     {
         QStringList lines;
@@ -148,7 +148,7 @@ public:
             const std::unique_ptr<DXFEntity> copy(entity->clone());
             if (auto* polyline = dynamic_cast<DXFPolyline*>(copy.get())) {
                 lines << stateOf(*polyline);
-                // Does something only where that is due.
+                // Skips a step that is not possible now.
                 polyline->setup();
                 lines << stateOf(*polyline);
             }
@@ -360,7 +360,7 @@ QList<QStringList> statesOf(unsigned seed)
     return states;
 }
 
-TEST_P(SnapshotPropertyTest, UndoGivesBackWhatClonesOfAllEntitiesWouldBe)
+TEST_P(SnapshotPropertyTest, UndoRestoresWhatClonesOfAllEntitiesWouldRestore)
 {
     for (unsigned round = 0; round < 10; ++round) {
         const unsigned seed = 1000 * GetParam() + round;
