@@ -38,7 +38,7 @@ protected:
         std::setlocale(LC_ALL, m_cLocale.c_str());
     }
 
-    /// Looks at the numbers while the class is at work, and at the locales afterwards.
+    /// Checks the numbers during the life time of the class, and the locales afterwards.
     static void expectClassicForAWhile()
     {
         const std::locale locale;
@@ -86,7 +86,7 @@ TEST_F(ClassicNumbersTest, MayBeNested)
     EXPECT_EQ(readFrom("1234.5"), 1234.5);
 }
 
-TEST_F(ClassicNumbersTest, ThrowingBringsTheLocaleBack)
+TEST_F(ClassicNumbersTest, LocaleIsBackAfterAnException)
 {
     const std::locale locale(std::locale::classic(), new Comma);
     std::locale::global(locale);
@@ -119,8 +119,8 @@ TEST_F(ClassicNumbersLocaleTest, NamedLocaleIsBackAfterwards)
     expectClassicForAWhile();
 }
 
-/// The locale of C has a say where dxflib reads with strtod or writes with printf, but it is the
-/// host's: threads of the host may be at work with it.
+/// dxflib's strtod and printf depend on the locale of C. But that locale is the host's, and threads
+/// of the host may use it.
 TEST_F(ClassicNumbersLocaleTest, LocaleOfCIsNeverTouched)
 {
     std::locale::global(std::locale("de_DE.UTF-8"));

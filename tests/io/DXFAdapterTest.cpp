@@ -40,7 +40,7 @@ TEST_F(DXFAdapterTest, MissingLineTypeBecomesByLayer)
     EXPECT_EQ(attributes->lineType(), QStringLiteral("BYLAYER"));
 }
 
-TEST_F(DXFAdapterTest, PaperSpaceIsDroppedOnTheWayIn)
+TEST_F(DXFAdapterTest, PaperSpaceIsDroppedWhenReading)
 {
     DL_Attributes record;
     record.setInPaperSpace(true);
@@ -48,7 +48,7 @@ TEST_F(DXFAdapterTest, PaperSpaceIsDroppedOnTheWayIn)
     EXPECT_FALSE(DXFAdapter::makeAttributes(record)->inPaperSpace());
 }
 
-TEST_F(DXFAdapterTest, LineTypeScaleAndPaperSpaceAreDroppedOnTheWayOut)
+TEST_F(DXFAdapterTest, LineTypeScaleAndPaperSpaceAreDroppedWhenWriting)
 {
     const auto attributes = QSharedPointer<DXFAttributes>::create(
         QString::fromUtf8("\xce\xa9"), 1, 2, 3, QStringLiteral("DOT"), 2.5, 4, true);
@@ -151,7 +151,7 @@ TEST_F(DXFAdapterTest, PolylineLosesItsNumberAndElevation)
     EXPECT_EQ(back.elevation, 0.0);
 }
 
-TEST_F(DXFAdapterTest, PolylineAnnouncesTheVerticesItHolds)
+TEST_F(DXFAdapterTest, PolylineAnnouncesTheNumberOfItsVertices)
 {
     const auto polyline = QSharedPointer<DXFPolyline>::create(0U, 0U, 0U);
     polyline->appendPoint(DXFVertex(1.0, 2.0, 0.0, true, 0.0));

@@ -125,8 +125,9 @@ TEST_F(DXFReaderTest, EntitiesInARowShareEqualAttributes)
     EXPECT_EQ(entities[3]->attributes()->layerName(), QStringLiteral("a"));
 }
 
-/// More layers than the reader remembers the attributes of, each with two colours.
-TEST_F(DXFReaderTest, AttributesOfManyLayersAreKeptApart)
+/// There are more layers than entries in the reader's cache of attributes. Each layer has two
+/// colours.
+TEST_F(DXFReaderTest, AttributesOfManyLayersStayDifferent)
 {
     constexpr int layers = 600;
     std::vector<Group> groups;
@@ -148,7 +149,7 @@ TEST_F(DXFReaderTest, AttributesOfManyLayersAreKeptApart)
     }
 }
 
-TEST_F(DXFReaderTest, ZerosOfEitherSignAreKeptApart)
+TEST_F(DXFReaderTest, PositiveAndNegativeZeroStayDifferent)
 {
     ASSERT_TRUE(reader.load(bytesOf(
         {{0, "LWPOLYLINE"}, {90, "0"}, {48, "0.0"}, {0, "LWPOLYLINE"}, {90, "0"}, {48, "-0.0"}})));
@@ -203,7 +204,7 @@ TEST_F(DXFReaderTest, BytesAfterAZeroAreNotRead)
     EXPECT_EQ(document.entities().size(), 1);
 }
 
-TEST_F(DXFReaderTest, BytesWithoutTerminatingZeroAreReadToTheirEnd)
+TEST_F(DXFReaderTest, BytesWithoutATerminatingZeroAreNotReadBeyondTheirEnd)
 {
     const QByteArray whole = bytesOf(lwpolyline("a"));
 
@@ -212,7 +213,7 @@ TEST_F(DXFReaderTest, BytesWithoutTerminatingZeroAreReadToTheirEnd)
     EXPECT_TRUE(document.entities().isEmpty());
 }
 
-TEST_F(DXFReaderTest, AnyContentIsADrawing)
+TEST_F(DXFReaderTest, AnyContentIsReadAsADrawing)
 {
     EXPECT_TRUE(reader.load(QByteArray()));
     EXPECT_TRUE(reader.load(QByteArray("not a drawing")));
@@ -357,7 +358,7 @@ TEST_F(DXFReaderTest, SecondEndListsThePolylineAgainWithNewAttributes)
     EXPECT_EQ(document.entities()[0]->attributes()->layerName(), QStringLiteral("b"));
 }
 
-TEST_F(DXFReaderTest, CurrentPolylineOutlivesALoad)
+TEST_F(DXFReaderTest, CurrentPolylineStaysForTheNextLoad)
 {
     ASSERT_TRUE(reader.load(bytesOf(lwpolyline("a"))));
     ASSERT_TRUE(reader.load(bytesOf({{0, "IMAGE"}})));
@@ -366,7 +367,7 @@ TEST_F(DXFReaderTest, CurrentPolylineOutlivesALoad)
     EXPECT_EQ(document.entities()[0], document.entities()[1]);
 }
 
-TEST_F(DXFReaderTest, VerticesOfOneLoadDoNotShowUpInTheNext)
+TEST_F(DXFReaderTest, VerticesOfOneLoadDoNotAppearInTheNext)
 {
     const std::string full = drawingOf(lwpolyline("a"));
     const std::string bare = drawingOf({{0, "LWPOLYLINE"}});
@@ -382,7 +383,7 @@ TEST_F(DXFReaderTest, VerticesOfOneLoadDoNotShowUpInTheNext)
                   i % 2 == 0 ? 3 : 0);
 }
 
-TEST_F(DXFReaderTest, ImportGivesDxflibsDefaultsAtFirst)
+TEST_F(DXFReaderTest, BeforeALoadImportGivesDxflibsDefaults)
 {
     const auto entity = QSharedPointer<OtherEntity>::create();
 

@@ -44,7 +44,7 @@ using namespace dxftest;
 namespace
 {
 
-/// Makes the files of the process as short as said while it lives.
+/// Limits the size of the files that the process writes while it lives.
 class FileSizeLimit
 {
 public:
@@ -69,7 +69,7 @@ private:
     void (*m_handler)(int);
 };
 
-/// Sets where temporary files go while it lives.
+/// Sets the folder for temporary files while it lives.
 class TemporaryFolder
 {
 public:
@@ -113,7 +113,7 @@ private:
 };
 #endif
 
-/// Whether a descriptor is that of a regular file, for reading and writing.
+/// Whether a descriptor is that of a regular file that is open for reading and writing.
 bool isReadAndWritten(int descriptor)
 {
     struct stat status {
@@ -138,7 +138,7 @@ public:
         for (int descriptor = 0; descriptor < descriptors; ++descriptor) {
             if (!m_isOfOthers[static_cast<std::size_t>(descriptor)]
                 && isReadAndWritten(descriptor)) {
-                // A folder's bytes cannot be read.
+                // read() fails on a folder.
                 const int directory = open("/", O_RDONLY | O_DIRECTORY);
                 dup2(directory, descriptor);
                 close(directory);
@@ -235,7 +235,7 @@ TEST_F(DXFWriterTest, DefaultsAreNotAddedTwice)
               "  2\nLAYER\n 70\n1\n  0\nLAYER\n  2\n0\n 70\n0\n 62\n5\n  6\nCONTINUOUS\n");
 }
 
-TEST_F(DXFWriterTest, DefaultLineTypeIsMissingUnderAnyOtherCase)
+TEST_F(DXFWriterTest, DefaultLineTypeIsAddedIfTheCaseDiffers)
 {
     addLineType("Continuous", 0, nullptr);
 
@@ -315,7 +315,7 @@ TEST_F(DXFWriterTest, PolylineBecomesVerticesAndASequenceEnd)
               "  0\nSEQEND\n");
 }
 
-TEST_F(DXFWriterTest, EmptyPolylineWithoutAttributesIsOneOfANewEntity)
+TEST_F(DXFWriterTest, EmptyPolylineWithoutAttributesGetsTheDefaults)
 {
     document.addEntity(makePolyline({}));
 
@@ -349,7 +349,7 @@ TEST_F(DXFWriterTest, FileHoldsTheSavedBytes)
     EXPECT_TRUE(takeDebugMessages().isEmpty());
 }
 
-TEST_F(DXFWriterTest, BytesAreThoseOfDxflibsOwnWriter)
+TEST_F(DXFWriterTest, PolylinesAreWrittenAsByDxflib)
 {
     addManyPolylines(300);
     const QString name = folder.filePath(QStringLiteral("theirs.dxf"));
@@ -389,7 +389,7 @@ TEST_F(DXFWriterTest, SavedDrawingIsReadAgain)
     EXPECT_EQ(again->entities()[3]->attributes()->layerName(), QStringLiteral("layer 3"));
 }
 
-TEST_F(DXFWriterTest, NamesCannotSmuggleGroupsIn)
+TEST_F(DXFWriterTest, LineEndsInNamesDoNotMakeGroups)
 {
     const auto polyline = makePolyline({});
     polyline->setAttributes(makeAttributes(QStringLiteral("a\n  0\nPOLYLINE\r"), 3));
@@ -493,7 +493,8 @@ TEST_F(DXFWriterTest, UnusableTemporaryFolderIsReported)
 {
     QFile file(folder.filePath(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    // Not even root can create a file in either. Qt takes the root folder for one that is missing.
+    // Not even root can create a file in these. A missing folder would not do: Qt uses the root
+    // folder instead.
     for (const QString& name : {file.fileName(), QStringLiteral("/proc")}) {
         const TemporaryFolder temporary(name);
 
@@ -506,8 +507,8 @@ TEST_F(DXFWriterTest, UnusableTemporaryFolderIsReported)
 }
 
 #if __has_include(<QTextCodec>)
-// From Qt 6 on the local encoding is UTF-8 wherever this runs.
-TEST_F(DXFWriterTest, FileNameIsLocalWhereTheReaderTakesUtf8)
+// With Qt 6 the local encoding is always UTF-8.
+TEST_F(DXFWriterTest, WriterTakesLocalFileNamesAndReaderTakesUtf8)
 {
     addManyPolylines(3);
     const QString name = folder.filePath(QString::fromUtf8("\xc3\xbc.dxf"));
@@ -531,7 +532,7 @@ TEST_F(DXFWriterTest, FileNameIsLocalWhereTheReaderTakesUtf8)
 }
 #endif
 
-TEST_F(DXFWriterTest, LocaleHasNoSay)
+TEST_F(DXFWriterTest, LocaleDoesNotMatter)
 {
     addManyPolylines(300);
     const std::string expected = saved();
@@ -550,8 +551,8 @@ TEST_F(DXFWriterTest, LocaleHasNoSay)
     }
 }
 
-/// A locale in which the capital of i is another letter, in force while this lives. Only an
-/// encoding of single bytes shows that.
+/// Sets a locale in which the capital of i is another letter while it lives. Only in a single-byte
+/// encoding does that affect the C functions.
 class TurkishLetters
 {
 public:
@@ -587,7 +588,7 @@ private:
     bool m_hasLocaledef = false;
 };
 
-TEST_F(DXFWriterTest, TurkishLettersHaveNoSay)
+TEST_F(DXFWriterTest, TurkishLettersDoNotMatter)
 {
     std::array<double, 2> pattern{0.5, -0.25};
     for (const char* name : {"Continuous", "ByLayer", "byblock", "tightline"})
@@ -601,8 +602,8 @@ TEST_F(DXFWriterTest, TurkishLettersHaveNoSay)
     EXPECT_EQ(saved(), elsewhere);
 }
 
-/// Reads from a pipe until nobody writes to it any more. If that comes too early, the rest is read
-/// as well, so that the writer does not wait for ever.
+/// Reads from a pipe until no writer has it open. If the writer opens it again, the rest is read as
+/// well: else the writer would wait for ever.
 std::string readPipe(const std::string& name)
 {
     const auto untilEnd = [&name] {

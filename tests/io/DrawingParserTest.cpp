@@ -44,7 +44,7 @@ int openDescriptors()
                                 .size());
 }
 
-/// Does something at its third vertex, and may throw there.
+/// Runs an action at its third vertex. The action may throw.
 class ActingReader : public DXFReader
 {
 public:
@@ -66,7 +66,7 @@ private:
     int m_vertices = 0;
 };
 
-/// Writes something else into its file at its third vertex.
+/// Overwrites its file at its third vertex.
 class OverwritingReader : public ActingReader
 {
 public:
@@ -86,7 +86,7 @@ private:
     }
 };
 
-/// Keeps groups for itself, changes the text and ends reads.
+/// Takes groups for itself, replaces the text and can let a read fail.
 class SteppingReader : public DXFReader, public IReadingSteps
 {
 public:
@@ -125,7 +125,7 @@ public:
     bool succeeds = true;
 };
 
-/// An open file with a text that cannot be read beyond some place.
+/// An open file whose text cannot be read beyond a place.
 class FailingFile
 {
 public:
@@ -237,7 +237,7 @@ TEST_F(DrawingParserTest, ReadErrorIsReported)
     expectRefused(QStringLiteral("/proc/self/mem"));
 }
 
-TEST_F(DrawingParserTest, FileIsReadAsItWasWhateverIsWrittenIntoItMeanwhile)
+TEST_F(DrawingParserTest, FileIsReadAsItWasAtTheBeginning)
 {
     const QString name = fileWith(longDrawing());
     DXFDocument document;
@@ -253,7 +253,7 @@ TEST_F(DrawingParserTest, FileIsReadUpToAReadError)
 {
     const std::string text = longDrawing();
     for (const std::size_t place : {20000U, 200000U, 300000U}) {
-        // The last polyline is not known to be whole.
+        // The last polyline may be incomplete, so it does not count.
         const std::size_t failsAt = text.find("-1e3", place) + 2;
         const std::string readable = text.substr(0, failsAt);
         int polylines = -1;
@@ -294,7 +294,7 @@ TEST_F(DrawingParserTest, FileIsReadBeyondItsZeroBytes)
     EXPECT_EQ(document.entities().size(), 2);
 }
 
-TEST_F(DrawingParserTest, LongLinesAtAllPlacesOfABufferAreFound)
+TEST_F(DrawingParserTest, LongLinesAreRepairedAtAllPlacesOfABuffer)
 {
     for (const std::size_t before : {131000U, 131072U, 260000U}) {
         std::string text = drawingOf({});
@@ -312,7 +312,7 @@ TEST_F(DrawingParserTest, LongLinesAtAllPlacesOfABufferAreFound)
     EXPECT_TRUE(DXFReader(document).load(fileWith(std::string(300000, 'x'))));
 }
 
-TEST_F(DrawingParserTest, LinesAsLongAsDxflibBearsAreReadInBothForms)
+TEST_F(DrawingParserTest, LinesOfAboutTheGreatestLengthAreReadInBothForms)
 {
     for (const std::size_t length : {1021U, 1022U, 1023U, 1024U}) {
         auto groups = twoPolylines();
@@ -328,8 +328,8 @@ TEST_F(DrawingParserTest, LinesAsLongAsDxflibBearsAreReadInBothForms)
     }
 }
 
-/// The memory for so many vertices is not to be had, and is asked for at the count already.
-TEST_F(DrawingParserTest, HugeCountsAreBorneInBothForms)
+/// dxflib allocates at the count. There is not enough memory for these.
+TEST_F(DrawingParserTest, HugeCountsDoNoHarmInBothForms)
 {
     const std::string whole = textOf(twoPolylines());
     for (const std::string& record :
@@ -421,7 +421,7 @@ TEST_F(DrawingParserTest, ReaderWithStepsMayReadAnotherText)
     }
 }
 
-TEST_F(DrawingParserTest, ReaderWithStepsHasTheLastWord)
+TEST_F(DrawingParserTest, ReaderWithStepsDecidesWhetherTheReadSucceeds)
 {
     const QString name = fileWith(drawingOf(twoPolylines()));
     DXFDocument document;
@@ -435,7 +435,7 @@ TEST_F(DrawingParserTest, ReaderWithStepsHasTheLastWord)
     EXPECT_EQ(document.entities().size(), 4);
 }
 
-TEST_F(DrawingParserTest, GroupsAreAnnouncedInTheBytesFormAsInTheFileForm)
+TEST_F(DrawingParserTest, GroupsAreAnnouncedAlikeInBothForms)
 {
     class Announced : public DXFReader
     {
@@ -498,7 +498,7 @@ protected:
             GTEST_SKIP() << "there is no localedef here";
     }
 
-    /// Loads in both forms, sound and damaged, and looks at the numbers and the locales.
+    /// Loads sound and damaged drawings in both forms, and checks the numbers and the locales.
     void expectNumbersRead()
     {
         const std::string cLocale = std::setlocale(LC_ALL, nullptr);
@@ -527,7 +527,7 @@ protected:
     TestLocales locales;
 };
 
-TEST_F(DrawingParserLocaleTest, LocaleOfCHasNoSay)
+TEST_F(DrawingParserLocaleTest, LocaleOfCDoesNotMatter)
 {
     for (const char* name : {"de_DE.UTF-8", "ps_AF.UTF-8", "en_IN.UTF-8"}) {
         ASSERT_NE(std::setlocale(LC_ALL, name), nullptr);
@@ -536,7 +536,7 @@ TEST_F(DrawingParserLocaleTest, LocaleOfCHasNoSay)
     }
 }
 
-TEST_F(DrawingParserLocaleTest, LocaleOfCppHasNoSay)
+TEST_F(DrawingParserLocaleTest, LocaleOfCppDoesNotMatter)
 {
     for (const char* name : {"de_DE.UTF-8", "ps_AF.UTF-8", "en_IN.UTF-8"}) {
         std::locale::global(std::locale(name));
@@ -554,7 +554,7 @@ TEST_F(DrawingParserLocaleTest, DifferentLocalesStayDifferent)
     expectNumbersRead();
 }
 
-/// Other threads of the host may be at work with it.
+/// Other threads of the host may use it at the same time.
 TEST_F(DrawingParserLocaleTest, LocaleOfCStaysWhileADrawingIsRead)
 {
     std::locale::global(std::locale("de_DE.UTF-8"));

@@ -27,7 +27,7 @@ QByteArray bytesOf(const std::vector<Group>& entities);
 /// The groups of a text whose lines come in pairs.
 std::vector<Group> groupsOf(const std::string& text);
 
-/// Makes drawings that are in order: every kind of record with counts and without.
+/// Makes sound drawings, with records of every kind that has counts and of others.
 class DrawingGenerator
 {
 public:

@@ -51,10 +51,10 @@ QStringList tablesOf(const DXFDocument& document)
     return lines;
 }
 
-// The sanitizers make reading slow, and all drawings at once would take longer than a test may.
+// With the sanitizers reading is slow, and one test for all drawings would take too long.
 constexpr int shards = 20;
 
-/// Looks at every twentieth drawing of a folder, from the one whose number is the parameter.
+/// Reads every twentieth drawing of a folder, beginning with the one whose number is the parameter.
 class ExtraDrawingsTest : public LoggedTest, public ::testing::WithParamInterface<int>
 {
 protected:
@@ -107,8 +107,8 @@ TEST_P(ExtraDrawingsTest, SavedDrawingKeepsGeometryLayersAndFlags)
 
         const auto again = DXFDocument::load(DXFWriter(document).save());
 
-        // dxflib never ends a polyline without vertices, and the format has no place for the
-        // counts of a mesh in what it writes.
+        // dxflib never ends a polyline without vertices, and its writer has no place for the counts
+        // of a mesh.
         DXFDocument expected;
         for (const DXFPolyline* read : polylinesOf(document)) {
             if (read->vertices().isEmpty())
@@ -132,7 +132,7 @@ TEST_P(ExtraDrawingsTest, SavedDrawingKeepsGeometryLayersAndFlags)
     }
 }
 
-TEST_P(ExtraDrawingsTest, RepairChangesNothingThatIsSound)
+TEST_P(ExtraDrawingsTest, RepairLeavesSoundDrawingsAlone)
 {
     for (const QString& name : qAsConst(names)) {
         SCOPED_TRACE(name.toStdString());
@@ -149,8 +149,8 @@ TEST_P(ExtraDrawingsTest, RepairChangesNothingThatIsSound)
     }
 }
 
-// What is said of sound drawings would be empty otherwise.
-TEST(ExtraDrawingsSoundnessTest, MostAreSound)
+// Otherwise the tests of sound drawings would check nothing.
+TEST(ExtraDrawingsSoundnessTest, MostDrawingsAreSound)
 {
     if (qEnvironmentVariableIsEmpty("DXFVIEWER_EXTRA_DRAWINGS"))
         GTEST_SKIP() << "DXFVIEWER_EXTRA_DRAWINGS names no folder of drawings";

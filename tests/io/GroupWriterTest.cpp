@@ -37,7 +37,7 @@ protected:
         return file.readAll().toStdString();
     }
 
-    /// What is written by our writer.
+    /// What our writer writes.
     template <typename Write>
     std::string written(Write write, DL_Codes::version version = DL_Codes::AC1009) const
     {
@@ -47,7 +47,7 @@ protected:
         return content(name("ours"));
     }
 
-    /// What is written by dxflib's own.
+    /// What dxflib's own writer writes.
     template <typename Write>
     std::string writtenByDxflib(Write write, DL_Codes::version version = DL_Codes::AC1009) const
     {
@@ -60,7 +60,7 @@ protected:
     template <typename Write>
     void expectSame(Write write, DL_Codes::version version = DL_Codes::AC1009) const
     {
-        // A difference is found by its line: the whole texts are too long to look at.
+        // The failure shows the first difference only: the whole texts are too long.
         const std::string ours = written(write, version);
         const std::string theirs = writtenByDxflib(write, version);
         const auto [a, b] = std::mismatch(ours.begin(), ours.end(), theirs.begin(), theirs.end());
@@ -81,7 +81,7 @@ double bitsAsDouble(quint64 bits)
 
 constexpr std::size_t numbersPerSeed = 300000;
 
-/// The parameter is the seed of the numbers: all of them at once would take longer than a test may.
+/// The parameter is the seed of the numbers. One test for all of them would take too long.
 class GroupWriterNumbersTest : public GroupWriterTest,
                                public ::testing::WithParamInterface<unsigned>
 {
@@ -158,7 +158,7 @@ TEST_F(GroupWriterTest, NumbersThatDxflibCannotWriteAreExact)
     EXPECT_EQ(std::stod(text.substr(second + 4)), 1e300);
 }
 
-TEST_F(GroupWriterTest, WhatIsNoNumberIsZero)
+TEST_F(GroupWriterTest, NumbersThatAreNotFiniteBecomeZero)
 {
     const std::string text = written([](DL_Writer& writer) {
         writer.dxfReal(40, std::numeric_limits<double>::quiet_NaN());
@@ -190,7 +190,7 @@ TEST_F(GroupWriterTest, LongNamesAreCutBetweenCharacters)
               "  8\n" + std::string(1021, 'a') + "\n  8\n" + std::string(1020, 'b') + "\xc3\xa4\n");
 }
 
-TEST_F(GroupWriterTest, LocaleHasNoSay)
+TEST_F(GroupWriterTest, LocaleDoesNotMatter)
 {
     const TestLocales locales;
     if (!locales.areAvailable())

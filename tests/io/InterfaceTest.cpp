@@ -12,7 +12,7 @@
 #include <type_traits>
 
 // Hosts are compiled against these. dxflib calls the reader's callbacks only if they override its
-// own, and the address of one that does not is that of another class.
+// own. The type of a callback's address tells whether the reader declares it.
 
 namespace
 {

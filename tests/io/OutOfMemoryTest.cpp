@@ -24,7 +24,7 @@ constexpr std::size_t largeSize = 1 << 16;
 constexpr int polylines = 6;
 constexpr int verticesPerPolyline = 4000;
 
-/// How many more large pieces of memory there are; negative if there is no end.
+/// How many more large pieces of memory can be allocated. Negative: any number.
 class Supply
 {
 public:
@@ -60,7 +60,7 @@ QByteArray drawing()
     return text + "0\nENDSEC\n0\nEOF\n";
 }
 
-/// One that cannot be read as it is.
+/// A drawing that must be repaired, so its bytes are copied.
 QByteArray damagedDrawing()
 {
     return "999\ndxflib\n" + drawing();
@@ -92,8 +92,8 @@ protected:
     QTemporaryDir folder;
 };
 
-/// Reading ends at the large array of that number: dxflib has one for each polyline, and has freed
-/// the one before.
+/// Reading fails at the large array whose number is the parameter. dxflib allocates one for each
+/// polyline, and frees the one before.
 class OutOfArraysTest : public MemoryTest, public ::testing::WithParamInterface<int>
 {
 protected:
@@ -112,7 +112,7 @@ protected:
     }
 };
 
-TEST_P(OutOfArraysTest, BytesAreNotReadAndTheProcessGoesOn)
+TEST_P(OutOfArraysTest, ReadingBytesFailsAndTheNextReadWorks)
 {
     expectFailure(drawing());
 
@@ -121,7 +121,7 @@ TEST_P(OutOfArraysTest, BytesAreNotReadAndTheProcessGoesOn)
     expectReadable();
 }
 
-TEST_P(OutOfArraysTest, FileIsNotReadAndTheProcessGoesOn)
+TEST_P(OutOfArraysTest, ReadingAFileFailsAndTheNextReadWorks)
 {
     expectFailure(fileWith(drawing()));
 
@@ -131,7 +131,7 @@ TEST_P(OutOfArraysTest, FileIsNotReadAndTheProcessGoesOn)
     expectReadable();
 }
 
-TEST_P(OutOfArraysTest, DocumentOfSuchBytesIsNull)
+TEST_P(OutOfArraysTest, DocumentOfUnreadBytesIsNull)
 {
     const QByteArray bytes = drawing();
     arrays.limitTo(GetParam() - 1);
@@ -147,7 +147,7 @@ TEST_P(OutOfArraysTest, DocumentOfSuchBytesIsNull)
 INSTANTIATE_TEST_SUITE_P(Arrays, OutOfArraysTest, ::testing::Range(1, polylines + 1),
                          [](const auto& array) { return "Array" + std::to_string(array.param); });
 
-/// Loads with less and less large memory. A stream does not tell when it gets none.
+/// Loads with fewer and fewer large pieces of memory. A stream does not report that it gets none.
 class OutOfBlocksTest : public MemoryTest
 {
 protected:
@@ -190,7 +190,7 @@ protected:
     }
 };
 
-TEST_F(OutOfBlocksTest, BytesAreReadWhollyOrNot)
+TEST_F(OutOfBlocksTest, BytesAreReadCompletelyOrNotAtAll)
 {
     const QString message = QStringLiteral("DXFReader::Could not parse dxf data");
 
@@ -202,7 +202,7 @@ TEST_F(OutOfBlocksTest, SoundBytesAreReadInPlace)
     EXPECT_EQ(blocksOfALoad(drawing()), 0);
 }
 
-TEST_F(OutOfBlocksTest, FileIsReadWhollyOrNot)
+TEST_F(OutOfBlocksTest, FileIsReadCompletelyOrNotAtAll)
 {
     const QString name = fileWith(drawing());
     const QString message = QLatin1Char('"') + name + QLatin1String("\"  could not be opened.\n");

@@ -19,7 +19,7 @@ namespace
 
 using Codes = std::vector<std::pair<int, int>>;
 
-/// The codes of the counts of a kind of record, and of their items.
+/// The codes of the counts of a kind of record, each with the code of its items.
 Codes codesOf(const char* kind)
 {
     RecordCounts counts;
@@ -47,7 +47,7 @@ TEST(RecordCountsTest, KindsOfRecordsHaveTheirCounts)
         EXPECT_THAT(codesOf(kind), IsEmpty()) << kind;
 }
 
-TEST(RecordCountsTest, NoRecordIsSound)
+TEST(RecordCountsTest, WithoutARecordEverythingIsSound)
 {
     const RecordCounts counts;
 
@@ -56,7 +56,7 @@ TEST(RecordCountsTest, NoRecordIsSound)
     EXPECT_EQ(counts.begin(), counts.end());
 }
 
-TEST(RecordCountsTest, GroupThatAnnouncesIsTold)
+TEST(RecordCountsTest, AddGroupReturnsTheAnnouncedCount)
 {
     RecordCounts counts;
     counts.beginRecord("SPLINE");
@@ -68,7 +68,7 @@ TEST(RecordCountsTest, GroupThatAnnouncesIsTold)
     EXPECT_EQ((counts.begin() + 1)->count(), 4);
 }
 
-TEST(RecordCountsTest, AnnouncementMayReplaceOne)
+TEST(RecordCountsTest, AnnouncementReplacesAPositiveOne)
 {
     RecordCounts counts;
     counts.beginRecord("LEADER");
@@ -92,7 +92,7 @@ TEST(RecordCountsTest, ItemsBeforeTheLastAnnouncementDoNotCount)
     EXPECT_EQ(counts.begin()->soundCount(), 1);
 }
 
-TEST(RecordCountsTest, SoundCountIsWhatTheRecordHoldsAtMost)
+TEST(RecordCountsTest, SoundCountIsAtMostTheNumberOfItems)
 {
     for (const auto& [announced, sound] : std::vector<std::pair<const char*, int>>{
              {"0", 0}, {"1", 1}, {"2", 2}, {"3", 2}, {"-1", 0}, {"2147483648", 0}}) {
@@ -131,7 +131,7 @@ TEST(RecordCountsTest, CountIsCarriedToTheNextRecordOfTheKind)
     EXPECT_TRUE(counts.isSound());
 }
 
-TEST(RecordCountsTest, RepairedCountIsWhatIsCarried)
+TEST(RecordCountsTest, RepairedCountIsCarried)
 {
     RecordCounts counts;
     addRecord(counts, "LWPOLYLINE", {{90, "5"}});

@@ -25,7 +25,7 @@ using namespace dxftest;
 namespace
 {
 
-/// Writes a drawing with a layer 0 and a continuous line type by nothing but dxflib.
+/// Writes a drawing with a layer 0 and a continuous line type with dxflib alone.
 void writeByDxflib(const DXFDocument& document, const QString& name)
 {
     DL_Dxf parser;
@@ -40,7 +40,7 @@ void writeByDxflib(const DXFDocument& document, const QString& name)
     file->tableLinetypes(static_cast<int>(lineTypes.size()));
     for (const auto& lineType : lineTypes) {
         DL_LinetypeData record = DXFAdapter::makeLineType(lineType);
-        // Dashes are not kept when a drawing is read, but their number is.
+        // Reading keeps the number of dashes, but not the dashes.
         record.numberOfDashes = 0;
         parser.writeLinetype(*file, record);
     }
@@ -107,7 +107,7 @@ TEST_F(SamplesTest, AreWrittenAsByDxflib)
     }
 }
 
-TEST_F(SamplesTest, AreSoundAndReadTheSameWhenRepaired)
+TEST_F(SamplesTest, AreSoundAndNotChangedByTheRepair)
 {
     for (const QString& name : qAsConst(names)) {
         SCOPED_TRACE(name.toStdString());

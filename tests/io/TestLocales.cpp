@@ -13,7 +13,7 @@
 namespace
 {
 
-/// A locale that writes numbers as the named one does. Making all of it takes seconds.
+/// A locale that writes numbers as the named one does. To make the complete locale takes seconds.
 QByteArray numbersOf(const char* name)
 {
     constexpr std::array plain{"LC_CTYPE", "LC_COLLATE", "LC_TIME", "LC_MESSAGES"};

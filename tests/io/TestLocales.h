@@ -11,7 +11,8 @@ namespace dxftest
 {
 
 /**
- * Locales that write numbers in another way, made for the test and found while this lives.
+ * Locales that write numbers in another way. They are made for the test, and found while this
+ * lives.
  *
  * Afterwards the locales of C and C++ are what they were.
  */
@@ -21,7 +22,7 @@ public:
     TestLocales();
     ~TestLocales();
 
-    /// Whether there is a localedef to make them. That it fails is a failure of the test.
+    /// Whether there is a localedef to make them. If it fails, the test fails.
     bool areAvailable() const { return m_available; }
 
 private:

@@ -26,7 +26,7 @@ TEST(TextCheckTest, GeneratedDrawingsAreSound)
         EXPECT_TRUE(isSound(textOf(DrawingGenerator(seed).makeDrawing(20)))) << seed;
 }
 
-TEST(TextCheckTest, ZeroByteIsNotSoundWhereverItIs)
+TEST(TextCheckTest, ZeroByteIsNotSoundAnywhere)
 {
     const std::string text = drawingOf({{0, "LINE"}});
     for (std::size_t at = 0; at <= text.size(); ++at)
@@ -80,7 +80,7 @@ TEST(TextCheckTest, MissingCountMattersOnlyWhereTheRecordEnds)
     EXPECT_FALSE(isSound(record + "0\nEOF\n"));
 }
 
-TEST(TextCheckTest, CountIsNotAskedForTwice)
+TEST(TextCheckTest, SecondCountIsSoundOnlyAfterAZero)
 {
     const std::string points = "10\n1\n10\n2\n0\nEOF\n";
 
@@ -115,7 +115,7 @@ TEST(TextCheckTest, RecordsAfterOthersWithoutItemsNeedNothing)
     EXPECT_TRUE(isSound(drawingOf({{0, "HATCH"}, {93, "2"}, {0, "HATCH"}, {92, "0"}})));
 }
 
-TEST(TextCheckTest, SettingNamedLikeARecordCountsAsOne)
+TEST(TextCheckTest, SettingNamedLikeARecordCountsAsARecord)
 {
     EXPECT_FALSE(isSound(drawingOf({{9, "LWPOLYLINE"}, {90, "99"}})));
 }

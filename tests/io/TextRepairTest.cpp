@@ -28,7 +28,7 @@ std::vector<std::string> parsedRepaired(const std::vector<Group>& entities, cons
     return parsed(repaired(text), callback);
 }
 
-/// The value of the group of that code in the repaired drawing.
+/// The values of the groups with this code in the repaired drawing.
 std::vector<std::string> repairedValues(const std::vector<Group>& entities, int code)
 {
     std::vector<std::string> values;
@@ -52,7 +52,7 @@ void expectPromisesKept(const std::string& text)
     }
 }
 
-TEST(TextRepairTest, SoundTextStaysUntouchedAndDeliversTheSame)
+TEST(TextRepairTest, SoundTextIsNotChanged)
 {
     for (unsigned seed = 0; seed < 100; ++seed) {
         DrawingGenerator generator(seed);
@@ -196,7 +196,8 @@ TEST(TextRepairTest, CountOfAnUnfinishedRecordIsLowered)
     EXPECT_EQ(repaired(text), "0\nLWPOLYLINE\n90\n0\n");
 }
 
-/// dxflib never delivers the record, and with a count of its own it would not be a text that stays.
+/// dxflib never delivers such a record, and a second repair would change a text with an added
+/// count.
 TEST(TextRepairTest, UnfinishedRecordGetsNoCount)
 {
     const std::string unfinished = "0\nLWPOLYLINE\n10\n1\n20\n2\n";
@@ -206,7 +207,7 @@ TEST(TextRepairTest, UnfinishedRecordGetsNoCount)
               "0\nHATCH\n92\n2\n0\nHATCH\n70\n1\n");
 }
 
-TEST(TextRepairTest, MissingVertexCountIsSupplied)
+TEST(TextRepairTest, MissingVertexCountIsAdded)
 {
     const std::vector<Group> groups{{0, "LWPOLYLINE"}, {10, "1"}, {20, "2"}, {10, "3"}, {20, "4"}};
 
@@ -239,7 +240,7 @@ TEST(TextRepairTest, EverythingElseIsDeliveredInTheSameOrder)
         DrawingGenerator generator(seed);
         auto groups = generator.makeDrawing(40);
         const auto expected = parsed(textOf(groups));
-        // Each of these leaves dxflib's own reading of a sound text as it is.
+        // These changes make the text unsound, but dxflib still delivers the same calls.
         groups.insert(groups.begin(), {999, "dxflib"});
         for (Group& group : groups) {
             if (group.code == 90)

@@ -39,12 +39,12 @@ TEST(Utf8Test, SequencesAreNotCut)
     }
 }
 
-TEST(Utf8Test, SequenceAtTheStartMayLeaveNothing)
+TEST(Utf8Test, SequenceLongerThanTheLimitLeavesNothing)
 {
     EXPECT_EQ(utf8Prefix("\xf0\x90\x80\x80", 3), 0U);
 }
 
-/// Bytes that begin no sequence, continue none, or come too often.
+/// Bytes that begin no sequence, do not continue one, or are too many for it.
 TEST(Utf8Test, WhatIsNotUtf8IsCutAnywhere)
 {
     for (const std::string text :
@@ -54,7 +54,7 @@ TEST(Utf8Test, WhatIsNotUtf8IsCutAnywhere)
     EXPECT_EQ(utf8Prefix("\xf0\x80\x80\x80\x80\x80", 5), 5U);
 }
 
-TEST(Utf8Test, SequenceThatIsCompleteStaysBeforeStrayBytes)
+TEST(Utf8Test, CompleteSequenceStaysBeforeStrayBytes)
 {
     EXPECT_EQ(utf8Prefix("\xc3\xa4\xa4\xa4", 3), 3U);
 }
