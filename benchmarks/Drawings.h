@@ -33,10 +33,10 @@ constexpr double drawingSize = 10000.0;
 /// The drawing as the text of a DXF file.
 QByteArray makeText(const Plan& plan);
 
-/// The drawing as a reader leaves it, not set up yet.
+/// The drawing as a reader makes it, not set up yet.
 QSharedPointer<DXFDocument> makeDocument(const Plan& plan);
 
-/// The drawing with its segments.
+/// The drawing after setup(), with its segments.
 QSharedPointer<DXFDocument> makeReadyDocument(const Plan& plan);
 
 /// The ids of all segments, in order.
@@ -46,7 +46,7 @@ QVector<int> segmentIdsOf(const DXFDocument& document);
 using Spans = std::vector<std::pair<const Segment*, const Segment*>>;
 Spans spansOf(const DXFDocument& document);
 
-/// The sum of all coordinates: what it takes to look at every segment once.
+/// The sum of all coordinates. Its time is the time to look at every segment once.
 double plainSum(const Spans& spans);
 
 } // namespace dxfbench

@@ -36,7 +36,7 @@ enum Step {
 
 using StepSeconds = std::array<double, StepCount>;
 
-/// A few ids from all over the drawing, others for each batch.
+/// A few ids from all over the drawing, different ones for each batch.
 QVector<int> batch(const QVector<int>& ids, int number)
 {
     QVector<int> some;
@@ -71,7 +71,7 @@ StepSeconds editOnce(const Plan& plan)
     return seconds;
 }
 
-/// One session tells about all steps, so it is run only for the first benchmark that asks.
+/// One session measures all steps, so it runs only for the first benchmark that needs it.
 const StepSeconds& secondsFor(const Plan& plan)
 {
     static std::map<std::pair<Shape, int>, StepSeconds> known;

@@ -14,7 +14,7 @@ constexpr int leastRounds = 2;
 constexpr int segmentsOfCircle = 64;
 constexpr int circlesInBlock = 10;
 
-/// Without the time that the document takes to be destroyed.
+/// The seconds do not include the destruction of the document.
 template <typename Reader>
 double secondsToLoad(const QByteArray& text)
 {
@@ -23,7 +23,7 @@ double secondsToLoad(const QByteArray& text)
     return secondsOf([&] { reader.load(text); });
 }
 
-/// Against the plain reader, which has less to do.
+/// Compares with the plain reader, which has less to do.
 void flatten(benchmark::State& state, const Plan& plan)
 {
     const QByteArray text = makeText(plan);
@@ -33,7 +33,8 @@ void flatten(benchmark::State& state, const Plan& plan)
         [&] { return secondsToLoad<DXFReader>(text); });
 }
 
-/// The text of one small block that is inserted in an array. What is read is always as long.
+/// The text of one small block that is inserted in an array. The text has almost the same length
+/// for every array.
 QByteArray arrayOfCircles(int instances)
 {
     QByteArray text = "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nB\n";
@@ -43,7 +44,7 @@ QByteArray arrayOfCircles(int instances)
            + QByteArray::number(instances) + "\n44\n25\n0\nENDSEC\n0\nEOF\n";
 }
 
-/// How the time grows with what comes out.
+/// How the time grows with the number of segments.
 void flattenArray(benchmark::State& state)
 {
     const int segments = static_cast<int>(state.range(0));

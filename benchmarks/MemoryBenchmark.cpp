@@ -19,14 +19,14 @@ using namespace dxfbench;
 
 constexpr int deletedIds = 5;
 
-/// What is allocated now, with what the allocator itself needs for it.
+/// The allocated bytes, with those that the allocator itself needs.
 double heapBytes()
 {
     const struct mallinfo2 info = mallinfo2();
     return static_cast<double>(info.uordblks) + static_cast<double>(info.hblkhd);
 }
 
-/// The drawing that is shown: read and set up.
+/// The memory of a drawing that is read and set up.
 void memoryOfDrawing(benchmark::State& state, const Plan& plan)
 {
     const QByteArray text = makeText(plan);
@@ -43,7 +43,8 @@ void memoryOfDrawing(benchmark::State& state, const Plan& plan)
     }
 }
 
-/// What the lists of those polylines take that lose a segment: they are made anew.
+/// The bytes of the segment lists of all polylines that lose a segment. A deletion makes these
+/// lists anew.
 double changedBytes(const DXFDocument& document, const QVector<int>& deleted)
 {
     constexpr double bytesPerSegment = sizeof(Segment);
@@ -60,14 +61,15 @@ double changedBytes(const DXFDocument& document, const QVector<int>& deleted)
     return bytes;
 }
 
-/// A command on the undo stack that deleted a few segments, without what it changed.
+/// The memory of a command on the undo stack that deleted a few segments, without the lists that it
+/// changed.
 void memoryOfCommand(benchmark::State& state, const Plan& plan)
 {
     const auto document = makeReadyDocument(plan);
     const QVector<int> ids = segmentIdsOf(*document);
     const QVector<int> deleted = ids.mid(ids.size() / 2, deletedIds);
     QUndoStack stack;
-    // The first command on a drawing gives every polyline its vertices anew.
+    // The first command on a drawing makes the vertices of every polyline anew.
     stack.push(new DeleteItems(document, {ids.first()}));
     for (auto _ : state) {
         const double changed = changedBytes(*document, deleted);

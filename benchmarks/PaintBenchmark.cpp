@@ -16,7 +16,7 @@ using namespace dxfbench;
 constexpr int leastRounds = 3;
 constexpr int imageSize = 1000;
 
-/// A painter on an image into which the whole drawing fits.
+/// A painter on a picture into which the whole drawing fits.
 class Canvas
 {
 public:

@@ -37,7 +37,7 @@ double secondsToParse(const QString& fileName)
     return secondsOf([&] { DL_Dxf().in(name, &nothing); });
 }
 
-/// Without the time that the document takes to be destroyed.
+/// The seconds do not include the destruction of the document.
 template <typename Source>
 double secondsToLoad(const Source& source)
 {

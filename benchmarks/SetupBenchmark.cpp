@@ -30,7 +30,7 @@ void setup(benchmark::State& state, const Plan& plan)
         });
 }
 
-/// The same in a drawing with so many layers that looking for one must not be a walk.
+/// The same in a drawing with so many layers that a linear search for each would show.
 void setupManyLayers(benchmark::State& state)
 {
     Plan plan;

@@ -34,7 +34,7 @@ constexpr double percentile99 = 0.99;
 constexpr double milliseconds = 1e3;
 constexpr int limitRounds = 5;
 
-/// What a user waits for after one event: processor time and time on the clock.
+/// The time that a user waits after one event: processor time and clock time.
 struct Wait {
     double processor = 0.0;
     double clock = 0.0;
@@ -51,8 +51,8 @@ double quantile(const Waits& waits, double Wait::*time, double share)
     return seconds.at(static_cast<std::size_t>(share * last + 0.5));
 }
 
-/// A mouse that is waited for: what a user feels is the time until the window shows the effect,
-/// the deletions that fell due meanwhile included.
+/// A mouse that waits until the window shows the effect of each event. The time includes deletions
+/// that became due meanwhile.
 class PatientMouse
 {
 public:
@@ -123,7 +123,7 @@ public:
         return waits;
     }
 
-    /// Straight across the middle of the window.
+    /// A stroke straight across the middle of the window.
     Waits drag()
     {
         PatientMouse mouse(*m_view);

@@ -20,7 +20,7 @@ using namespace dxfbench;
 
 constexpr int leastRounds = 1;
 
-/// The polylines as dxflib's own writer writes them, in the version that the library writes.
+/// Writes the polylines with dxflib's own writer, in the format version that the library uses.
 void writePlainly(const DXFDocument& document, const std::string& fileName)
 {
     DL_Dxf dxf;

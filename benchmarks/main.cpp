@@ -7,7 +7,7 @@
 namespace
 {
 
-/// What the library logs is not to be timed, and would hide the figures.
+/// The library's log must not be timed, and would hide the figures.
 void dropMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/)
 {
 }

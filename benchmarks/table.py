@@ -22,7 +22,7 @@ SHAPES = {
 }
 SHORT_SHAPE = "ten_each"
 
-# Name of the benchmark, what it measures, the counter that counts, the aim, its limit.
+# Name of the benchmark, what it measures, the counter that is judged, the aim, its limit.
 DXFLIB = "dxflib reading into an empty adapter"
 SUM = "a plain sum over all coordinates"
 ROWS = (

@@ -17,7 +17,7 @@ namespace dxffuzz
 namespace
 {
 
-// Half of the last decimal that is written, and what reading a decimal number rounds.
+// Half of the last written decimal, and the rounding when a decimal number is read.
 constexpr double writtenPrecision = 0.6e-16;
 constexpr double relativePrecision = 1e-15;
 
@@ -127,7 +127,7 @@ void requireBounded(const DXFDocument& document, const QByteArray& text)
     qint64 vertices = 0;
     for (const DXFPolyline* polyline : polylinesOf(document))
         vertices += polyline->vertexNumber();
-    // A vertex takes at least one group, and a group two lines but for the very last.
+    // A vertex takes at least one group. A group takes two line feeds, except the last one.
     const qint64 lines = text.count('\n') + 1;
     require(vertices <= lines, "there are more vertices than lines");
     require(document.entities().size() <= lines, "there are more entities than lines");

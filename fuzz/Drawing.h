@@ -18,19 +18,20 @@ class DXFPolyline;
 namespace dxffuzz
 {
 
-/// Discards Qt's log from now on: hostile drawings log a line for each record.
+/// Discards Qt's log from now on, because hostile drawings log a line for each record.
 void silenceLog();
 
-/// Ends the process with a message unless the condition holds: a find.
+/// Ends the process with a message if the condition does not hold. The fuzzer reports that as a
+/// crash.
 void require(bool condition, const char* what);
 
 /// The input as the bytes of a drawing.
 QByteArray textOf(const uint8_t* data, std::size_t size);
 
-/// The polylines of a document, each once however often it is listed.
+/// The polylines of a document, each once even if it is listed several times.
 QVector<DXFPolyline*> polylinesOf(const DXFDocument& document);
 
-/// What a polyline is made of, as far as files keep it.
+/// The parts of a polyline that files keep.
 struct Shape {
     bool isClosed;
     QVector<double> numbers;
@@ -41,8 +42,8 @@ QVector<Shape> shapesOf(const DXFDocument& document);
 /// Whether two drawings have the same polylines, number for number and NaN for NaN.
 bool areIdentical(const QVector<Shape>& a, const QVector<Shape>& b);
 
-/// Whether the second is what reading returns after the first was written: polylines without
-/// vertices are lost, what is no number becomes 0, and 16 decimals are kept.
+/// Whether the second is what a reader makes of the first after it was written: polylines without
+/// vertices are lost, numbers that are not finite become 0, and 16 decimals are kept.
 bool survivedWriting(const QVector<Shape>& written, const QVector<Shape>& read);
 
 /// The lines of all segments, each polyline once.

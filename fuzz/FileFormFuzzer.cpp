@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// A drawing in a file, which must read as the same text in memory does.
+// A drawing in a file. Reading it must give the same as reading the same text in memory.
 
 #include "fuzz/Drawing.h"
 
@@ -18,7 +18,7 @@
 namespace
 {
 
-/// The next descriptor that the process would get: larger after one was left open.
+/// The next descriptor that the process would get. It is larger if one was left open.
 int nextDescriptor()
 {
     const int descriptor = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
@@ -26,7 +26,7 @@ int nextDescriptor()
     return descriptor;
 }
 
-/// One file for all inputs, so that each costs a write and not a new file.
+/// One file for all inputs: to write it is faster than to create a new one for each.
 QTemporaryFile& scratchFile()
 {
     static QTemporaryFile file;
@@ -41,7 +41,7 @@ void fill(QTemporaryFile& file, const QByteArray& text)
     dxffuzz::require(isWritten && file.flush(), "the temporary file cannot be written");
 }
 
-/// Both forms read alike where the text has no zero byte: the bytes form ends there.
+/// Both forms give the same if the text has no zero byte. The bytes form ends at one.
 bool readsAlike(const QByteArray& text)
 {
     return !text.contains('\0');

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// A drawing whose every entity is shown, as text and as the binary form of the format.
+// A drawing in text and in binary form. The flattening reader reads it and shows every entity.
 
 #include "fuzz/Drawing.h"
 
@@ -13,10 +13,10 @@
 namespace
 {
 
-// Enough for what a small text can hold, and few enough for many drawings a second.
+// Enough for a small text, and few enough to read many drawings a second.
 constexpr qint64 mostVertices = 50000;
 
-// Bytes after it are groups of the binary form.
+// The bytes after it are groups of the binary form.
 const QByteArray sentinel("Written Binary DXF\r\n\x1a\0", 22);
 
 bool isSegmentChain(const DXFPolyline& polyline)

@@ -177,7 +177,7 @@ constexpr std::array values{
 
 constexpr std::array counts{"72"sv, "73"sv, "74"sv, "76"sv, "90"sv, "92"sv, "93"sv};
 
-/// Around the lengths at which readers cut lines, and well beyond.
+/// Lengths around those at which readers cut lines, and far beyond.
 constexpr std::array<std::size_t, 10> lengths{1021, 1022, 1023, 1024, 1025,
                                               2046, 2047, 2049, 3069, 5000};
 
@@ -256,7 +256,7 @@ auto GroupMutator::pick(const List& list)
 void GroupMutator::mutate(Groups& groups)
 {
     using Mutation = void (GroupMutator::*)(Groups&);
-    // The first ones are listed again because they lead to more.
+    // The first ones are listed twice because they find more.
     static constexpr std::array<Mutation, 18> mutations{
         &GroupMutator::eraseGroups,  &GroupMutator::eraseRecord,    &GroupMutator::repeatGroups,
         &GroupMutator::repeatRecord, &GroupMutator::moveRecord,     &GroupMutator::swapGroups,
@@ -374,7 +374,7 @@ void GroupMutator::changeValue(Groups& groups)
     groups[below(groups.size())].value = hostileValue();
 }
 
-/// A count that is wrong, missing, late or given twice is what hurts most.
+/// A count that is wrong, missing, late or given twice finds the most errors.
 void GroupMutator::changeCount(Groups& groups)
 {
     const Range record = someRecord(groups);

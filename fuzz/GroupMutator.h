@@ -22,10 +22,11 @@ Groups groupsOf(std::string_view text);
 std::string textOf(const Groups& groups);
 
 /**
- * Changes a drawing in the ways that hurt readers of drawings: a group or a record lost, repeated
- * or misplaced, a count that lies, a number at the edge, a line that is too long.
+ * Changes a drawing in ways that are hard for readers: a group or a record is lost, repeated or
+ * misplaced, a count is wrong, a number is extreme, a line is too long.
  *
- * Mutations of bytes find little in a text that counts its lines.
+ * Mutations of single bytes find little: they only break the pairs of lines that groups are made
+ * of.
  */
 class GroupMutator
 {

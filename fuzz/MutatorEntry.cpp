@@ -12,7 +12,7 @@ extern "C" size_t LLVMFuzzerMutate(uint8_t* data, size_t size, size_t maxSize);
 namespace
 {
 
-// One mutation in so many is one of bytes.
+// One mutation in so many changes bytes, not groups.
 constexpr unsigned byteMutationEvery = 8;
 constexpr unsigned mostMutations = 4;
 

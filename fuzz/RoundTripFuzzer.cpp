@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// The whole way in and out: read, erase, undo, redo, write, read again.
+// The whole cycle: read, erase, undo, redo, write, read again.
 
 #include "fuzz/Drawing.h"
 
@@ -18,7 +18,7 @@ namespace
 constexpr int batches = 3;
 constexpr int undoLimit = 10;
 
-/// The ids of about one segment in four, and of none that there is.
+/// The ids of about one segment in four, and an id that no segment has.
 QVector<int> someSegmentIds(const DXFDocument& document, std::mt19937& random)
 {
     QVector<int> ids{-1};

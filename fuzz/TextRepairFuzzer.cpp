@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// The repair of a drawing's text by itself, against what it promises.
+// The repair of a drawing's text alone, checked against what it promises.
 
 #include "fuzz/Drawing.h"
 
@@ -14,12 +14,12 @@
 namespace
 {
 
-// An empty last line gets a line feed of its own.
+// The slack is for an empty last line, which gets a line feed.
 constexpr std::size_t growthLimit = 3;
 constexpr std::size_t growthSlack = 2;
 
-/// The text as dxflib sees its end: a last value needs no line feed, and may be missing, while a
-/// last code without one is never read.
+/// The text as dxflib reads its end. The last value needs no line feed, and may be missing. A last
+/// code without a line feed is never read.
 std::string withWholeLastGroup(std::string_view text)
 {
     const auto lineFeeds = std::count(text.begin(), text.end(), '\n');

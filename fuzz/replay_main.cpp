@@ -17,7 +17,7 @@ namespace
 
 bool replay(const QString& fileName)
 {
-    // The last name printed is the one that does not survive.
+    // Printed before the run, so that the last printed name is the input that crashes.
     std::printf("%s\n", qPrintable(fileName));
     std::fflush(stdout);
     QFile file(fileName);

@@ -43,13 +43,13 @@ protected:
     QGraphicsView* m_view = nullptr;
 };
 
-TEST_F(EmbeddingTest, TellsADrawingFromAnotherText)
+TEST_F(EmbeddingTest, RecognisesADrawing)
 {
     EXPECT_TRUE(isShowable(drawing));
     EXPECT_FALSE(isShowable(QByteArray("no drawing")));
 }
 
-TEST_F(EmbeddingTest, ShowsWhatTheWindowItselfLeavesOut)
+TEST_F(EmbeddingTest, ShowsEntitiesThatTheWindowLeavesOut)
 {
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("line.dxf"));
@@ -88,7 +88,7 @@ TEST_F(EmbeddingTest, HasNoStackOutsideEditMode)
     EXPECT_EQ(editStack(m_viewer), nullptr);
 }
 
-TEST_F(EmbeddingTest, MenuUndoesAndRedoesWhatWasErased)
+TEST_F(EmbeddingTest, MenuUndoesAndRedoesAStroke)
 {
     load();
     QMenu menu;

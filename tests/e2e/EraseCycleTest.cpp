@@ -60,7 +60,7 @@ QVector<Chain> makePlan()
     return plan;
 }
 
-/// A host with a shown window, an eraser in its hand, and its own idea of what should be left.
+/// A host with a shown window and an eraser, which computes itself what should be left.
 class Host
 {
 public:
@@ -103,7 +103,7 @@ public:
         m_centers.append(view.mapToScene(view.mapFromScene(where)));
     }
 
-    /// Waits until the next tick has erased what was passed over.
+    /// Waits until the next tick has erased the segments that the eraser passed.
     bool awaitTick()
     {
         if (!noteBatch())
@@ -118,7 +118,7 @@ public:
         noteBatch();
     }
 
-    /// One stroke from point to point, without turning to the event loop.
+    /// One stroke from point to point, without running the event loop.
     void stroke(const QVector<QPointF>& points)
     {
         press(points.first());
@@ -132,8 +132,8 @@ public:
 
     QVector<QLineF> lines() const { return linesOf(shownDocument(window)); }
 
-    /// What the data that the window gives holds. Another window that read it would end edit mode
-    /// when it is destroyed.
+    /// The lines of the data that the window returns. It is not read by a second window, because
+    /// that would end edit mode when it is destroyed.
     QVector<QLineF> linesReadAgain()
     {
         const auto document = DXFDocument::load(window.getData());
@@ -143,7 +143,7 @@ public:
         return linesOf(document);
     }
 
-    /// The length in the drawing of so many device-independent pixels.
+    /// A length in device-independent pixels as a length in the drawing.
     double units(double pixels) const { return pixels / view.transform().m11(); }
 
     DXFViewer window;
@@ -163,7 +163,8 @@ private:
     QVector<QPointF> m_centers;
 };
 
-/// Numbers are saved with sixteen digits.
+/// Whether two lists of lines are the same but for rounding: numbers are saved with sixteen
+/// decimals.
 ::testing::AssertionResult liesAlong(const QVector<QLineF>& actual, const QVector<QLineF>& expected)
 {
     if (actual.size() != expected.size()) {
@@ -206,8 +207,8 @@ protected:
             << "after " << batches << " batches";
     }
 
-    /// What should be left after so many batches. An undo forgets that some drawings list a
-    /// polyline several times.
+    /// What should be left after so many batches. After an undo no polyline is listed several
+    /// times.
     ErasedDrawing::State stateAfter(std::size_t batches) const
     {
         const auto& state = host->expected.stateAfter(batches);
@@ -259,7 +260,7 @@ TEST_F(EraseCycleTest, OneStrokeIsOneStepOfTheHistory)
     walkThroughHistory();
 }
 
-TEST_F(EraseCycleTest, StrokeBesideEverythingErasesNothing)
+TEST_F(EraseCycleTest, StrokeBesideTheDrawingErasesNothing)
 {
     ASSERT_TRUE(host->open({{{{0, 0}, {800, 0}}, false}, {{{0, 600}, {800, 600}}, false}}));
     host->edit();
@@ -433,10 +434,10 @@ class EraseSampleTest : public EraseCycleTest, public ::testing::WithParamInterf
 {
 };
 
-TEST_P(EraseSampleTest, LeavesWhatShouldBeLeft)
+TEST_P(EraseSampleTest, LeavesTheExpectedDrawing)
 {
     ASSERT_TRUE(host->open(GetParam()));
-    // What the drawing has that cannot be painted is not at issue here.
+    // Painting warns of colours that are not supported. This test is not about them.
     EXPECT_THAT(takeWarnings(), Each(Truly(isAboutByBlock)));
     host->edit();
     std::mt19937 random(7);

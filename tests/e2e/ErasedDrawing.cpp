@@ -39,7 +39,7 @@ bool meet(double a, double b)
     return a == 0.0 || b == 0.0 ? gap <= 1e-12 : gap * 1e12 <= std::min(std::abs(a), std::abs(b));
 }
 
-/// The lines from vertex to vertex, and a closing one, from the first to the last.
+/// The lines from vertex to vertex, and a closing one from the first to the last.
 QVector<QLineF> linesAlong(const QVector<QPointF>& points, bool isClosed)
 {
     QVector<QLineF> lines;
@@ -118,7 +118,7 @@ bool ErasedDrawing::erase(const QVector<QPointF>& centers, double radius)
             continue;
         for (int i = 1; i < runs.size(); ++i) {
             Polyline piece = pieceOf(runs[i], m_objects++);
-            // What is cut off is drawn from its vertices again.
+            // The segments of a cut-off piece are made again from its vertices.
             piece.lines = linesAlong(piece.points, piece.isClosed);
             cutOff.push_back(piece);
         }

@@ -26,16 +26,16 @@ public:
         bool isClosed = false;
         /// The lines on the screen.
         QVector<QLineF> lines;
-        /// What is listed several times has the same number in each place.
+        /// The entries of a polyline that is listed several times have the same number.
         int object = 0;
     };
     using State = std::vector<Polyline>;
 
     void add(const QVector<QPointF>& points, bool isClosed);
-    /// Lists once more what was added as the index-th.
+    /// Lists the polyline at the index once more.
     void repeat(int index);
 
-    /// Erases what a disc touches at any of the points, all at once. True if that was anything.
+    /// Erases all segments that a disc around any of the points touches. True if there are any.
     bool erase(const QVector<QPointF>& centers, double radius);
 
     /// How often something was erased.
@@ -49,13 +49,13 @@ private:
     int m_objects = 0;
 };
 
-/// The state as an undo brings it back: everything is listed once.
+/// The state as an undo restores it: every polyline is listed once.
 ErasedDrawing::State withoutRepetitions(const ErasedDrawing::State& state);
 
-/// What is on the screen once such polylines are saved and read again.
+/// The lines on the screen after such polylines are saved and read again.
 QVector<QLineF> linesWhenReadAgain(const ErasedDrawing::State& state);
 
-/// What is on the screen.
+/// The lines on the screen.
 QVector<QLineF> linesOf(const ErasedDrawing::State& state);
 
 } // namespace dxftest

@@ -114,7 +114,7 @@ TEST(BinaryDrawingTest, ValuesAreWrittenByTheTypeOfTheirCode)
               "1004\nFF\n1010\n3\n1070\n4\n1071\n5\n");
 }
 
-TEST(BinaryDrawingTest, CodesOfOneByteSayTheSame)
+TEST(BinaryDrawingTest, CodesOfOneByteGiveTheSameText)
 {
     EXPECT_EQ(textOfBinary(twoEntities(false).bytes()), textOfBinary(twoEntities(true).bytes()));
 }
@@ -128,7 +128,7 @@ TEST(BinaryDrawingTest, CommentMayComeFirst)
     }
 }
 
-TEST(BinaryDrawingTest, EndsWhereTheBytesMakeNoSense)
+TEST(BinaryDrawingTest, EndsAtBytesThatAreNoGroup)
 {
     const std::string whole = twoEntities(true).bytes();
     const std::string text = textOfBinary(whole);
@@ -165,7 +165,7 @@ TEST_F(ReadBinaryDrawingTest, IsFlattenedLikeText)
     }
 }
 
-TEST_F(ReadBinaryDrawingTest, FileIsReadAsItsBytesAre)
+TEST_F(ReadBinaryDrawingTest, FileIsReadLikeItsBytes)
 {
     QTemporaryFile file;
     ASSERT_TRUE(file.open());

@@ -44,7 +44,7 @@ double difference(const Box& a, const Box& b)
                      std::abs(a.bottom - b.bottom), std::abs(a.top - b.top)});
 }
 
-/// Many more steps than anything that is looked at: as good as exact.
+/// So many more steps than the curves under test that the result counts as exact.
 const double fineStep = usualStep / 200.0;
 constexpr double closeness = 0.002;
 
@@ -55,7 +55,7 @@ TEST(SweepTest, GoesCounterClockwiseFromStartToEnd)
     EXPECT_NEAR(sweepBetween(radians(-90), radians(720)), radians(90), 1e-12);
 }
 
-TEST(SweepTest, EqualAnglesAreAFullTurnApartBeforeAndAfterRounding)
+TEST(SweepTest, AnglesThatAreEqualButForRoundingAreAFullTurnApart)
 {
     EXPECT_EQ(sweepBetween(1.0, 1.0), fullTurn);
     EXPECT_EQ(sweepBetween(0.0, fullTurn), fullTurn);
@@ -64,7 +64,7 @@ TEST(SweepTest, EqualAnglesAreAFullTurnApartBeforeAndAfterRounding)
     EXPECT_EQ(sweepBetween(0.0, 4 * fullTurn), fullTurn);
 }
 
-TEST(StepsTest, AreNoLongerThanAllowedAndTwoAtLeast)
+TEST(StepsTest, AreNotTooLongAndAtLeastTwo)
 {
     EXPECT_EQ(stepsOf(fullTurn, usualStep), 64);
     EXPECT_EQ(stepsOf(-fullTurn, usualStep), 64);
@@ -73,7 +73,7 @@ TEST(StepsTest, AreNoLongerThanAllowedAndTwoAtLeast)
     EXPECT_EQ(stepsOf(1e-9, usualStep), 2);
 }
 
-TEST(ArcTest, LengthAndBoxAreNearTheExactOnes)
+TEST(ArcTest, LengthAndBoxAreNearlyExact)
 {
     std::mt19937 random(7);
     std::uniform_real_distribution<double> number(-10.0, 10.0);
@@ -98,7 +98,7 @@ TEST(ArcTest, LengthAndBoxAreNearTheExactOnes)
     }
 }
 
-TEST(ArcTest, EllipsesAreNearTheExactOnes)
+TEST(ArcTest, EllipsesAreNearlyExact)
 {
     std::mt19937 random(8);
     std::uniform_real_distribution<double> number(0.01, 10.0);
@@ -116,7 +116,7 @@ TEST(ArcTest, EllipsesAreNearTheExactOnes)
     }
 }
 
-TEST(BulgeTest, IsTheArcOfFourTimesItsTangent)
+TEST(BulgeTest, IsTheTangentOfAQuarterOfTheSweep)
 {
     std::mt19937 random(9);
     std::uniform_real_distribution<double> number(-5.0, 5.0);
@@ -153,7 +153,7 @@ TEST(BulgeTest, IsStraightWithoutAngleOrLength)
     EXPECT_EQ(points, Points({{4, 3, 0}}));
 }
 
-TEST(BulgeTest, VeryFlatAndVeryRoundOnesHoldTogether)
+TEST(BulgeTest, VeryFlatAndVeryRoundArcsAreExact)
 {
     Points flat;
     appendBulge(flat, {0, 0, 0}, {1, 0, 0}, 1e-9, usualStep);

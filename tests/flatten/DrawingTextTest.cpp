@@ -30,7 +30,7 @@ std::string drawing(const char* release, const char* codePage, const std::string
     return text + "0\nENDSEC\n8\n" + line + '\n';
 }
 
-/// What becomes of that line; empty if the text stays as it is.
+/// The decoded line. Empty if the text is not changed.
 std::string lineIn(const char* release, const char* codePage, const std::string& line)
 {
     const auto text = utf8TextOf(drawing(release, codePage, line));
@@ -57,7 +57,7 @@ TEST(DrawingTextTest, OldDrawingsAreInTheirCodePage)
     EXPECT_EQ(lineIn("AC1009", "ISO8859-1", "Fl\xFCgel"), "Fl\xC3\xBCgel");
 }
 
-TEST(DrawingTextTest, CodePageThatIsMissingOrUnknownIsWesternEuropean)
+TEST(DrawingTextTest, MissingOrUnknownCodePageIsWesternEuropean)
 {
     for (const char* codePage : {"", "ANSI_9999", "no such thing", "ANSI_", "UTF-8//IGNORE"})
         EXPECT_EQ(lineIn("AC1009", codePage, "\x80 Fl\xFCgel"), "\xE2\x82\xAC Fl\xC3\xBCgel")
@@ -65,17 +65,17 @@ TEST(DrawingTextTest, CodePageThatIsMissingOrUnknownIsWesternEuropean)
     EXPECT_EQ(lineIn("", "", "Fl\xFCgel"), "Fl\xC3\xBCgel");
 }
 
-TEST(DrawingTextTest, NewDrawingsAreDecodedOnlyWhereTheyAreNotUtf8)
+TEST(DrawingTextTest, NewDrawingsAreDecodedOnlyInLinesThatAreNotUtf8)
 {
     EXPECT_EQ(lineIn("AC1021", "ANSI_1252", "Fl\xC3\xBCgel\n8\nFl\xFCgel"), "Fl\xC3\xBCgel");
     const auto text = utf8TextOf(drawing("AC1021", "ANSI_1252", "Fl\xC3\xBCgel\n8\nFl\xFCgel"));
     EXPECT_NE(text->find("8\nFl\xC3\xBCgel\n8\nFl\xC3\xBCgel\n"), std::string::npos);
-    // Before that the whole text is in the code page.
+    // In older drawings the whole text is in the code page.
     const auto old = utf8TextOf(drawing("AC1018", "ANSI_1252", "Fl\xC3\xBCgel\n8\nFl\xFCgel"));
     EXPECT_NE(old->find("8\nFl\xC3\x83\xC2\xBCgel\n8\n"), std::string::npos);
 }
 
-TEST(DrawingTextTest, BytesWithoutMeaningStayDifferent)
+TEST(DrawingTextTest, UndefinedBytesStayDifferent)
 {
     EXPECT_EQ(lineIn("AC1009", "ANSI_1252",
                      "a\x81"
@@ -85,7 +85,7 @@ TEST(DrawingTextTest, BytesWithoutMeaningStayDifferent)
     EXPECT_NE(lineIn("AC1009", "ANSI_932", "\xFD"), lineIn("AC1009", "ANSI_932", "\xFE"));
 }
 
-TEST(DrawingTextTest, CharacterCutShortDoesNotEatTheLineEnd)
+TEST(DrawingTextTest, IncompleteCharacterDoesNotRemoveTheLineEnd)
 {
     const auto text = utf8TextOf(drawing("AC1009", "ANSI_932", "a\x95\n0\nLINE"));
 
@@ -105,16 +105,16 @@ TEST(DrawingTextTest, CodePageMakesNoLines)
     EXPECT_EQ(text->substr(text->size() - 2), "x\n");
 }
 
-TEST(DrawingTextTest, EscapedCharactersAreThemselves)
+TEST(DrawingTextTest, EscapedCharactersAreDecoded)
 {
     EXPECT_EQ(lineIn("AC1009", "", "\\U+00E4\\U+20ac\\U+0041"), "\xC3\xA4\xE2\x82\xAC"
                                                                 "A");
     EXPECT_EQ(lineIn("AC1009", "", "\\U+D83D\\U+DE00"), "\xF0\x9F\x98\x80");
-    // Together with bytes of the code page.
+    // Escapes and bytes of the code page may stand together.
     EXPECT_EQ(lineIn("AC1009", "", "\xFC\\U+03A9"), "\xC3\xBC\xCE\xA9");
 }
 
-TEST(DrawingTextTest, EscapesThatAreNoneStay)
+TEST(DrawingTextTest, InvalidEscapesStay)
 {
     for (const char* line :
          {"\\U+00G4", "\\U+00", "\\U+000A", "\\U+000D", "\\U+0000", "\\U+0085", "\\U+007F",
@@ -137,7 +137,7 @@ TEST(DrawingTextTest, HostLocaleDoesNotMatter)
     std::setlocale(LC_ALL, before.c_str());
 }
 
-TEST(Utf8Test, SoundTextsAreToldFromOthers)
+TEST(Utf8Test, SoundTextsAreRecognised)
 {
     for (const char* sound : {"", "abc", "\xC3\xA4", "\xE2\x82\xAC", "\xED\x9F\xBF", "\xEE\x80\x80",
                               "\xF0\x9F\x98\x80", "\xF4\x8F\xBF\xBF"})
@@ -155,7 +155,7 @@ class DecodedDrawingTest : public LoggedTest
 {
 };
 
-TEST_F(DecodedDrawingTest, LayersThatDifferInOneByteStayTwo)
+TEST_F(DecodedDrawingTest, LayersThatDifferInOneByteStayDifferent)
 {
     const QByteArray text = records("SECTION 2 TABLES\nTABLE 2 LAYER\nLAYER 2 Fl\xFCgel 62 1\n"
                                     "LAYER 2 Fl\xF6gel 62 2\nLAYER 2 Fl\\U+00E4gel 62 3\nENDTAB\n"

@@ -14,7 +14,7 @@ using namespace dxftest;
 namespace
 {
 
-/// What a drawing from elsewhere comes to. Kinds and their numbers stand in one line.
+/// What is expected of one of the extra drawings. The kinds and their numbers are in one line.
 struct Expected {
     const char* name;
     int polylines;
@@ -116,7 +116,7 @@ protected:
     QString name;
 };
 
-TEST_P(FlattenedDrawingsTest, ComesToTheseNumbers)
+TEST_P(FlattenedDrawingsTest, HasTheExpectedNumbers)
 {
     Flattened drawing;
     drawing.document = QSharedPointer<DXFDocument>::create();
@@ -134,7 +134,7 @@ TEST_P(FlattenedDrawingsTest, ComesToTheseNumbers)
     EXPECT_EQ(takeDebugMessages(), QStringList());
 }
 
-TEST_P(FlattenedDrawingsTest, TextsOnRequestAreAllShown)
+TEST_P(FlattenedDrawingsTest, AllTextsAreShownOnRequest)
 {
     DXFDocument document;
     FlatteningOptions options;

@@ -17,7 +17,7 @@ QString key(const char* name)
     return QString::fromLatin1(name);
 }
 
-/// Drawings that would run away, were it not for a limit.
+/// Drawings that would give far too many vertices without a limit.
 class FlatteningLimitsTest : public LoggedTest
 {
 protected:
@@ -30,7 +30,7 @@ protected:
         return flattened(parts, options);
     }
 
-    /// That the drawing was refused, which is said.
+    /// Expects that the drawing was refused, with its messages in the log.
     void expectRefused(const Flattened& drawing, qint64 most = 20'000'000)
     {
         EXPECT_FALSE(drawing.isRead);
@@ -74,7 +74,7 @@ TEST_F(FlatteningLimitsTest, ArrayOfAThousandMillionIsRefused)
     expectRefused(flattened(parts));
 }
 
-TEST_F(FlatteningLimitsTest, ArrayOfNothingIsNothing)
+TEST_F(FlatteningLimitsTest, ArrayOfAnEmptyBlockIsNothing)
 {
     Parts parts;
     parts.blocks = "BLOCK 2 Empty\nTEXT\nENDBLK\nBLOCK 2 Outer\n"
@@ -88,7 +88,7 @@ TEST_F(FlatteningLimitsTest, ArrayOfNothingIsNothing)
     EXPECT_EQ(drawing.skipped, Counts({{key("TEXT"), 1}, {key("INSERT"), 1}}));
 }
 
-TEST_F(FlatteningLimitsTest, InsertsOfNothingCostNothingInAnArray)
+TEST_F(FlatteningLimitsTest, InsertsOfAnEmptyBlockCostNothingInAnArray)
 {
     std::string blocks = "BLOCK 2 Empty\nENDBLK\nBLOCK 2 B\nPOINT\n";
     for (int i = 0; i < 100000; ++i)
@@ -101,7 +101,7 @@ TEST_F(FlatteningLimitsTest, InsertsOfNothingCostNothingInAnArray)
     EXPECT_EQ(flattened(parts).count(), 90000);
 }
 
-/// Blocks of which each holds two of the one before.
+/// Each block inserts the block before it twice.
 std::string pyramid(int levels, const char* top)
 {
     std::string blocks = std::string("BLOCK 2 B0\n") + top + "\nENDBLK\n";
@@ -124,7 +124,7 @@ TEST_F(FlatteningLimitsTest, PyramidOfBlocksIsRefused)
     EXPECT_EQ(flattened(parts).count(), 16);
 }
 
-TEST_F(FlatteningLimitsTest, PyramidOfNothingIsNothing)
+TEST_F(FlatteningLimitsTest, PyramidOfEmptyBlocksIsNothing)
 {
     const std::string blocks = pyramid(100, "HATCH");
     Parts parts;
@@ -134,7 +134,7 @@ TEST_F(FlatteningLimitsTest, PyramidOfNothingIsNothing)
     EXPECT_EQ(flattened(parts).count(), 0);
 }
 
-TEST_F(FlatteningLimitsTest, BlocksMayBeNestedDeeperThanCalls)
+TEST_F(FlatteningLimitsTest, BlocksMayBeNestedDeeperThanTheCallStack)
 {
     constexpr int levels = 100000;
     std::string blocks = "BLOCK 2 B0\nPOINT\nENDBLK\n";
@@ -152,7 +152,7 @@ TEST_F(FlatteningLimitsTest, BlocksMayBeNestedDeeperThanCalls)
     EXPECT_EQ(drawing.points(0).first(), QPointF(levels, 0));
 }
 
-TEST_F(FlatteningLimitsTest, BlockThatHoldsItselfManyTimesIsCutEachTime)
+TEST_F(FlatteningLimitsTest, BlockInsideItselfIsSkippedEachTime)
 {
     Parts parts;
     parts.blocks = "BLOCK 2 A\nPOINT\nINSERT 2 A 70 1000\nINSERT 2 A\nINSERT 2 B 70 3\nENDBLK\n"
@@ -166,7 +166,7 @@ TEST_F(FlatteningLimitsTest, BlockThatHoldsItselfManyTimesIsCutEachTime)
     EXPECT_EQ(drawing.skipped, Counts({{key("INSERT"), 4}}));
 }
 
-TEST_F(FlatteningLimitsTest, NumbersAtTheEdgeEndWell)
+TEST_F(FlatteningLimitsTest, ExtremeNumbersGiveFinitePoints)
 {
     Parts parts;
     parts.entities =
@@ -193,7 +193,7 @@ TEST_F(FlatteningLimitsTest, NumbersAtTheEdgeEndWell)
     }
 }
 
-TEST_F(FlatteningLimitsTest, ContentThatIsScaledOutOfReachIsSkipped)
+TEST_F(FlatteningLimitsTest, ContentThatIsScaledToInfinityIsSkipped)
 {
     Parts parts;
     parts.blocks = "BLOCK 2 B\nLINE 10 1e300 11 1\nLINE 11 1\nENDBLK";

@@ -55,7 +55,7 @@ TEST_F(FlatteningReaderTest, LineBecomesPolylineOfItsEnds)
     EXPECT_EQ(drawing.skipped, Counts());
 }
 
-TEST_F(FlatteningReaderTest, OldNameOfLinesInSpaceIsKnown)
+TEST_F(FlatteningReaderTest, OldNameOfThreeDimensionalLinesIsKnown)
 {
     EXPECT_EQ(entities("3DLINE 10 1 20 2 11 4 21 6").chains(), Chains({{{1, 2}, {4, 6}}}));
 }
@@ -67,7 +67,7 @@ TEST_F(FlatteningReaderTest, PointAndLineWithoutLengthAreDots)
     EXPECT_EQ(drawing.chains(), Chains({{{1, 2}, {1, 2}}, {{3, 4}, {3, 4}}}));
 }
 
-TEST_F(FlatteningReaderTest, CircleTakesSixtyFourStepsAndEndsWhereItBegan)
+TEST_F(FlatteningReaderTest, CircleTakesSixtyFourStepsAndEndsWhereItStarts)
 {
     const auto drawing = entities("CIRCLE 10 5 20 6 40 2");
 
@@ -105,7 +105,7 @@ TEST_F(FlatteningReaderTest, ArcGoesCounterClockwiseThroughZero)
                         {{{half, -half}, {2, 0}, {half, half}}}));
 }
 
-TEST_F(FlatteningReaderTest, ShortArcHasTwoStepsAtLeast)
+TEST_F(FlatteningReaderTest, ShortArcHasAtLeastTwoSteps)
 {
     EXPECT_EQ(entities("ARC 10 0 20 0 40 2 50 0 51 0.1").points(0).size(), 3);
 }
@@ -148,14 +148,14 @@ TEST_F(FlatteningReaderTest, ClosedPolylineEndsAtItsFirstVertexWithoutFlag)
     EXPECT_EQ(drawing.polyline(0)->flags(), 0U);
 }
 
-TEST_F(FlatteningReaderTest, ClosedPolylineThatNamesItsFirstVertexTwiceGetsNoThird)
+TEST_F(FlatteningReaderTest, ClosedPolylineWithARepeatedFirstVertexGetsNoThird)
 {
     const auto drawing = entities("LWPOLYLINE 70 1 10 0 20 0 10 4 20 0 10 4 20 3 10 0 20 0");
 
     EXPECT_EQ(drawing.chains(), Chains({{{0, 0}, {4, 0}, {4, 3}, {0, 0}}}));
 }
 
-TEST_F(FlatteningReaderTest, BulgeIsAnArcToTheRightOfTravelIfPositive)
+TEST_F(FlatteningReaderTest, PositiveBulgeIsAnArcToTheRight)
 {
     // A half circle from (0, 0) to (4, 0).
     const auto right = entities("LWPOLYLINE 10 0 20 0 42 1 10 4 20 0");
@@ -196,11 +196,11 @@ TEST_F(FlatteningReaderTest, OldPolylineHasBulgesAndIsListedOnce)
 
     ASSERT_EQ(drawing.count(), 1);
     EXPECT_EQ(drawing.points(0).size(), 34);
-    // A vertex has a layer of its own, which means nothing.
+    // The layer of a vertex is ignored.
     EXPECT_EQ(drawing.attributes(0)->layerName(), key("A"));
 }
 
-TEST_F(FlatteningReaderTest, PolylineInSpaceIsSeenFromAbove)
+TEST_F(FlatteningReaderTest, ThreeDimensionalPolylineIsSeenFromAbove)
 {
     const auto drawing = entities("POLYLINE 66 1 70 9\nVERTEX 10 0 20 0 30 5 70 32\n"
                                   "VERTEX 10 4 20 0 30 6 70 32\nVERTEX 10 4 20 3 30 1 70 32\n"
@@ -209,7 +209,7 @@ TEST_F(FlatteningReaderTest, PolylineInSpaceIsSeenFromAbove)
     EXPECT_EQ(drawing.chains(), Chains({{{0, 0}, {4, 0}, {4, 3}, {0, 0}}}));
 }
 
-TEST_F(FlatteningReaderTest, FrameOfSplineFitPolylineIsLeftOut)
+TEST_F(FlatteningReaderTest, ControlPointsOfSplineFitPolylineAreLeftOut)
 {
     const auto flat = entities("POLYLINE 66 1 70 4\nVERTEX 10 0 20 0 70 16\n"
                                "VERTEX 10 0 20 0 70 8\nVERTEX 10 2 20 1 70 8\n"
@@ -221,7 +221,7 @@ TEST_F(FlatteningReaderTest, FrameOfSplineFitPolylineIsLeftOut)
     EXPECT_EQ(spatial.chains(), Chains({{{0, 0}, {2, 1}}}));
 }
 
-TEST_F(FlatteningReaderTest, VerticesAddedByACurveFitStayWithTheirBulges)
+TEST_F(FlatteningReaderTest, VerticesOfACurveFitKeepTheirBulges)
 {
     const auto drawing = entities("POLYLINE 66 1 70 2\nVERTEX 10 0 20 0 42 1\n"
                                   "VERTEX 10 4 20 0 42 -1 70 1\nVERTEX 10 8 20 0\nSEQEND");
@@ -230,7 +230,7 @@ TEST_F(FlatteningReaderTest, VerticesAddedByACurveFitStayWithTheirBulges)
     EXPECT_TRUE(areNear({{drawing.points(0)[16], drawing.points(0)[48]}}, {{{2, -2}, {6, 2}}}));
 }
 
-TEST_F(FlatteningReaderTest, PolylineWithoutEndIsShownWhereverItStops)
+TEST_F(FlatteningReaderTest, PolylineWithoutEndIsShown)
 {
     const auto byEntity = entities("POLYLINE\nVERTEX 10 0 20 0\nVERTEX 10 1 20 0\n"
                                    "LINE 10 5 20 5 11 6 21 6");
@@ -252,7 +252,7 @@ TEST_F(FlatteningReaderTest, SolidAndTraceAreOutlinedInTheirOrder)
     EXPECT_EQ(drawing.shown, Counts({{key("SOLID"), 1}, {key("TRACE"), 1}}));
 }
 
-TEST_F(FlatteningReaderTest, FourthCornerThatIsMissingIsTheThird)
+TEST_F(FlatteningReaderTest, MissingFourthCornerIsTheThird)
 {
     const auto drawing = entities("SOLID 10 0 20 0 11 4 21 0 12 4 22 3\n"
                                   "3DFACE 10 0 20 0 11 4 21 0 12 4 22 3");
@@ -300,7 +300,7 @@ TEST_F(FlatteningReaderTest, SplineWithoutControlPointsGoesThroughItsFitPoints)
     EXPECT_EQ(points.first(), QPointF(0, 0));
     EXPECT_TRUE(points.contains(QPointF(4, 2)));
     EXPECT_EQ(points.last(), QPointF(8, 0));
-    // It sets out upwards, and arrives downwards.
+    // The curve starts upwards, and ends downwards.
     EXPECT_GT(points[1].y(), 3 * points[1].x());
     EXPECT_GT(points[points.size() - 2].y(), 3 * (8 - points[points.size() - 2].x()));
 }
@@ -319,7 +319,7 @@ TEST_F(FlatteningReaderTest, SplineFollowsDegreeKnotsAndWeights)
     EXPECT_NEAR(drawing.length(), pi, pi * 0.002);
 }
 
-TEST_F(FlatteningReaderTest, MirroredEntitiesComeOutMirrored)
+TEST_F(FlatteningReaderTest, ExtrusionDownwardsMirrorsEntities)
 {
     const auto drawing = entities("CIRCLE 10 5 20 6 40 2 210 0 220 0 230 -1\n"
                                   "ARC 10 5 20 6 40 2 50 0 51 90 230 -1\n"
@@ -379,7 +379,7 @@ TEST_F(FlatteningReaderTest, MeshIsShownByRowsAndColumns)
     EXPECT_EQ(with("16").shown, Counts({{key("POLYLINE"), 1}}));
 }
 
-TEST_F(FlatteningReaderTest, SmoothedMeshIsShownByItsSurface)
+TEST_F(FlatteningReaderTest, SmoothedMeshIsShownWithoutItsControlPoints)
 {
     const auto drawing = entities("POLYLINE 66 1 70 20 71 2 72 2 73 2 74 3 75 6\n"
                                   "VERTEX 10 9 20 9 70 80\nVERTEX 10 8 20 9 70 80\n"
@@ -416,7 +416,7 @@ TEST_F(FlatteningReaderTest, EdgesOfFacesAreShownOnceUnlessHidden)
     EXPECT_EQ(drawing.chains(), Chains({{{0, 0}, {4, 0}, {4, 3}, {0, 0}}, {{4, 3}, {0, 3}}}));
 }
 
-TEST_F(FlatteningReaderTest, FacesWithForeignVerticesLoseThoseEdges)
+TEST_F(FlatteningReaderTest, FacesWithMissingVerticesLoseThoseEdges)
 {
     const auto drawing = entities("POLYLINE 70 64\nVERTEX 10 0 20 0 70 192\n"
                                   "VERTEX 10 4 20 0 70 192\nVERTEX 70 128 71 1 72 2 73 99\n"
@@ -435,7 +435,7 @@ TEST_F(FlatteningReaderTest, EntitiesKeepTheirOrder)
               Chains({{{0, 0}, {1, 0}}, {{1, 0}, {2, 0}}, {{2, 0}, {3, 0}}, {{3, 0}, {4, 0}}}));
 }
 
-TEST_F(FlatteningReaderTest, InvisibleEntitiesAreLeftOutAndNotMissed)
+TEST_F(FlatteningReaderTest, InvisibleEntitiesAreLeftOutAndNotCounted)
 {
     const auto drawing = entities("LINE 60 1 11 1\nHATCH 60 1\nPOLYLINE 60 1\nVERTEX 10 0\n"
                                   "VERTEX 10 1\nSEQEND\nLINE 60 0 11 1");
@@ -461,7 +461,7 @@ TEST_F(FlatteningReaderTest, PaperSpaceIsShownOnRequest)
     EXPECT_FALSE(both.attributes(2)->inPaperSpace());
 }
 
-TEST_F(FlatteningReaderTest, WhatIsNotShownIsCountedByItsName)
+TEST_F(FlatteningReaderTest, EntitiesThatAreNotShownAreCountedByName)
 {
     const auto drawing = entities("HATCH\nHATCH\nXLINE 10 0 11 1\nRAY 10 0 11 1\nIMAGE\n3DSOLID\n"
                                   "TEXT 1 words\nMTEXT 1 words\nATTRIB 1 words\nATTDEF 1 words\n"
@@ -550,13 +550,13 @@ TEST_F(FlatteningReaderTest, LayerIsFoundWhateverItsCase)
     EXPECT_EQ(drawing.attributes(2)->layerName(), key("Others"));
 }
 
-TEST_F(FlatteningReaderTest, HiddenAttributesAreNotMissed)
+TEST_F(FlatteningReaderTest, HiddenAttributesAreNotCounted)
 {
     EXPECT_EQ(entities("ATTRIB 70 1 40 1 1 x\nATTRIB 70 8 40 1 1 x").skipped,
               Counts({{key("ATTRIB"), 1}}));
 }
 
-TEST_F(FlatteningReaderTest, HeaderAndOtherSectionsAreLeftAloneInSilence)
+TEST_F(FlatteningReaderTest, HeaderAndOtherSectionsAreIgnored)
 {
     const auto drawing = flattened(
         records("SECTION 2 HEADER 9 $LTSCALE 40 1 9 $ORTHOMODE 70 0\nENDSEC\n"
@@ -578,7 +578,7 @@ TEST_F(FlatteningReaderTest, TextWithoutSectionsIsTakenForEntities)
     EXPECT_EQ(drawing.skipped, Counts());
 }
 
-TEST_F(FlatteningReaderTest, ForeignGroupsOfARecordMeanNothing)
+TEST_F(FlatteningReaderTest, GroupsOfOtherProgramsAreIgnored)
 {
     const auto drawing = entities("LINE 102 {APP 10 9 60 1 102 } 10 1 20 2 11 3 21 4 "
                                   "1001 APP 1010 9 60 1\n"
@@ -595,7 +595,7 @@ TEST_F(FlatteningReaderTest, NumbersMayHaveBlanksAndSigns)
     EXPECT_EQ(drawing.chains(), Chains({{{1.5, -25}, {3, 0.5}}}));
 }
 
-TEST_F(FlatteningReaderTest, WhatIsNotFiniteIsLeftOutAndCounted)
+TEST_F(FlatteningReaderTest, EntitiesThatAreNotFiniteAreLeftOutAndCounted)
 {
     for (const char* number : {"nan", "inf", "-inf", "1e400", "-1e400"}) {
         const std::string line = std::string("LINE 10 ") + number + " 11 1\nLINE 11 1";
@@ -603,7 +603,7 @@ TEST_F(FlatteningReaderTest, WhatIsNotFiniteIsLeftOutAndCounted)
         EXPECT_EQ(drawing.count(), 1) << number;
         EXPECT_EQ(drawing.skipped, Counts({{key("LINE"), 1}})) << number;
     }
-    // That small is nothing.
+    // A number that small is zero.
     EXPECT_EQ(entities("LINE 10 1e-400 11 1").chains(), Chains({{{0, 0}, {1, 0}}}));
 }
 
@@ -673,7 +673,7 @@ TEST_F(FlatteningReaderTest, HostStopsTheReadByAnException)
     EXPECT_EQ(takeDebugMessages().size(), 1);
 }
 
-TEST_F(FlatteningReaderTest, SavedDrawingIsFlattenedToTheSame)
+TEST_F(FlatteningReaderTest, SavedDrawingIsFlattenedAlike)
 {
     Parts parts;
     parts.tables = "TABLE 2 LAYER\nLAYER 2 Walls 70 0 62 5\nENDTAB";

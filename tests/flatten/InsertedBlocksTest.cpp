@@ -28,7 +28,7 @@ class InsertedBlocksTest : public LoggedTest
 protected:
     void TearDown() override { EXPECT_EQ(takeDebugMessages(), QStringList()); }
 
-    /// What the entities make of a block "B" that is a line from (1, 0) to (2, 0).
+    /// A drawing of the entities and a block "B", which is a line from (1, 0) to (2, 0).
     static Flattened inserted(const char* entities, const char* block = "BLOCK 2 B")
     {
         const std::string blocks = std::string(block) + "\nLINE 10 1 20 0 11 2 21 0\nENDBLK";
@@ -55,7 +55,7 @@ TEST_F(InsertedBlocksTest, BasePointGoesToInsertionPoint)
     EXPECT_EQ(drawing.shown, Counts({{key("INSERT"), 1}, {key("LINE"), 1}}));
 }
 
-TEST_F(InsertedBlocksTest, NamesDifferByMoreThanCase)
+TEST_F(InsertedBlocksTest, BlockIsFoundWhateverItsCase)
 {
     EXPECT_EQ(inserted("INSERT 2 b 10 5").chains(), Chains({{{6, 0}, {7, 0}}}));
 }
@@ -99,7 +99,7 @@ TEST_F(InsertedBlocksTest, ObliqueExtrusionIsSeenFromAbove)
     EXPECT_TRUE(areNear(drawing.chains(), {{{7, 11}, {7, 12}}}));
 }
 
-TEST_F(InsertedBlocksTest, NestedBlocksAreInsertedInWhateverOrderTheyCome)
+TEST_F(InsertedBlocksTest, NestedBlocksMayBeInAnyOrder)
 {
     Parts parts;
     parts.entities = "INSERT 2 Outer 10 100 50 90";
@@ -208,7 +208,7 @@ TEST_F(InsertedBlocksTest, MissingBlocksAreSkipped)
     EXPECT_EQ(drawing.skipped, Counts({{key("INSERT"), 3}, {key("DIMENSION"), 2}}));
 }
 
-TEST_F(InsertedBlocksTest, WhatABlockDoesNotShowCountsOnceIfTheBlockIsShown)
+TEST_F(InsertedBlocksTest, SkippedEntitiesOfAnInsertedBlockCountOnce)
 {
     Parts parts;
     parts.entities = "INSERT 2 Shown 70 3\nINSERT 2 Shown\nINSERT 2 Empty";
@@ -229,7 +229,7 @@ TEST_F(InsertedBlocksTest, FirstDefinitionOfABlockCounts)
     EXPECT_EQ(flattened(parts).chains(), Chains({{{0, 0}, {1, 0}}}));
 }
 
-TEST_F(InsertedBlocksTest, PaperSpaceFlagInABlockMeansNothing)
+TEST_F(InsertedBlocksTest, PaperSpaceFlagInABlockIsIgnored)
 {
     Parts parts;
     parts.entities = "INSERT 2 B";
@@ -237,7 +237,7 @@ TEST_F(InsertedBlocksTest, PaperSpaceFlagInABlockMeansNothing)
     EXPECT_EQ(flattened(parts).count(), 1);
 }
 
-TEST_F(InsertedBlocksTest, BlockThatContainsItselfIsCutThere)
+TEST_F(InsertedBlocksTest, BlockInsideItselfIsSkipped)
 {
     Parts parts;
     parts.entities = "INSERT 2 A\nINSERT 2 A";
@@ -272,7 +272,7 @@ protected:
     }
 };
 
-TEST_F(BlockAttributesTest, ByBlockTakesThoseOfTheInsert)
+TEST_F(BlockAttributesTest, ByBlockTakesTheValuesOfTheInsert)
 {
     const auto result =
         attributes("8 Own 62 0 370 -2 6 ByBlock", "8 Walls 62 3 420 255 370 50 6 DOTTED");
@@ -284,7 +284,7 @@ TEST_F(BlockAttributesTest, ByBlockTakesThoseOfTheInsert)
     EXPECT_EQ(result->lineType(), key("DOTTED"));
 }
 
-TEST_F(BlockAttributesTest, ByBlockOfAnInsertByLayerTakesThoseOfItsLayer)
+TEST_F(BlockAttributesTest, ByBlockOfAnInsertByLayerTakesTheValuesOfItsLayer)
 {
     const auto result = attributes("8 Own 62 0 370 -2 6 BYBLOCK", "8 Walls");
 
@@ -322,7 +322,7 @@ TEST_F(BlockAttributesTest, LayerZeroIsTheLayerOfTheInsert)
     EXPECT_EQ(result->color(), 256);
 }
 
-TEST_F(BlockAttributesTest, BothGoThroughAllInserts)
+TEST_F(BlockAttributesTest, ByBlockAndLayerZeroGoThroughAllInserts)
 {
     const auto result = attributes("8 0 62 0 370 -2 6 BYBLOCK", "8 0 62 0 370 -2 6 BYBLOCK",
                                    "8 Walls 62 3 370 50 6 DOTTED");
@@ -357,7 +357,7 @@ TEST_F(BlockAttributesTest, DimensionIsAnInsert)
     EXPECT_EQ(drawing.attributes(0)->layerName(), key("Sizes"));
 }
 
-TEST_F(BlockAttributesTest, InsertInPaperSpacePutsItsContentThere)
+TEST_F(BlockAttributesTest, ContentOfAnInsertInPaperSpaceIsInPaperSpace)
 {
     Parts parts;
     parts.blocks = "BLOCK 2 B\nLINE 11 1\nENDBLK";

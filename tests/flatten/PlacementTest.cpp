@@ -30,7 +30,7 @@ TEST(PlacementTest, InnerPlacementComesFirst)
     expectNear(both.mapVector({1, 0, 0}), {0, 2, 0});
 }
 
-TEST(ExtrusionTest, UpwardsIsTheDrawingItself)
+TEST(ExtrusionTest, UpwardsLeavesPointsUnchanged)
 {
     for (const Point3& direction : {Point3{0, 0, 1}, Point3{0, 0, 5}, Point3{0, 0, 0},
                                     Point3{std::numeric_limits<double>::infinity(), 0, 0},
@@ -43,7 +43,7 @@ TEST(ExtrusionTest, DownwardsMirrors)
     expectNear(extruded({0, 0, -1}).map({1, 2, 3}), {-1, 2, -3});
 }
 
-TEST(ExtrusionTest, ObliqueOneHasAnXAxisThatIsLevel)
+TEST(ExtrusionTest, ObliqueDirectionHasAHorizontalXAxis)
 {
     const Placement placement = extruded({1, 2, 2});
 
@@ -52,7 +52,7 @@ TEST(ExtrusionTest, ObliqueOneHasAnXAxisThatIsLevel)
     expectNear(placement.yAxis, cross(placement.zAxis, placement.xAxis));
 }
 
-TEST(ExtrusionTest, NearlyUprightOneTakesItsXAxisFromTheOtherSide)
+TEST(ExtrusionTest, NearlyVerticalDirectionTakesItsXAxisFromY)
 {
     const double limit = 1.0 / 64.0;
     const double inside = limit - 1e-6;

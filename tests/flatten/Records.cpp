@@ -124,7 +124,7 @@ double lengthOf(const QVector<QPointF>& points)
             return ::testing::AssertionFailure() << "chain " << i << " has " << actual[i].size()
                                                  << " points instead of " << expected[i].size();
         for (int j = 0; j < actual[i].size(); ++j) {
-            // A point that is no number is not near.
+            // A NaN fails this comparison too.
             if (!(QLineF(actual[i][j], expected[i][j]).length() <= tolerance))
                 return ::testing::AssertionFailure()
                        << "point " << j << " of chain " << i << " is "

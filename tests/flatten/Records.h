@@ -16,15 +16,14 @@
 #include <QString>
 #include <QVector>
 
-/// @file
-/// Small drawings for tests, and what became of them.
+/// @file Small drawings for tests, and the results of flattening them.
 
 namespace dxftest
 {
 
 /**
- * The text of records that are given one a line, as a name and then codes and values in turn:
- * "LINE 10 0 20 0 11 3 21 4".
+ * The text of records. Each line of the argument is one record: its name, and then codes and values
+ * in turn: "LINE 10 0 20 0 11 3 21 4".
  *
  * A "~" in a value stands for a blank.
  */
@@ -40,7 +39,7 @@ struct Parts {
 /// The text of a whole drawing.
 QByteArray drawingOf(const Parts& parts);
 
-/// What came of reading a drawing.
+/// The result of reading a drawing.
 struct Flattened {
     QSharedPointer<DXFDocument> document;
     bool isRead = false;

@@ -69,7 +69,7 @@ TEST(SplinesTest, WeightsMakeACircle)
     EXPECT_LT(points.size(), 200U);
 }
 
-TEST(SplinesTest, FirstDegreeIsItsControlPolygon)
+TEST(SplinesTest, SplineOfDegreeOneIsItsControlPolygon)
 {
     Spline spline;
     spline.degree = 1;
@@ -79,7 +79,7 @@ TEST(SplinesTest, FirstDegreeIsItsControlPolygon)
     EXPECT_EQ(traced(spline), spline.controlPoints);
 }
 
-TEST(SplinesTest, OneSpanIsTheBezierCurve)
+TEST(SplinesTest, SplineOfOneSpanIsABezierCurve)
 {
     Spline spline = cubic({{0, 0, 0}, {1, 3, 1}, {4, 3, 2}, {5, 0, 3}});
     spline.knots = {0, 0, 0, 0, 1, 1, 1, 1};
@@ -88,7 +88,7 @@ TEST(SplinesTest, OneSpanIsTheBezierCurve)
 
     EXPECT_EQ(points.front(), spline.controlPoints.front());
     EXPECT_EQ(points.back(), spline.controlPoints.back());
-    // Each point is the curve's, where z runs evenly.
+    // z grows evenly with the parameter, so it gives the parameter of each point.
     for (const Point3& point : points) {
         const double t = point.z / 3.0;
         EXPECT_NEAR(point.x, 3 * t * (1 - t) * (1 - t) + 12 * t * t * (1 - t) + 5 * t * t * t,
@@ -99,8 +99,8 @@ TEST(SplinesTest, OneSpanIsTheBezierCurve)
 
 TEST(SplinesTest, UnclampedKnotsLimitTheDomain)
 {
-    // The points lie on a line and the knots are even: the curve runs from the mean of the first
-    // points to the mean of the last.
+    // The points are evenly spaced on a line and the knots are uniform. So the curve runs from the
+    // mean of the first three points to the mean of the last three.
     Spline spline = cubic({{0, 0, 0}, {1, 0, 0}, {2, 0, 0}, {3, 0, 0}, {4, 0, 0}});
     spline.knots = {0, 1, 2, 3, 4, 5, 6, 7, 8};
 
@@ -110,7 +110,7 @@ TEST(SplinesTest, UnclampedKnotsLimitTheDomain)
     EXPECT_NEAR(points.back().x, 3.0, 1e-12);
 }
 
-TEST(SplinesTest, MissingOrWrongKnotsAreEven)
+TEST(SplinesTest, MissingOrWrongKnotsBecomeUniform)
 {
     const Points controlPoints{{0, 0, 0}, {1, 3, 0}, {4, 3, 0}, {5, 0, 0}, {7, 1, 0}};
     Spline sound = cubic(controlPoints);
@@ -124,7 +124,7 @@ TEST(SplinesTest, MissingOrWrongKnotsAreEven)
     }
 }
 
-TEST(SplinesTest, WrongNumberOfWeightsIsNone)
+TEST(SplinesTest, WrongNumberOfWeightsIsIgnored)
 {
     Spline spline = cubic({{0, 0, 0}, {1, 3, 0}, {4, 3, 0}, {5, 0, 0}});
     const Points expected = traced(spline);
@@ -140,7 +140,7 @@ TEST(SplinesTest, TooFewPointsLowerTheDegree)
     EXPECT_FALSE(isDrawn({}));
 }
 
-TEST(SplinesTest, DegreeOutOfReachIsNotDrawn)
+TEST(SplinesTest, DegreeOutOfRangeIsNotDrawn)
 {
     Spline spline = cubic(Points(100));
     for (std::size_t i = 0; i < spline.controlPoints.size(); ++i)
@@ -153,16 +153,16 @@ TEST(SplinesTest, DegreeOutOfReachIsNotDrawn)
     EXPECT_TRUE(isDrawn(spline));
 }
 
-TEST(SplinesTest, PeriodicSplineGoesRound)
+TEST(SplinesTest, PeriodicSplineIsClosed)
 {
-    // As most programs write it, with the first points again at the end.
+    // Most programs write it like this, with the first points again at the end.
     Spline wrapped =
         cubic({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {0, 4, 0}, {0, 0, 0}, {4, 0, 0}, {4, 4, 0}});
     wrapped.isPeriodic = true;
     wrapped.isClosed = true;
     for (int i = 0; i < 11; ++i)
         wrapped.knots.push_back(i);
-    // The points once.
+    // The same spline, with each point once.
     Spline bare = cubic({{0, 0, 0}, {4, 0, 0}, {4, 4, 0}, {0, 4, 0}});
     bare.isPeriodic = true;
 
@@ -194,7 +194,7 @@ TEST(SplinesTest, LengthIsNearThatOfFinerSteps)
     }
 }
 
-TEST(SplinesTest, StopsWhenThereIsNoRoom)
+TEST(SplinesTest, StopsAtTheLimitOfPoints)
 {
     Spline spline = cubic(Points(1000));
     for (std::size_t i = 0; i < spline.controlPoints.size(); ++i)
@@ -214,7 +214,7 @@ Spline fitted(const Points& fitPoints)
     return spline;
 }
 
-TEST(FitPointsTest, CurveGoesThroughThemWithoutKinks)
+TEST(FitPointsTest, CurveGoesSmoothlyThroughThem)
 {
     const Points fit{{0, 0, 0}, {4, 2, 0}, {5, 5, 0}, {9, 5, 0}, {10, 0, 0}};
 
@@ -229,7 +229,7 @@ TEST(FitPointsTest, CurveGoesThroughThemWithoutKinks)
     }
 }
 
-TEST(FitPointsTest, PointsOnALineStayThere)
+TEST(FitPointsTest, CurveThroughPointsOnALineIsStraight)
 {
     const Points points = traced(fitted({{0, 0, 0}, {1, 1, 0}, {5, 5, 0}, {6, 6, 0}}));
 
@@ -238,7 +238,7 @@ TEST(FitPointsTest, PointsOnALineStayThere)
     EXPECT_NEAR(lengthOf(points), 6 * std::sqrt(2.0), 1e-9);
 }
 
-TEST(FitPointsTest, TangentsAreThoseOfTheEnds)
+TEST(FitPointsTest, TangentsGiveTheDirectionAtTheEnds)
 {
     Spline spline = fitted({{0, 0, 0}, {4, 0, 0}});
     spline.startTangent = {0, 7, 0};
@@ -252,7 +252,7 @@ TEST(FitPointsTest, TangentsAreThoseOfTheEnds)
     EXPECT_NEAR(end.y, -1.0, 0.01);
 }
 
-TEST(FitPointsTest, ClosedCurveThroughACircleIsNearlyOne)
+TEST(FitPointsTest, ClosedCurveThroughACircleIsNearlyACircle)
 {
     Points fit;
     for (int i = 0; i < 12; ++i)
@@ -271,7 +271,7 @@ TEST(FitPointsTest, ClosedCurveThroughACircleIsNearlyOne)
     EXPECT_EQ(traced(spline), points);
 }
 
-TEST(FitPointsTest, PointsThatAreTheSameCountOnce)
+TEST(FitPointsTest, RepeatedPointsCountOnce)
 {
     EXPECT_EQ(traced(fitted({{0, 0, 0}, {0, 0, 0}, {4, 3, 0}, {4, 3, 0}})).size(), 2U);
     EXPECT_FALSE(isDrawn(fitted({{1, 1, 0}, {1, 1, 0}})));

@@ -53,7 +53,7 @@ TEST_F(TextShapesTest, CapitalsAreAsHighAsTheTextSays)
     EXPECT_EQ(drawing.points(0).first(), drawing.points(0).last());
 }
 
-TEST_F(TextShapesTest, TextsAreCountedIfTheyAreNotAskedFor)
+TEST_F(TextShapesTest, TextsAreCountedIfTheyAreNotShown)
 {
     Parts parts;
     parts.entities = "TEXT 40 1 1 H\nMTEXT 40 1 1 H\nATTRIB 40 1 1 H";
@@ -63,7 +63,7 @@ TEST_F(TextShapesTest, TextsAreCountedIfTheyAreNotAskedFor)
               Counts({{key("TEXT"), 1}, {key("MTEXT"), 1}, {key("ATTRIB"), 1}}));
 }
 
-TEST_F(TextShapesTest, EmptyTextIsNeitherShownNorMissed)
+TEST_F(TextShapesTest, EmptyTextIsNeitherShownNorCounted)
 {
     const auto drawing = texts("TEXT 40 1\nMTEXT 40 1 1 {\\P}\nATTRIB 40 1 1 ~");
 
@@ -104,7 +104,7 @@ TEST_F(TextShapesTest, WidthRotationAndObliqueAngleApply)
     EXPECT_TRUE(areNear(drawing.chains(), mapped(plain, transform), 1e-5));
 }
 
-TEST_F(TextShapesTest, MirroredTextsAre)
+TEST_F(TextShapesTest, MirroredTextsAreDrawnMirrored)
 {
     const auto plain = texts("TEXT 40 2 1 Hg");
 
@@ -156,13 +156,13 @@ TEST_F(TextShapesTest, FittedTextReachesFromPointToPoint)
     EXPECT_GT(aligned.height(), 75.0);
 }
 
-TEST_F(TextShapesTest, ParagraphsHangFromTheirAnchor)
+TEST_F(TextShapesTest, ParagraphsArePlacedByTheirAnchor)
 {
     const QRectF one = texts("MTEXT 10 10 20 20 40 2 71 1 1 H").box();
     EXPECT_NEAR(one.bottom(), 20.0, 0.05);
     EXPECT_GT(one.left(), 10.0);
     const QRectF three = texts("MTEXT 10 10 20 20 40 2 71 1 1 H\\PH\\PH").box();
-    // Two lines further down.
+    // It reaches two lines further down.
     EXPECT_NEAR(three.top(), one.top() - 2 * 2 * 5.0 / 3.0, 1e-9);
     EXPECT_NEAR(texts("MTEXT 10 10 20 20 40 2 71 1 44 2 1 H\\PH").box().top(),
                 one.top() - 2 * 2 * 5.0 / 3.0, 1e-9);
@@ -209,7 +209,7 @@ TEST_F(TextShapesTest, TextsInBlocksAreInsertedWithThem)
         areNear(drawing.chains(), mapped(texts("TEXT 40 2 1 H"), QTransform(2, 0, 0, 1, 100, 0))));
 }
 
-TEST_F(TextShapesTest, LongTextIsWholeAndLimited)
+TEST_F(TextShapesTest, LongTextIsCompleteUnlessItExceedsTheLimit)
 {
     const std::string text = "TEXT 40 1 1 " + std::string(1000, 'H');
     EXPECT_EQ(texts(text.c_str()).count(), 1000 * texts("TEXT 40 1 1 H").count());

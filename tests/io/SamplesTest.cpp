@@ -107,7 +107,7 @@ TEST_F(SamplesTest, AreWrittenAsByDxflib)
     }
 }
 
-TEST_F(SamplesTest, AreSoundAndNotChangedByTheRepair)
+TEST_F(SamplesTest, AreSoundAndReadAlikeAfterTheRepair)
 {
     for (const QString& name : qAsConst(names)) {
         SCOPED_TRACE(name.toStdString());

@@ -81,7 +81,7 @@ TEST_F(DXFAttributesTest, StringHasTheScaleInItsShortForm)
     }
 }
 
-TEST_F(DXFAttributesTest, PlaceholdersInNamesAreFilledWithTheValuesThatFollow)
+TEST_F(DXFAttributesTest, PlaceholdersInNamesAreReplacedByLaterValues)
 {
     const DXFAttributes attributes(QStringLiteral("%2"), 3, -1, 25, QStringLiteral("%6 %8"), 2.5,
                                    31, true);

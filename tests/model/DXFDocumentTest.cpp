@@ -36,7 +36,7 @@ QSharedPointer<DXFLineType> makeLineType(const QString& name)
     return QSharedPointer<DXFLineType>::create(name, QString(), 0, 0, 0.0, nullptr);
 }
 
-/// Takes down what has been resolved whenever it is set up.
+/// Records its colour and width whenever it is set up.
 class RecordingEntity : public OtherEntity
 {
 public:
@@ -213,7 +213,7 @@ TEST_F(DXFDocumentTest, OneDeleteRemovesAllEntriesOfTheObject)
                                                   otherEntity, closedPolyline));
 }
 
-TEST_F(DXFDocumentTest, DeleteOfAStrangerIsTrueAndRemovesNothing)
+TEST_F(DXFDocumentTest, DeleteOfAnUnlistedEntityIsTrueAndRemovesNothing)
 {
     EXPECT_TRUE(document->deleteEntity(makePolyline({a, b, c})));
 
@@ -563,7 +563,7 @@ TEST_F(DXFDocumentTest, DeletingDoesNotAskForAnotherSetup)
     EXPECT_EQ(segmentIdsOf(*openPolyline), ids);
 }
 
-TEST_F(DXFDocumentTest, SetupOfAnEmptyDocumentIsItsSetup)
+TEST_F(DXFDocumentTest, SetupOfAnEmptyDocumentCountsAsItsSetup)
 {
     DXFDocument empty;
     empty.setup();
@@ -574,7 +574,7 @@ TEST_F(DXFDocumentTest, SetupOfAnEmptyDocumentIsItsSetup)
     EXPECT_THAT(openPolyline->segments(), IsEmpty());
 }
 
-/// Lists of ids of all sorts: living, stale, never assigned, repeated, far away.
+/// Lists of ids of all kinds: in use, stale, never assigned, repeated, far away.
 class IdLists
 {
 public:
@@ -619,7 +619,7 @@ private:
 
 using FlagOf = bool (IDeletable::*)() const;
 
-/// What selecting or hovering must do, written down plainly.
+/// What selecting or hovering must do, in the plainest code.
 void expectFlags(const DXFDocument& document, const QVector<int>& ids, FlagOf flag)
 {
     const auto entities = document.entities();

@@ -87,7 +87,7 @@ TEST_F(DXFLayerTest, AttributesAreSharedAndReplaced)
     EXPECT_EQ(layer.attributes()->color(), 4);
 }
 
-TEST_F(DXFLayerTest, HasNoColourWhateverItHolds)
+TEST_F(DXFLayerTest, HasNoColourEvenWithAttributes)
 {
     DXFLayer layer = layerWithFlags(5);
     EXPECT_FALSE(layer.getColor().isValid());
@@ -105,7 +105,7 @@ TEST_F(DXFLayerTest, StringHasTheFlagsInLowerCaseHex)
     EXPECT_EQ(layerWithFlags(255).toString(), QStringLiteral("[LAYER name: Walls, flags: ff]"));
 }
 
-TEST_F(DXFLayerTest, StringTakesNothingForAPlaceholder)
+TEST_F(DXFLayerTest, StringKeepsPlaceholdersInTheName)
 {
     const DXFLayer layer(QStringLiteral("%2"), DXFLayer::Locked);
 

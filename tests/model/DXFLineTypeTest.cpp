@@ -89,7 +89,7 @@ TEST_F(DXFLineTypeTest, StringSaysPresentForAnyPattern)
                              "patternLength: 12, pattern: present]"));
 }
 
-TEST_F(DXFLineTypeTest, StringTakesNothingForAPlaceholder)
+TEST_F(DXFLineTypeTest, StringKeepsPlaceholdersInNames)
 {
     const DXFLineType lineType(QStringLiteral("%2"), QStringLiteral("%3 %1"), 0, 0, 1.0, nullptr);
 

@@ -41,7 +41,7 @@ QVector<Segment> chainOf(const QVector<QLineF>& lines)
     return segments;
 }
 
-/// Tells zeros of different sign and all NaNs apart.
+/// Compares bit by bit: zeros of different sign, and different NaNs, are different.
 bool sameBits(double left, double right)
 {
     return std::memcmp(&left, &right, sizeof left) == 0;
@@ -52,7 +52,7 @@ bool sameBits(const QPointF& left, const QPointF& right)
     return sameBits(left.x(), right.x()) && sameBits(left.y(), right.y());
 }
 
-/// Equality of one coordinate, as the closed bit wants it.
+/// Whether two coordinates are so close that the chain counts as closed.
 bool coordinatesCoincide(double left, double right)
 {
     const double difference = std::fabs(left - right);
@@ -268,7 +268,7 @@ TEST_F(DXFPolylineTest, VertexAfterSetupGetsNoSegment)
     EXPECT_EQ(segmentIdsOf(*polyline), ids);
 }
 
-TEST_F(DXFPolylineTest, SetupOfAnEmptyPolylineIsItsSetup)
+TEST_F(DXFPolylineTest, SetupOfAnEmptyPolylineCountsAsItsSetup)
 {
     const auto polyline = makePolyline({});
     polyline->setup();
@@ -397,7 +397,7 @@ TEST_F(DXFPolylineTest, MissingIdsAreAssignedInOrderWhateverIsSelected)
     }
 }
 
-TEST_F(DXFPolylineTest, WhoSharesAListWithoutIdsGetsIdsOfHisOwn)
+TEST_F(DXFPolylineTest, PolylinesThatShareAListWithoutIdsGetTheirOwnIds)
 {
     const auto chain = chainOf({QLineF(a, b), QLineF(b, c)});
     DXFPolyline first(0, 0, 0);
@@ -427,7 +427,7 @@ TEST_F(DXFPolylineTest, SelectingAgainAssignsNoFurtherIds)
     EXPECT_TRUE(polyline.segments().last().isSelected());
 }
 
-TEST_F(DXFPolylineTest, SelectingWhatIsSelectedKeepsTheListShared)
+TEST_F(DXFPolylineTest, SelectingTheSameAgainKeepsTheListShared)
 {
     const auto polyline = makePolyline({a, b, c});
     polyline->setup();
@@ -501,7 +501,7 @@ TEST_F(DXFPolylineTest, CloneOfASetUpPolylineIsSetUp)
     EXPECT_EQ(segmentIdsOf(*copy), segmentIdsOf(*polyline));
 }
 
-TEST_F(DXFPolylineTest, CloneOfANewPolylineIsYetToBeSetUp)
+TEST_F(DXFPolylineTest, CloneOfANewPolylineIsNotSetUp)
 {
     const auto polyline = makePolyline({a, b, c});
 
@@ -512,7 +512,7 @@ TEST_F(DXFPolylineTest, CloneOfANewPolylineIsYetToBeSetUp)
     EXPECT_THAT(linesOf(*copy), ElementsAre(QLineF(a, b), QLineF(b, c)));
 }
 
-TEST_F(DXFPolylineTest, CloneAndOriginalChangeApart)
+TEST_F(DXFPolylineTest, CloneAndOriginalChangeIndependently)
 {
     const auto polyline = makePolyline({a, b, c});
     polyline->setup();
@@ -555,7 +555,7 @@ TEST_F(DXFPolylineTest, ChainBecomesVerticesWithoutZAndBulge)
     EXPECT_FALSE(polyline.isClosed());
 }
 
-TEST_F(DXFPolylineTest, BulgesAreLostAlsoWhereThePointsStay)
+TEST_F(DXFPolylineTest, BulgesAreLostEvenWhereThePointsStay)
 {
     for (int bent = 0; bent < 2; ++bent) {
         DXFPolyline polyline(0, 0, 0);
@@ -568,7 +568,7 @@ TEST_F(DXFPolylineTest, BulgesAreLostAlsoWhereThePointsStay)
     }
 }
 
-TEST_F(DXFPolylineTest, HeightsAreLostAlsoWhereThePointsStay)
+TEST_F(DXFPolylineTest, HeightsAreLostEvenWhereThePointsStay)
 {
     for (int raised = 0; raised < 2; ++raised) {
         DXFPolyline polyline(0, 0, 0);
@@ -614,7 +614,7 @@ TEST_F(DXFPolylineTest, GivenSegmentsKeepIdsAndFlagsUntilTheNextSetup)
     EXPECT_THAT(polyline.segments(), Each(Property(&Segment::isHovered, false)));
 }
 
-TEST_F(DXFPolylineTest, OwnSegmentsAgainMakeTheNextSetupRenewThem)
+TEST_F(DXFPolylineTest, SettingTheOwnSegmentsMakesTheNextSetupRenewThem)
 {
     const auto polyline = makePolyline({a, b, c});
     polyline->setup();
@@ -712,7 +712,7 @@ TEST_F(DXFPolylineTest, SegmentWithoutLengthIsAClosedChain)
     EXPECT_TRUE(polyline.isClosed());
 }
 
-TEST_F(DXFPolylineTest, NewChainAfterTheSameListIsTaken)
+TEST_F(DXFPolylineTest, ChangedChainAfterTheSameListIsUsed)
 {
     auto chain = chainOf({QLineF(a, b), QLineF(b, c)});
     DXFPolyline polyline(0, 0, 0);
@@ -726,7 +726,7 @@ TEST_F(DXFPolylineTest, NewChainAfterTheSameListIsTaken)
     EXPECT_TRUE(polyline.isClosed());
 }
 
-TEST_F(DXFPolylineTest, SameChainAgainDropsAVertexAppendedMeanwhile)
+TEST_F(DXFPolylineTest, SameChainAgainDropsAnAppendedVertex)
 {
     const auto chain = chainOf({QLineF(a, b), QLineF(b, c)});
     DXFPolyline polyline(0, 0, 0);
@@ -738,7 +738,7 @@ TEST_F(DXFPolylineTest, SameChainAgainDropsAVertexAppendedMeanwhile)
     EXPECT_EQ(pointsOf(polyline), QVector<QPointF>({a, b, c}));
 }
 
-TEST_F(DXFPolylineTest, ReferenceToTheVerticesStaysGood)
+TEST_F(DXFPolylineTest, ReferenceToTheVerticesStaysValid)
 {
     const auto polyline = makePolyline({a, b, c}, true);
     const auto& vertices = polyline->vertices();
@@ -758,7 +758,7 @@ TEST_F(DXFPolylineTest, ReferenceToTheVerticesStaysGood)
     EXPECT_EQ(vertices.size(), 4);
 }
 
-TEST_F(DXFPolylineTest, ReferenceToTheVerticesIsGoodInAnAssignedPolylineToo)
+TEST_F(DXFPolylineTest, ReferenceToTheVerticesStaysValidAfterAnAssignment)
 {
     DXFPolyline source(0, 0, 0);
     source.setSegments(chainOf({QLineF(a, b), QLineF(b, c)}));
@@ -771,7 +771,7 @@ TEST_F(DXFPolylineTest, ReferenceToTheVerticesIsGoodInAnAssignedPolylineToo)
     EXPECT_EQ(vertices.last().x(), c.x());
 }
 
-TEST_F(DXFPolylineTest, VerticesFollowFromSegmentsWheneverTheyAreAskedFor)
+TEST_F(DXFPolylineTest, VerticesAreTheSameAfterTheSetup)
 {
     for (const bool closed : {false, true}) {
         const auto polyline = makePolyline({a, b, c}, closed);
@@ -849,7 +849,7 @@ INSTANTIATE_TEST_SUITE_P(
         Closing{"InfinityDiffersFromFinite", QPointF(1, infinity), QPointF(1, 1), false}),
     [](const auto& tested) { return std::string(tested.param.name); });
 
-/// Random chains whose coordinates often lie just inside or outside the limits.
+/// Random chains whose ends often differ by a little less or more than the tolerance.
 class ChainSource
 {
 public:

@@ -43,7 +43,7 @@ TEST_F(IDeletableTest, SelectedAndHoveredAreIndependent)
     EXPECT_TRUE(object.isHovered());
 }
 
-TEST_F(IDeletableTest, FirstQuestionForTheIdAssignsTheNextOne)
+TEST_F(IDeletableTest, FirstCallOfIdAssignsTheNextId)
 {
     const int highest = IDeletable().id();
     const IDeletable object;
@@ -59,7 +59,7 @@ TEST_F(IDeletableTest, IdsAreAtLeastOne)
     EXPECT_GE(IDeletable().id(), 1);
 }
 
-// In a process of its own, which runs this test alone.
+// A process of its own runs only this test.
 TEST_F(IDeletableDeathTest, FirstIdOfAProcessIsOne)
 {
     ::testing::GTEST_FLAG(death_test_style) = "threadsafe";
@@ -82,7 +82,7 @@ TEST_F(IDeletableTest, ConstructionAssignsNoId)
     EXPECT_EQ(asked.id(), highest + 1);
 }
 
-TEST_F(IDeletableTest, IdsFollowTheOrderOfQuestionsNotOfConstruction)
+TEST_F(IDeletableTest, IdsFollowTheOrderOfTheCallsOfId)
 {
     const IDeletable first;
     const IDeletable second;
@@ -118,7 +118,7 @@ TEST_F(IDeletableTest, RegeneratedIdIsTheNextOfTheCounter)
     EXPECT_NE(result, old);
 }
 
-TEST_F(IDeletableTest, RegeneratingTakesOneIdOnlyWithoutOneBefore)
+TEST_F(IDeletableTest, RegeneratingWithoutAnIdTakesOneId)
 {
     const int highest = IDeletable().id();
     IDeletable object;
@@ -127,7 +127,7 @@ TEST_F(IDeletableTest, RegeneratingTakesOneIdOnlyWithoutOneBefore)
     EXPECT_EQ(IDeletable().id(), highest + 2);
 }
 
-TEST_F(IDeletableTest, GivenUpIdsAreNotHandedOutAgain)
+TEST_F(IDeletableTest, ReplacedIdsAreNotUsedAgain)
 {
     IDeletable object;
     const int old = object.id();

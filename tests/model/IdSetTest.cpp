@@ -14,7 +14,7 @@ namespace
 constexpr int least = std::numeric_limits<int>::min();
 constexpr int greatest = std::numeric_limits<int>::max();
 
-TEST(IdSetTest, NoIdsContainNone)
+TEST(IdSetTest, EmptySetContainsNothing)
 {
     const IdSet ids{QVector<int>()};
 
@@ -41,7 +41,7 @@ TEST(IdSetTest, OrderAndRepetitionDoNotMatter)
         EXPECT_EQ(ids.contains(id), id == 3 || id == 5 || id == 9) << id;
 }
 
-TEST(IdSetTest, NeighboursOfTheEndsAreNotContained)
+TEST(IdSetTest, IdsNextToTheEndsAreNotContained)
 {
     const IdSet ids({100, 200});
 
@@ -53,7 +53,7 @@ TEST(IdSetTest, NeighboursOfTheEndsAreNotContained)
     EXPECT_FALSE(ids.contains(201));
 }
 
-/// Ids that lie so far apart that a bit for each between them would take too much.
+/// The ids lie so far apart that one bit for each id between them would take too much memory.
 TEST(IdSetTest, FewIdsFarApartAreFound)
 {
     for (const int gap : {1 << 22, 1 << 23, (1 << 23) + 1, 1 << 24, 1 << 29}) {
@@ -67,7 +67,7 @@ TEST(IdSetTest, FewIdsFarApartAreFound)
     }
 }
 
-TEST(IdSetTest, AllIntsAreAPossibleSpan)
+TEST(IdSetTest, IdsMaySpanAllInts)
 {
     const IdSet ids({0, greatest, least});
 

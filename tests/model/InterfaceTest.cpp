@@ -16,8 +16,8 @@
 #include <cstring>
 #include <type_traits>
 
-// Hosts are compiled against these: they call them through const objects, take their addresses,
-// override them and convert their results. A call in another test would not notice most changes.
+// Hosts are compiled against these. They call functions of const objects, take addresses, override
+// functions and convert results. Other tests only call, and would not notice most changes.
 
 namespace
 {
@@ -150,11 +150,13 @@ static_assert(
     is_same_v<decltype(&DXFDocument::selectedIDs), QVector<int> (DXFDocument::*)() const>);
 static_assert(is_same_v<decltype(&DXFDocument::setup), void (DXFDocument::*)()>);
 
-// Hosts that were compiled before call virtual functions by their places. Nothing else tells when
-// one moves: its signature stays, and what is compiled anew calls the new place.
+// Hosts that are already compiled call virtual functions by their indices. No other test notices a
+// moved function: its signature stays the same, and code that is compiled again calls the new
+// index.
 
-/// The place of a virtual function in the table of its class, as the C++ ABI of all compilers but
-/// Microsoft's has it: an offset, marked in one of the two words of a pointer to the function.
+/// The index of a virtual function in the table of its class. In the C++ ABI of all compilers but
+/// Microsoft's, a pointer to a member function has two words. One holds the offset in the table,
+/// and one is odd if the function is virtual.
 template <typename Function>
 std::ptrdiff_t placeOf(Function function)
 {

@@ -71,7 +71,7 @@ QByteArray goodDrawing(int which)
     case 7:
         return drawing(QByteArray());
     default:
-        // Ends of images repeat the polyline before them, and the last one has no vertex.
+        // The end of an IMAGE lists the polyline before it again. The last polyline has no vertex.
         return drawing(field(5, QPointF(-20, -20)) + group(0, "IMAGE") + group(0, "IMAGE")
                        + group(0, "POLYLINE") + group(0, "VERTEX") + group(10, "1")
                        + group(0, "SEQEND") + group(0, "LWPOLYLINE"));

@@ -14,7 +14,7 @@ QByteArray goodDrawing(int which);
 /// A text that is no drawing, or half of one.
 QByteArray badDrawing(int which);
 
-/// The vertices of a polyline as only a host can make it.
+/// The vertices of a polyline that only a host can make.
 QVector<QPointF> oddPoints(int which);
 
 } // namespace dxftest

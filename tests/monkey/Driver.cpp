@@ -113,7 +113,7 @@ QPoint placeIn(const DXFViewer* viewer, int a, int b)
     return {a % size.width() - outside, b % size.height() - outside};
 }
 
-// What is done in slots, by number.
+// The numbers of the actions in slots.
 constexpr int slotActions = 16;
 constexpr int goodLoad = 6;
 constexpr int badLoad = 7;
@@ -148,7 +148,7 @@ Driver::~Driver()
     m_answerToMessage = nullptr;
     for (const auto& window : m_windows)
         destroy(window->viewer);
-    // An editor that ended in a move of its stack waits for this.
+    // An editor that ended while its stack moved is destroyed here.
     QCoreApplication::processEvents();
 }
 
@@ -163,7 +163,7 @@ void Driver::perform(const Step& step)
         performIn(*window, step);
 }
 
-/// What deleteLater() does for a host with an event loop of its own: not before that is reached,
+/// Destroys what deleteLater() would destroy in a host that has an event loop: not inside a slot,
 /// and not in the loop of a dialog.
 void Driver::destroyDoomed()
 {
@@ -171,8 +171,7 @@ void Driver::destroyDoomed()
         destroy(viewer);
 }
 
-/// Destroys a window or a part of one. What answers to that must leave the window alone, as any
-/// host does.
+/// Destroys a window or a part of one. Slots that are called meanwhile must not use the window.
 void Driver::destroy(QObject* object)
 {
     if (!object)
@@ -198,7 +197,8 @@ bool Driver::isDying(const QPointer<DXFViewer>& viewer) const
 
 void Driver::hear(const QString& message)
 {
-    // The platform speaks in the middle of its own work, where Qt does not bear an answer.
+    // The platform logs this in the middle of its own work, where Qt does not allow the host to
+    // act.
     if (message.startsWith(QLatin1String("This plugin does not support")))
         return;
     if (const auto answer = std::exchange(m_answerToMessage, nullptr))
@@ -212,7 +212,7 @@ Driver::Window* Driver::windowOf(const Step& step)
                     m_windows.end());
     if (m_windows.empty())
         return nullptr;
-    // There is one edit mode, and most of what is worth doing is done there.
+    // Only one window can be in edit mode, and most steps are about edit mode.
     const auto edited = std::find_if(m_windows.begin(), m_windows.end(), [](const auto& window) {
         return overlayOf(window->viewer) != nullptr;
     });
@@ -221,7 +221,7 @@ Driver::Window* Driver::windowOf(const Step& step)
     return m_windows[static_cast<std::size_t>(step.window) % m_windows.size()].get();
 }
 
-/// Opens a window with a drawing. It takes the place of one that is not of much use any more.
+/// Opens a window with a drawing, and destroys those that have no scene any more.
 void Driver::openWindow(const Step& step)
 {
     for (const auto& window : m_windows) {
@@ -274,12 +274,12 @@ void Driver::performIn(Window& window, const Step& step)
     case Op::ActOnMessage: {
         const QPointer<DXFViewer> watched = &viewer;
         m_answerToMessage = [this, watched, step](const QString& message) {
-            // Not whole yet, the overlay cannot be destroyed.
+            // The overlay is not complete, and cannot be destroyed yet.
             const bool isMaking = message.startsWith(QLatin1String("DXFEditor created"));
             const bool isSettingUp = message.contains(QLatin1String("BYBLOCK"));
-            // What is shown then, and what is taken, would be different drawings.
+            // After a load the shown drawing and the one that getData() returns would be different.
             const int which = isSettingUp && isLoad(step.a) ? 0 : step.a;
-            // Not in the slots that hear of this, either.
+            // It cannot be destroyed in the slots of this action either.
             if (isMaking)
                 m_dying.append(this);
             actInSlot(watched, which, isMaking ? Freedom::DestroysNothing : Freedom::Full);
@@ -461,7 +461,7 @@ void Driver::addPolyline(DXFDocument& document, int which)
     const auto points = oddPoints(which);
     for (const QPointF& point : points)
         polyline->appendPoint(DXFVertex(point.x(), point.y(), 0.0, true, 0.0));
-    // A host may forget this.
+    // A host may forget to call it.
     if (which % 7 != 0)
         polyline->setup();
     document.addEntity(polyline);
@@ -655,8 +655,8 @@ void Driver::actOnDeleteRequest(DXFEditor& overlay, const Step& step)
     });
 }
 
-/// Connects to one of the signals that come from edit mode or from the window's parts. The answer
-/// is given a few times, and within itself as well.
+/// Connects to a signal of edit mode or of the window's parts. The action runs a few times, also
+/// inside itself.
 void Driver::answerSignal(Window& window, const Step& step)
 {
     const QPointer<DXFViewer> viewer = window.viewer;
@@ -667,7 +667,7 @@ void Driver::answerSignal(Window& window, const Step& step)
             answer(stack, signal, Freedom::ClearsNothing, viewer, step.b);
     };
     if (stack && step.a % 3 == 0) {
-        // The group is not done with the stack when it speaks here.
+        // The group emits signals here before it has finished with the stack.
         const QScopedValueRollback<bool> silent(m_isSilent, true);
         m_group.addStack(stack);
         m_group.setActiveStack(stack);
@@ -702,7 +702,7 @@ void Driver::answerSignal(Window& window, const Step& step)
         answer(&m_group, &QUndoGroup::activeStackChanged, Freedom::ClearsNothing, viewer, step.b);
         return;
     case 9:
-        // A scene without a rectangle of its own says so in the middle of things.
+        // A scene without a fixed rectangle emits this in the middle of other work.
         if (itemOf(viewer))
             answer(sceneOf(viewer), &QGraphicsScene::sceneRectChanged, Freedom::Full, viewer,
                    step.b);
@@ -786,8 +786,8 @@ void Driver::actInSlot(QPointer<DXFViewer> viewer, int which, Freedom freedom)
     }
 }
 
-/// Below the delivery of an event Qt itself forbids to destroy the receiver, and in the middle of a
-/// destruction what is being destroyed.
+/// Destroys or clears something, if that is allowed. During an event Qt forbids to destroy its
+/// receiver, and an object that is being destroyed must not be destroyed again.
 void Driver::destroyInSlot(QPointer<DXFViewer> viewer, int which, Freedom freedom)
 {
     const bool mayDestroy =
@@ -811,8 +811,8 @@ void Driver::destroyInSlot(QPointer<DXFViewer> viewer, int which, Freedom freedo
     }
 }
 
-/// As a host does that asks its user something from a slot. The event loop runs meanwhile, and the
-/// eraser's timer with it.
+/// Opens a dialog from a slot, as a host may do. The event loop and the eraser's timer run
+/// meanwhile.
 void Driver::openDialog(int which)
 {
     if (m_isDialogOpen)
@@ -827,7 +827,7 @@ QString Driver::problem()
 {
     if (!m_problem.isEmpty())
         return m_problem;
-    // Looking is not to change anything.
+    // The checks must not run the action for messages.
     const QScopedValueRollback<std::function<void(const QString&)>> deaf(m_answerToMessage, {});
     int overlays = 0;
     for (const auto& window : m_windows) {
@@ -854,7 +854,7 @@ QString Driver::problemOf(Window& window)
     if (!problem.isEmpty())
         return problem;
 
-    // While a newly loaded drawing is not shown, getData() returns another one than the shown.
+    // Until a new drawing is shown, getData() returns the new one, not the shown one.
     if (document != window.replaced) {
         window.replaced.clear();
         window.isShowingItsDocument = true;

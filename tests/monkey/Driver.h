@@ -33,7 +33,7 @@ struct Shape;
 namespace dxftest
 {
 
-/// A host with shown windows and a user in front of them, who do what a sequence says.
+/// A host with shown windows and their user, who perform the steps of a sequence.
 class Driver : public QObject
 {
 public:
@@ -42,7 +42,7 @@ public:
 
     void perform(const Step& step);
 
-    /// To be called from within the log.
+    /// The message handler calls this.
     void hear(const QString& message);
 
     /// What does not hold now, or an empty string.
@@ -53,13 +53,13 @@ private:
         QPointer<DXFViewer> viewer;
         Qt::MouseButtons held = Qt::NoButton;
         Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-        /// The one shown when another was loaded, until that one is shown.
+        /// The drawing that is on screen while another one is loaded, until that one is shown.
         QSharedPointer<DXFDocument> replaced;
         bool isShowingItsDocument = false;
         QVector<dxffuzz::Shape> saved;
     };
 
-    /// What the host may do in a slot, besides what it may always do.
+    /// What the host may destroy in a slot.
     enum class Freedom { Full, ClearsNothing, DestroysNothing };
 
     void destroyDoomed();
@@ -106,15 +106,16 @@ private:
     std::vector<std::unique_ptr<Window>> m_windows;
     QVector<QPointer<DXFViewer>> m_doomed;
     QUndoGroup m_group;
-    /// Being destroyed, or what they hold is.
+    /// Objects that are being destroyed, or whose parts are.
     QVector<const QObject*> m_dying;
-    /// What is done at the next message; empty most of the time.
+    /// The action at the next message. Mostly empty.
     std::function<void(const QString&)> m_answerToMessage;
     QString m_problem;
-    /// How many of the user's events are being delivered.
+    /// The number of the user's events that are being delivered.
     int m_eventDepth = 0;
     bool m_isDialogOpen = false;
-    /// The overlay, and its stack with it, must then not be destroyed directly.
+    /// While the stack moves, the overlay must not be destroyed directly: the stack would be
+    /// destroyed with it.
     bool m_isStackMoving = false;
     bool m_isSilent = false;
 };

@@ -13,7 +13,7 @@ class DXFEditor;
 class DXFGraphicsItem;
 class QGraphicsScene;
 
-/// What must hold whatever was done. Each check returns what is wrong, or an empty string.
+/// Checks that must hold after every step. Each returns what is wrong, or an empty string.
 namespace dxftest
 {
 
@@ -23,7 +23,7 @@ QList<DXFGraphicsItem*> documentItemsIn(const QGraphicsScene& scene);
 /// Segments chain, and every id is there once.
 QString problemOf(const DXFDocument& document);
 
-/// Exactly those of the ids are selected that the document's polylines and segments have.
+/// Of these ids, exactly those that belong to the document's polylines and segments are selected.
 QString problemOfSelection(const DXFDocument& document, const QVector<int>& ids);
 
 /// Reading what was saved gives the same polylines.

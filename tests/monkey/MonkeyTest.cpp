@@ -20,9 +20,9 @@ namespace
 
 constexpr int usualSeeds = 12;
 constexpr int usualSteps = 3000;
-// A sequence takes a few seconds. One that takes that long hangs, on the slowest machine as well.
+// A sequence takes a few seconds. One that takes this long hangs, even on a slow machine.
 constexpr int processTimeoutMs = 300000;
-// Making a failing sequence shorter may take that long, the run being made included.
+// After this time no shorter sequence is tried.
 constexpr int shrinkingMs = 150000;
 constexpr int longestReport = 4000;
 
@@ -36,13 +36,13 @@ enum class End { Survived, Failed, Hung };
 
 struct Outcome {
     End end;
-    /// The number of steps performed, the one that failed included.
+    /// The number of performed steps, with the one that failed.
     int steps;
     QString report;
 };
 
-/// Walking up the stack at every allocation takes the sanitizers more time than all else together.
-/// Their quick way does here, because the program tells them what is not its own.
+/// To unwind the stack at every allocation would take most of the time. The fast unwinder is enough
+/// here: the program itself tells the sanitizer which leaks are not its own.
 QProcessEnvironment environment()
 {
     const auto variable = QStringLiteral("ASAN_OPTIONS");
@@ -52,7 +52,7 @@ QProcessEnvironment environment()
     return environment;
 }
 
-/// Performs a sequence in a process of its own.
+/// Performs a sequence in a separate process.
 Outcome run(const Sequence& sequence)
 {
     const QTemporaryDir folder;
@@ -83,7 +83,7 @@ Sequence without(const Sequence& sequence, int begin, int length)
     return sequence.mid(0, begin) + sequence.mid(begin + length);
 }
 
-/// Drops steps as long as the rest still fails, and there is time.
+/// Drops steps while the rest still fails and time is left.
 Sequence shrunk(Sequence failing)
 {
     const QDeadlineTimer deadline(shrinkingMs);
@@ -105,7 +105,7 @@ void expectSurvives(const Sequence& sequence)
     const Outcome outcome = run(sequence);
     if (outcome.end == End::Survived)
         return;
-    // Printed before anything else is tried, which may be cut short.
+    // Printed first, because the test may reach its time limit while it makes the sequence shorter.
     const Sequence failing = sequence.mid(0, outcome.steps);
     std::cout << outcome.report.toStdString() << "\nAfter these steps:\n\n"
               << dxftest::codeOf(failing).toStdString() << std::endl;
@@ -118,7 +118,7 @@ class MonkeyTest : public ::testing::TestWithParam<int>
 {
 };
 
-TEST_P(MonkeyTest, LeavesEverythingInOrder)
+TEST_P(MonkeyTest, RandomStepsKeepTheInvariants)
 {
     const int steps = fromEnvironment("DXFVIEWER_MONKEY_STEPS", usualSteps);
 
@@ -137,7 +137,7 @@ TEST(MonkeySequenceTest, IsTheSameForTheSameSeed)
     EXPECT_NE(first.toStdString(), dxftest::codeOf(dxftest::randomSequence(8, 50)).toStdString());
 }
 
-TEST(MonkeySequenceTest, SurvivesTheHandOver)
+TEST(MonkeySequenceTest, IsTheSameAfterSerializing)
 {
     const Sequence sequence = dxftest::randomSequence(7, 50);
 

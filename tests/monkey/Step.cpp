@@ -17,7 +17,7 @@ namespace
 struct OpInfo {
     Op op;
     const char* name;
-    /// How often it is drawn, against the others.
+    /// How often it is chosen, compared with the others.
     int weight;
 };
 
@@ -113,7 +113,7 @@ Sequence randomSequence(unsigned seed, int length)
     const auto below = [&random](int limit) {
         return static_cast<int>(random() % static_cast<unsigned>(limit));
     };
-    // Something to start with, so that the first steps are not all in vain.
+    // The sequence starts with a window, so that the first steps have something to act on.
     Sequence sequence;
     if (seed % 2 == 0)
         sequence.append({Op::OwnLoop, 0, 0, 0});

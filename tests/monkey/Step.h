@@ -11,7 +11,7 @@ namespace dxftest
 
 /// What a host or a user can do.
 enum class Op {
-    /// First of all, or not at all: the host never calls exec() and handles events by itself.
+    /// The first step, or never: the host then never calls exec(), and processes events itself.
     OwnLoop,
     NewWindow,
     DeleteWindow,
@@ -69,8 +69,8 @@ enum class Op {
 };
 
 /**
- * One thing done. Any step may follow any other: numbers are taken modulo what there is, and what
- * cannot be done is not.
+ * One action. Any step may follow any other: numbers are taken modulo the number of choices, and a
+ * step that is not possible is skipped.
  */
 struct Step {
     Op op;
@@ -86,7 +86,7 @@ Sequence randomSequence(unsigned seed, int length);
 /// A test that runs the sequence, ready to be compiled.
 QString codeOf(const Sequence& sequence);
 
-/// A sequence for the hand-over to another process.
+/// A sequence as text for another process.
 QByteArray serialized(const Sequence& sequence);
 Sequence deserialized(const QByteArray& text);
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// Performs one sequence of steps, in a process of its own because it may not survive.
+// Performs one sequence of steps, in a process of its own because it may crash.
 //
 //   dxfviewer_monkey STEPS PROGRESS
 //
-// The number of the step being performed stands in the file PROGRESS.
+// The file PROGRESS holds the number of the current step.
 
 #include "tests/monkey/Driver.h"
 #include "tests/support/LogCapture.h"
@@ -32,15 +32,15 @@
 namespace
 {
 
-/// What is said about what the steps do on purpose.
+/// Warnings about things that the steps do on purpose.
 constexpr std::array expectedWarnings{
     "DXFGraphicsItem:: cannot render blank document",
-    // The item went while the overlay said that it is there.
+    // The item was deleted while the overlay logged its creation.
     "QObject::connect: Cannot connect (nullptr)::requestDelete() to "
     "DXFEditor::onDeleteRequested()",
 };
 
-/// The platform never frees its screen, and that is no leak of ours.
+/// The platform never frees its screen. That leak is not ours.
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 {
 #ifdef MONKEY_HAS_LSAN

@@ -38,7 +38,7 @@ field "libdxfviewer$suffix-dev" Depends | grep -q "$library (= " ||
 field "dxfviewer$suffix" Depends | grep -q "$library (= " ||
     fail "the program does not depend on this very library"
 
-# Three packages in a list are told apart by their first lines.
+# In a list the three packages differ by their first lines.
 for package in "$build"/*.deb; do
     dpkg-deb --field "$package" Description | head -n 1
 done | sort | uniq -d | grep . && fail "two packages have the same short description"
@@ -50,16 +50,17 @@ done
 dpkg-deb --info "$build/${library}_"*.deb symbols |
     grep -q '^ _ZN9DXFViewerC1E.*@Base 0\.1\.0$' || fail "$library does not list its symbols"
 
-# Two major versions of the library can be installed: every file says whose it is.
+# Two major versions of the library can be installed side by side: the path of every file holds the
+# version.
 dpkg-deb --fsys-tarfile "$build/packages/${library}_"*.deb | tar -t | grep -v '/$' |
     grep -vE "/$library(/|\$)|\.so\.0|/dxfviewer$suffix/0/" &&
     fail "$library has files that another version would have as well"
 
-# What is left is explained in packaging/debian.
+# The remaining tags are explained in packaging/debian.
 lintian --allow-root --pedantic --display-info \
     --fail-on error --fail-on warning --fail-on info --fail-on pedantic "$build"/*.deb
 
-# The root holds nothing that the packages depend on: the running system lends that.
+# The root does not hold what the packages depend on. That comes from the running system.
 mkdir -p "$root/var/lib/dpkg/updates" "$root/var/lib/dpkg/info" "$root/var/lib/dpkg/triggers"
 : >"$root/var/lib/dpkg/status"
 as_root=

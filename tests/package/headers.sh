@@ -1,13 +1,13 @@
 #!/bin/sh
-# Compiles every installed header, in a host that has stricter settings than the library. That each
-# compiles by itself is seen in the build; what is missing among the installed ones is seen here.
+# Compiles every installed header, in a host that has stricter settings than the library. The build
+# already checks that each compiles by itself. This finds headers that are not installed.
 #
 # usage: headers.sh COMPILER INCLUDE_FOLDER QT_MODULE
 set -eu
 
 compiler=$1
 include=$2
-# What is wrong in the headers of others is not for us to repair.
+# Warnings in the headers of others do not count.
 others=$(pkg-config --cflags "$3" dxflib | sed 's/-I/-isystem /g')
 
 if grep -rL DXFVIEWER_EXPORT "$include/dxfviewer" | grep .; then

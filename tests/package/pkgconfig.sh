@@ -13,7 +13,8 @@ program=$6
 
 export PKG_CONFIG_PATH="$prefix/$libdir/pkgconfig"
 folder=$(pkg-config --variable=libdir "$package")
-# An installed tree may be moved: the file must say where it is, not where it was meant to be.
+# An installed tree may be moved: the file must give the place where it is, not where it was
+# configured to be.
 if [ "$(realpath "$folder")" != "$(realpath "$prefix/$libdir")" ]; then
     echo "$package.pc says that the library is in $folder" >&2
     exit 1

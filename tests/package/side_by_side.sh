@@ -1,6 +1,6 @@
 #!/bin/sh
-# Fails if the installed tree has files that the build with another Qt has as well. Those of Qt 5
-# have plain names, those of another Qt name it in their path.
+# Fails if the installed tree has files that the build with another Qt has as well. Files for Qt 5
+# have plain names. Files for another Qt have its name in their path.
 #
 # usage: side_by_side.sh PREFIX QT_MAJOR
 set -eu

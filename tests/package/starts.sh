@@ -1,6 +1,6 @@
 #!/bin/sh
-# Fails unless an installed program starts where it lies, and with its own library where its tree is
-# copied to.
+# Fails unless an installed program starts in its place, and in a copy of its tree with the library
+# of the copy.
 #
 # usage: starts.sh PROGRAM
 set -eu

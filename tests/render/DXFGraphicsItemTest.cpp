@@ -212,7 +212,7 @@ TEST_F(DXFGraphicsItemTest, SingleLeftwardSegmentLeavesNegativeExtents)
     expectRect(boundsOf({makePolyline({{0, 5}, {10, 0}})}), 0, 5, 10, -5);
 }
 
-TEST_F(DXFGraphicsItemTest, SecondSegmentNormalisesTheRectangle)
+TEST_F(DXFGraphicsItemTest, SecondSegmentMakesTheExtentsPositive)
 {
     expectRect(boundsOf({makePolyline({{10, 5}, {0, 0}}), makePolyline({{20, 0}, {20, 1}})}), 0, 0,
                20, 5);
@@ -226,7 +226,7 @@ TEST_F(DXFGraphicsItemTest, HorizontalAndVerticalSegmentsCount)
                8);
 }
 
-TEST_F(DXFGraphicsItemTest, OriginIsNotDraggedIn)
+TEST_F(DXFGraphicsItemTest, OriginIsNotPartOfTheRectangle)
 {
     expectRect(
         boundsOf({makePolyline({{100, 100}, {110, 105}}), makePolyline({{90, 120}, {95, 121}})}),
@@ -306,8 +306,8 @@ TEST_F(DXFGraphicsItemTest, RandomSegmentsUniteInOrder)
     }
 }
 
-/// Whether two numbers are the same to the last bit. Of NaN there is only one here: which of its
-/// bits survive a sum is the compiler's choice.
+/// Whether two numbers are the same to the last bit. All NaNs count as the same: which bits of a
+/// NaN a sum keeps depends on the compiler.
 bool isSame(double a, double b)
 {
     return (std::isnan(a) && std::isnan(b)) || (a == b && std::signbit(a) == std::signbit(b));
@@ -404,10 +404,10 @@ TEST_F(DXFGraphicsItemTest, RandomSegmentsOfAllMagnitudesUniteInOrder)
     }
 }
 
-TEST_F(DXFGraphicsItemTest, RoundingStillMovesTheFarEdgeAtASegmentInside)
+TEST_F(DXFGraphicsItemTest, RoundingMovesTheFarEdgeAtASegmentInside)
 {
-    // Above this number doubles are 2 apart. The far edge is rounded down onto it, and the extent
-    // to that edge is no more than the next segment finds.
+    // Above this number doubles are 2 apart. The width is rounded down to it, so the far edge,
+    // which is computed from the width, moves when the next segment is added.
     const double limit = std::ldexp(1.0, 53);
     const auto wide = makePolyline({{1, 0}, {limit + 2, 100}});
     const auto high = makePolyline({{0, 1}, {100, limit + 2}});
@@ -524,7 +524,7 @@ TEST_F(DXFGraphicsItemTest, SelectedIsRedHoveredDarkYellowAndSelectedWins)
                                    cosmeticPen(Qt::red, 0), cosmeticPen(Qt::darkRed, 0)}));
 }
 
-TEST_F(DXFGraphicsItemTest, EachOfManyColoursComesOutInItsPlace)
+TEST_F(DXFGraphicsItemTest, EachOfManyColoursIsPaintedInItsPlace)
 {
     std::mt19937 random(11);
     const auto upTo = [&random](int most) {
@@ -610,7 +610,7 @@ TEST_F(DXFGraphicsItemTest, LaterOverridePenReplacesTheFormer)
     EXPECT_EQ(pensOf(recordPainting(item)), QVector<QPen>{QPen(Qt::green, 2)});
 }
 
-TEST_F(DXFGraphicsItemTest, ResettingReturnsToTheEntitysPens)
+TEST_F(DXFGraphicsItemTest, ResettingRestoresThePensOfTheEntities)
 {
     item.setDocument(makeDocument({makeColored({{0, 0}, {1, 1}}, 1)}));
     item.setOverridePen(QPen(Qt::blue, 3));
@@ -647,7 +647,7 @@ TEST_F(DXFGraphicsItemTest, PainterIsRestored)
     }
 }
 
-TEST_F(DXFGraphicsItemTest, PaintTakesNeitherPenNorBrushOfThePainter)
+TEST_F(DXFGraphicsItemTest, PaintIgnoresPenAndBrushOfThePainter)
 {
     item.setDocument(makeDocument({makeColored({{0, 0}, {1, 1}}, 1)}));
     item.setPen(QPen(Qt::green, 9));
@@ -710,7 +710,7 @@ TEST_F(InASceneTest, RefreshDoesNotRepaint)
 
 TEST_F(InASceneTest, SceneFindsTheItemWhereTheNewDocumentLies)
 {
-    // An index of one leaf would find the item anywhere.
+    // With a single leaf the scene's index would find the item anywhere.
     scene.setSceneRect(-8000, -8000, 16000, 16000);
     scene.setBspTreeDepth(6);
     item.setDocument(makeDocument({makePolyline({{0, 0}, {10, 10}})}));
@@ -722,8 +722,8 @@ TEST_F(InASceneTest, SceneFindsTheItemWhereTheNewDocumentLies)
     EXPECT_THAT(scene.items(QPointF(5, 5)), Not(Contains(&item)));
 }
 
-/// A picture of the item, and of the same document drawn segment by segment as plainly as it can
-/// be.
+/// A picture of the item, and a plain one of the same document, with a pen and a call for each
+/// segment.
 class PictureTest : public DXFGraphicsItemTest
 {
 protected:
@@ -769,7 +769,7 @@ protected:
     }
 };
 
-TEST_F(PictureTest, RandomDocumentsLookAsDrawnPlainly)
+TEST_F(PictureTest, RandomDocumentsLookAsInThePlainPicture)
 {
     std::mt19937 random(5);
     const auto upTo = [&random](int most) {
@@ -810,7 +810,7 @@ TEST_F(PictureTest, RandomDocumentsLookAsDrawnPlainly)
     }
 }
 
-TEST_F(PictureTest, LinesStayOnePixelWideWhateverTheZoom)
+TEST_F(PictureTest, LinesAreOnePixelWideAtAnyZoom)
 {
     const auto polyline = makeColored({{-10, 0}, {10, 0}}, 23, 25);
     item.setDocument(makeDocument({polyline}));

@@ -161,7 +161,7 @@ TEST_F(DXFPaintHelperTest, EntityHasItsOwnColour)
     EXPECT_EQ(colorOf(entityOn(walls, -256, -1, 0)), QColor(Qt::black));
 }
 
-TEST_F(DXFPaintHelperTest, ByBlockColourOfAnEntityDoesNotTakeTheLayers)
+TEST_F(DXFPaintHelperTest, ByBlockColourOfAnEntityIsNotThatOfTheLayer)
 {
     document.addLayer(makeLayer(walls, 3));
     expectWarning(colorWarning);
@@ -183,7 +183,7 @@ TEST_F(DXFPaintHelperTest, ByLayerColourTakesTheLayersTrueColour)
     EXPECT_EQ(colorOf(entityOn(walls, 256, -1, 0)), QColor(1, 2, 3));
 }
 
-TEST_F(DXFPaintHelperTest, ByLayerGoesOneLevelOnly)
+TEST_F(DXFPaintHelperTest, ByLayerIsNotFollowedTwice)
 {
     document.addLayer(makeLayer(walls, 256, -1, -1));
 
@@ -236,7 +236,7 @@ TEST_F(DXFPaintHelperTest, EntityHasItsOwnWidth)
     EXPECT_EQ(widthOf(entityOn(walls, 1, -1, 25)), 1);
 }
 
-TEST_F(DXFPaintHelperTest, OnlyByLayerWidthTakesTheLayers)
+TEST_F(DXFPaintHelperTest, OnlyByLayerWidthIsThatOfTheLayer)
 {
     document.addLayer(makeLayer(walls, 3, -1, 0));
 
@@ -252,7 +252,7 @@ TEST_F(DXFPaintHelperTest, ByBlockWidthOfAnEntityIsOneAfterAWarning)
     EXPECT_EQ(widthOf(entityOn(walls, 1, -1, -2)), 1);
 }
 
-TEST_F(DXFPaintHelperTest, ByBlockOfTheLayerWarnsForTheEntity)
+TEST_F(DXFPaintHelperTest, ByBlockOfTheLayerWarnsAtTheEntity)
 {
     document.addLayer(makeLayer(walls, 0, -1, -2));
     expectWarning(widthWarning);

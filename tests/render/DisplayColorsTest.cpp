@@ -23,7 +23,7 @@ const QColor black(Qt::black);
 const QColor red(255, 0, 0);
 const QColor dark(30, 34, 40);
 
-/// A colour picker's greys, colours in between, and the grounds that programs use.
+/// Greys, colours between them, and the grounds that programs use.
 const QVector<QColor>& grounds()
 {
     static const QVector<QColor> all{black,
@@ -62,7 +62,7 @@ protected:
     QSharedPointer<DXFDocument> m_document;
 };
 
-TEST_F(DisplayColorsTest, KnowsTheFormatsTable)
+TEST_F(DisplayColorsTest, KnowsTheColourTableOfTheFormat)
 {
     const QMap<int, QRgb> samples{
         {1, 0xFFFF0000},   {2, 0xFFFFFF00},   {3, 0xFF00FF00},   {4, 0xFF00FFFF},
@@ -88,7 +88,7 @@ TEST_F(DisplayColorsTest, MeasuresContrastAsLuminances)
     EXPECT_NEAR(DisplayColors::contrast(QColor(118, 118, 118), white), 4.542, 1e-3);
 }
 
-TEST_F(DisplayColorsTest, EveryNumberCanBeSeenOnEveryGround)
+TEST_F(DisplayColorsTest, EveryNumberIsLegibleOnEveryGround)
 {
     for (const QColor& ground : grounds()) {
         const DisplayColors colors(ground);
@@ -117,7 +117,7 @@ TEST_F(DisplayColorsTest, KeepsTheHueOfWhatItMoves)
     EXPECT_GT(movedCount, 500);
 }
 
-TEST_F(DisplayColorsTest, LeavesWhatCanBeSeenAsItIs)
+TEST_F(DisplayColorsTest, LeavesLegibleColorsAsTheyAre)
 {
     EXPECT_EQ(DisplayColors(black).indexColor(1), red);
     EXPECT_EQ(DisplayColors(white).indexColor(1), red);
@@ -127,7 +127,7 @@ TEST_F(DisplayColorsTest, LeavesWhatCanBeSeenAsItIs)
     EXPECT_NE(DisplayColors(white).indexColor(2), QColor(255, 255, 0));
 }
 
-TEST_F(DisplayColorsTest, BlackAndWhiteAreAsTheGroundAsks)
+TEST_F(DisplayColorsTest, BlackOrWhiteDependsOnTheGround)
 {
     for (const int number : {7, 255, 0, 256, -3, 1000, std::numeric_limits<int>::min()}) {
         EXPECT_EQ(DisplayColors(white).indexColor(number), black) << number;
@@ -135,7 +135,7 @@ TEST_F(DisplayColorsTest, BlackAndWhiteAreAsTheGroundAsks)
     }
 }
 
-TEST_F(DisplayColorsTest, ATrueColorDecidesAlone)
+TEST_F(DisplayColorsTest, ATrueColorWinsOverTheNumber)
 {
     addLayer("walls", 3);
     const QColor orange(255, 128, 0);
@@ -145,7 +145,7 @@ TEST_F(DisplayColorsTest, ATrueColorDecidesAlone)
     EXPECT_EQ(colorOn(black, QStringLiteral("walls"), 0, 0xFF8000), orange);
 }
 
-TEST_F(DisplayColorsTest, ATrueColorThatCannotBeSeenIsMoved)
+TEST_F(DisplayColorsTest, ATrueColorThatIsNotLegibleIsMoved)
 {
     const QColor shown = colorOn(black, QString(), 1, 0x000040);
 
@@ -153,7 +153,7 @@ TEST_F(DisplayColorsTest, ATrueColorThatCannotBeSeenIsMoved)
     EXPECT_NEAR(shown.hslHue(), 240, 2);
 }
 
-TEST_F(DisplayColorsTest, ByLayerIsTheLayersColor)
+TEST_F(DisplayColorsTest, ByLayerIsTheColorOfTheLayer)
 {
     addLayer("green", 3);
     addLayer("off", -1);
@@ -175,7 +175,7 @@ TEST_F(DisplayColorsTest, ByBlockIsBlackOrWhite)
     EXPECT_EQ(colorOn(dark, QStringLiteral("any"), 0), white);
 }
 
-TEST_F(DisplayColorsTest, ColorsWhatHasNoAttributes)
+TEST_F(DisplayColorsTest, ColorsEntitiesWithoutAttributes)
 {
     const auto bare = makePolyline({{0, 0}, {1, 1}});
     const auto document = makeDocument({nullptr, bare});
@@ -202,7 +202,7 @@ TEST_F(DisplayColorsTest, CanShowEverythingInOneColor)
         EXPECT_EQ(entity->color(), black);
 }
 
-TEST_F(DisplayColorsTest, LeavesTheFileAlone)
+TEST_F(DisplayColorsTest, ChangesNothingThatIsSaved)
 {
     const auto polyline = makePolyline({{0, 0}, {1, 1}});
     const auto attributes = makeAttributes(QStringLiteral("0"), 5);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// Hosts compile against these signatures and link to what they make. A change that a host would
-// notice is not to slip in: most of it does not even compile here.
+// Hosts compile against these signatures and link to these symbols. A change that a host would
+// notice must not happen by accident. Most such changes do not compile here.
 
 #include "dxfviewer/render/DXFGraphicsItem.h"
 #include "dxfviewer/render/DXFPaintHelper.h"
@@ -20,7 +20,7 @@ namespace
 static_assert(std::is_same_v<decltype(&getColor), QColor (*)(int, int)>);
 static_assert(std::is_same_v<decltype(&getLineWidth), int (*)(int)>);
 
-/// Picks one of several members of a name, which must have exactly this type.
+/// Picks the overload with exactly this type.
 template <typename Result, typename Of>
 constexpr bool exists(Result (DXFPaintHelper::*)(QSharedPointer<Of>))
 {
@@ -63,7 +63,7 @@ static_assert(std::is_same_v<decltype(&DXFGraphicsItem::paint),
                              void (DXFGraphicsItem::*)(QPainter*, const QStyleOptionGraphicsItem*,
                                                        QWidget*)>);
 
-// Whatever else Qt asks an item for is answered by Qt's own classes.
+// The other virtual functions are those of Qt's own classes.
 static_assert(
     std::is_same_v<decltype(&DXFGraphicsItem::shape), QPainterPath (QGraphicsItem::*)() const>);
 static_assert(std::is_same_v<decltype(&DXFGraphicsItem::contains),
@@ -72,7 +72,7 @@ static_assert(std::is_same_v<decltype(&DXFGraphicsItem::type), int (QGraphicsIte
 static_assert(std::is_same_v<decltype(&DXFGraphicsItem::opaqueArea),
                              QPainterPath (QAbstractGraphicsShapeItem::*)() const>);
 
-/// What only a subclass may name.
+/// Members that only a subclass may use.
 struct ItemMembers : DXFGraphicsItem {
     using DXFGraphicsItem::mousePressEvent;
     using DXFGraphicsItem::sceneEvent;
@@ -91,7 +91,7 @@ TEST(DXFGraphicsItemInterfaceTest, IsAShapeItemThatMayStandAlone)
     EXPECT_EQ(DXFGraphicsItem().parentItem(), nullptr);
 }
 
-TEST(DXFGraphicsItemInterfaceTest, MayBeASuperclassButNotCopied)
+TEST(DXFGraphicsItemInterfaceTest, MayBeDerivedFromButNotCopied)
 {
     EXPECT_TRUE(std::has_virtual_destructor_v<DXFGraphicsItem>);
     EXPECT_FALSE(std::is_final_v<DXFGraphicsItem>);

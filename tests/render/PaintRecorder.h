@@ -17,15 +17,15 @@ struct DrawnLines {
     QPen pen;
 };
 
-/// A device that draws nothing but writes down every call that draws lines. It may pass for one of
-/// another type.
+/// A device that draws nothing, but records every call that draws lines. It can report another type
+/// of paint engine.
 class PaintRecorder : public QPaintDevice
 {
 public:
     explicit PaintRecorder(QPaintEngine::Type type = QPaintEngine::User);
 
     QVector<DrawnLines> calls() const { return m_engine.calls; }
-    /// How often something else than lines was drawn.
+    /// The number of calls that drew something else than lines.
     int otherCalls() const { return m_engine.otherCalls; }
 
     QPaintEngine* paintEngine() const override { return &m_engine; }

@@ -29,7 +29,7 @@ constexpr QLineF outside(200, 10, 300, 90);
 constexpr QLineF across(-500, 50, 500, 50);
 constexpr QLineF pastTheCorner(-50, 40, 40, -50);
 
-/// Devices of 100 by 100, of which some say that they make pixels.
+/// Devices of 100 by 100. Some report a raster engine, which makes pixels.
 class VisibleAreaTest : public LoggedTest
 {
 protected:
@@ -79,7 +79,7 @@ TEST_F(VisibleAreaTest, LinesOutsideAreDrawnForAPainterThatRecords)
     EXPECT_THAT(drawnOn(device, [](QPainter&) {}), ElementsAre(outside, inside));
 }
 
-TEST_F(VisibleAreaTest, PictureHoldsEveryLine)
+TEST_F(VisibleAreaTest, PictureRecordsEveryLine)
 {
     show({outside, inside});
     QPicture picture;
@@ -95,7 +95,7 @@ TEST_F(VisibleAreaTest, PictureHoldsEveryLine)
     EXPECT_EQ(device.calls().size() + device.otherCalls(), 2);
 }
 
-TEST_F(VisibleAreaTest, SegmentsOfOnePolylineAreToldApart)
+TEST_F(VisibleAreaTest, EachSegmentOfAPolylineIsTestedAlone)
 {
     document = makeDocument({makePolyline({{200, 10}, {300, 10}, {50, 50}, {60, 50}})});
     item.setDocument(document);
@@ -123,7 +123,7 @@ TEST_F(VisibleAreaTest, ClipOfThePainterCounts)
                 ElementsAre(QLineF(70, 70, 80, 80)));
 }
 
-TEST_F(VisibleAreaTest, ThickPenReachesIn)
+TEST_F(VisibleAreaTest, LineOutsideWithAThickPenIsDrawn)
 {
     show({{130, 10, 130, 90}, {400, 10, 400, 90}});
     EXPECT_THAT(drawnOnPixels(), SizeIs(0));
@@ -136,7 +136,7 @@ TEST_F(VisibleAreaTest, ThickPenReachesIn)
     EXPECT_THAT(drawnOnPixels(), SizeIs(1));
 }
 
-TEST_F(VisibleAreaTest, WhatIsNoNumberIsDrawn)
+TEST_F(VisibleAreaTest, LineWithUndefinedOrInfiniteCoordinatesIsDrawn)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double infinity = std::numeric_limits<double>::infinity();
@@ -145,7 +145,7 @@ TEST_F(VisibleAreaTest, WhatIsNoNumberIsDrawn)
     EXPECT_THAT(drawnOnPixels(), SizeIs(4));
 }
 
-TEST_F(VisibleAreaTest, WhatIsTooFarAwayForThePaintersArithmeticIsDrawn)
+TEST_F(VisibleAreaTest, LineTooFarAwayForThePaintersArithmeticIsDrawn)
 {
     show({{1e8, 0, 2e8, 0}, {1e10, 0, 2e10, 0}});
     EXPECT_THAT(drawnOnPixels(), ElementsAre(QLineF(1e10, 0, 2e10, 0)));
@@ -165,7 +165,7 @@ TEST_F(VisibleAreaTest, PerspectiveHidesNothing)
 
 // The same pixels
 
-/// Makes up painters, pens and lines that are somewhere around the painters' devices.
+/// Makes random painters and pens, and random lines around the painters' devices.
 class RandomScene
 {
 public:
@@ -332,7 +332,7 @@ class SamePixelsTest : public LoggedTest, public ::testing::WithParamInterface<u
 {
 };
 
-TEST_P(SamePixelsTest, HiddenLinesAreThoseThatLeaveNone)
+TEST_P(SamePixelsTest, HiddenLinesChangeNoPixel)
 {
     for (unsigned round = 0; round < 40; ++round) {
         SCOPED_TRACE(round);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 // What a host may do outside of the GUI thread. Under ThreadSanitizer (the preset tsan) these tests
-// tell whether it may; without it they only tell that the drawings are whole.
+// find data races. Without it they only check that the drawings are complete.
 
 #include "dxfviewer/flatten/FlatteningReader.h"
 #include "dxfviewer/io/DXFReader.h"
@@ -42,7 +42,7 @@ QByteArray drawing(int which)
     return drawingText(chains);
 }
 
-/// A reader of a host's own, with a state of its own.
+/// A reader of a host, with data of its own.
 class HostsReader : public DXFReader
 {
 public:
@@ -85,12 +85,12 @@ bool isReady(const std::future<Result>& future)
 class ReadingThreadTest : public ::testing::Test
 {
 protected:
-    // Before there are threads. A handler of messages is called in any of them.
+    // Set before any thread starts: a message handler may be called in each of them.
     ReadingThreadTest() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
     ~ReadingThreadTest() override { QLoggingCategory::setFilterRules(QString()); }
 };
 
-TEST_F(ReadingThreadTest, GivesOutNoIds)
+TEST_F(ReadingThreadTest, ReadingAssignsNoIds)
 {
     const QByteArray text = drawing(0);
     const Segment before;
@@ -133,7 +133,7 @@ TEST_F(ReadingThreadTest, SeveralThreadsReadWhileTheWindowIsInUse)
     }
 }
 
-TEST_F(ReadingThreadTest, FilesAreReadThereToo)
+TEST_F(ReadingThreadTest, FilesMayBeReadInAThread)
 {
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("drawing.dxf"));
@@ -175,7 +175,7 @@ QVector<QLineF> flattened()
     return lines;
 }
 
-TEST_F(ReadingThreadTest, FlatteningReadersWorkThereToo)
+TEST_F(ReadingThreadTest, FlatteningReadersMayRunInAThread)
 {
     auto first = inThread(flattened);
     auto second = inThread(flattened);

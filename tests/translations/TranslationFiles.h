@@ -10,7 +10,7 @@
 namespace dxftest
 {
 
-/// A text of the source code, as it stands in a .ts file.
+/// A text of the source code, as in a .ts file.
 struct SourceText {
     QString context;
     QString text;

@@ -22,7 +22,7 @@ using ::testing::Not;
 using ::testing::UnorderedElementsAreArray;
 using ::testing::Values;
 
-/// A name that the files of a set begin with, and the folder with their texts.
+/// The name that the files of a set begin with, and the folder with the sources of its texts.
 struct FileSet {
     const char* testName;
     const char* name;
@@ -34,7 +34,7 @@ void PrintTo(const FileSet& set, std::ostream* stream)
     *stream << set.name;
 }
 
-/// The places that values are put into, %1 and so on, in their own order.
+/// The placeholders for values, %1 and so on, sorted.
 QStringList placesIn(const QString& text)
 {
     static const QRegularExpression place(QStringLiteral("%[0-9]+"));
@@ -79,7 +79,7 @@ TEST_P(TranslationsTest, TranslateEveryTextOfTheSources)
     }
 }
 
-TEST_P(TranslationsTest, HoldNoTextThatTheSourcesDoNotHave)
+TEST_P(TranslationsTest, HaveNoTextThatIsNotInTheSources)
 {
     const QString tsFile =
         QStringLiteral(DXFVIEWER_SOURCE_DIR "/translations/") + baseName() + QStringLiteral(".ts");

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
-// What crosses the border between library and host: classes that the host derives, casts between
-// what either side made, and exceptions that fly through the library.
+// What crosses the border between library and host: classes that the host derives, casts of objects
+// that either side made, and exceptions that pass through the library.
 
 #include <dxfviewer/edit/ISelectionTool.h>
 #include <dxfviewer/edit/RubberTool.h>
@@ -95,7 +95,7 @@ bool catchesWhatFliesThroughTheLibrary()
     return false;
 }
 
-/// A reader tells its caller that it gave up, whatever it threw.
+/// load() returns false whatever the reader throws.
 bool readsWithItsOwnReader()
 {
     DXFDocument document;
