@@ -43,8 +43,8 @@ void memoryOfDrawing(benchmark::State& state, const Plan& plan)
     }
 }
 
-/// The bytes of the segment lists of all polylines that lose a segment. A deletion makes these
-/// lists anew.
+/// The bytes of the segment lists of all polylines that lose a segment. A deletion makes new lists
+/// for them.
 double changedBytes(const DXFDocument& document, const QVector<int>& deleted)
 {
     constexpr double bytesPerSegment = sizeof(Segment);
@@ -69,7 +69,7 @@ void memoryOfCommand(benchmark::State& state, const Plan& plan)
     const QVector<int> ids = segmentIdsOf(*document);
     const QVector<int> deleted = ids.mid(ids.size() / 2, deletedIds);
     QUndoStack stack;
-    // The first command on a drawing makes the vertices of every polyline anew.
+    // The first command on a drawing makes new vertices for every polyline.
     stack.push(new DeleteItems(document, {ids.first()}));
     for (auto _ : state) {
         const double changed = changedBytes(*document, deleted);

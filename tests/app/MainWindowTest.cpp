@@ -289,7 +289,7 @@ TEST_F(MainWindowTest, ShowsMoreThanPolylinesAndSaysWhatIsMissing)
     EXPECT_TRUE(statusShows("Not shown: 2 hatches"));
 }
 
-TEST_F(MainWindowTest, ShowsOnlyPolylinesWhenTold)
+TEST_F(MainWindowTest, ShowsOnlyPolylinesWhenChosen)
 {
     open(fileWith(mixedDrawing, QStringLiteral("mixed.dxf")));
     const auto before = shownDocument(viewer());

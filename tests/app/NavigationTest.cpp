@@ -121,7 +121,7 @@ TEST_F(NavigationTest, YPointsUpwards)
     EXPECT_GT(scale(), 0.0);
 }
 
-TEST_F(NavigationTest, ShowsTheDrawingAsStoredWhenTold)
+TEST_F(NavigationTest, ShowsTheDrawingAsStoredWhenChosen)
 {
     show({{0, 0}, {100, 0}, {100, 50}});
     m_navigation.zoomIn();

@@ -120,7 +120,7 @@ TEST_F(ProgramTest, RefusesTwoDrawings)
     EXPECT_THAT(outcome.errors, HasSubstr("Only one drawing"));
 }
 
-TEST_F(ProgramTest, StartsInEditModeWhenTold)
+TEST_F(ProgramTest, StartsInEditModeWithTheOption)
 {
     QProcess process;
     process.start(QStringLiteral(DXFVIEWER_APP),

@@ -96,7 +96,7 @@ public:
 
     void press(const QPointF& where) { mouse.press(where); }
 
-    /// Moves the eraser, and notes where it is: on a whole pixel.
+    /// Moves the eraser, and records where it is then: on a whole pixel.
     void move(const QPointF& where)
     {
         mouse.move(where);

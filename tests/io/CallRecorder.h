@@ -152,7 +152,7 @@ private:
     std::vector<std::string> m_calls;
 };
 
-/// What dxflib delivers for a text, or what it delivers to one callback.
+/// The calls that dxflib makes for a text, or those of one callback.
 inline std::vector<std::string> parsed(const std::string& text, const char* callback = nullptr)
 {
     CallRecorder recorder;

@@ -59,7 +59,7 @@ QString unexpected(const QStringList& warnings)
     return QString();
 }
 
-/// Lets a driver hear every message, after the handler that was there before.
+/// Passes every message to a driver, after the handler that was installed before.
 class Hearing
 {
 public:

@@ -406,8 +406,9 @@ TEST_F(DXFGraphicsItemTest, RandomSegmentsOfAllMagnitudesUniteInOrder)
 
 TEST_F(DXFGraphicsItemTest, RoundingMovesTheFarEdgeAtASegmentInside)
 {
-    // Above this number doubles are 2 apart. The width is rounded down to it, so the far edge,
-    // which is computed from the width, moves when the next segment is added.
+    // Above this number doubles are 2 apart. The far edge is computed from the width, and is
+    // rounded down to this number. The next segment computes the width from that edge, so the width
+    // becomes smaller.
     const double limit = std::ldexp(1.0, 53);
     const auto wide = makePolyline({{1, 0}, {limit + 2, 100}});
     const auto high = makePolyline({{0, 1}, {100, limit + 2}});

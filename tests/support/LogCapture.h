@@ -9,7 +9,8 @@ namespace dxftest
 {
 
 /**
- * Records Qt's log messages while it lives, the debug channel apart from warnings and worse.
+ * Records Qt's log messages while it lives: debug messages in one list, warnings and worse in
+ * another.
  *
  * The library logs without a category. So a message with a category counts as a warning that begins
  * with the category's name, unless the category is Qt's own.
