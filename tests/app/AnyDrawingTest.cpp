@@ -6,6 +6,7 @@
 
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
@@ -139,10 +140,7 @@ protected:
 
     QString written(const QByteArray& content, const QString& name) const
     {
-        QFile file(m_folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        return file.fileName();
+        return dxftest::fileWith(content, m_folder.filePath(name));
     }
 
     const QTemporaryDir m_folder;
@@ -175,9 +173,8 @@ TEST_F(AnyDrawingTest, IsOpenedCancelledDroppedAndReloaded)
 
 TEST_F(AnyDrawingTest, IsShownOrRefusedWhereverItIsCutOff)
 {
-    QFile sample(QStringLiteral(DXFVIEWER_SAMPLES "/floor-plan.dxf"));
-    ASSERT_TRUE(sample.open(QIODevice::ReadOnly));
-    const QByteArray whole = sample.readAll();
+    const QByteArray whole =
+        dxftest::contentOf(QStringLiteral(DXFVIEWER_SAMPLES "/floor-plan.dxf"));
     for (int part = 0; part <= 10; ++part) {
         const QString name =
             written(whole.left(whole.size() * part / 10), QStringLiteral("part%1.dxf").arg(part));

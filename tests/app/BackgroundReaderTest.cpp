@@ -3,11 +3,11 @@
 #include "BackgroundReader.h"
 
 #include "dxfviewer/model/DXFDocument.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 #include "tests/support/WindowParts.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -43,10 +43,7 @@ protected:
 
     QString fileWith(const QByteArray& content, const QString& name) const
     {
-        QFile file(m_folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(content), content.size());
-        return file.fileName();
+        return dxftest::fileWith(content, m_folder.filePath(name));
     }
     QString smallFile() const { return fileWith(drawingOf(2), QStringLiteral("small.dxf")); }
     QString largeFile() const

@@ -2,6 +2,7 @@
 
 #include "DrawingFile.h"
 
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <QDir>
@@ -11,6 +12,7 @@
 
 #include <sys/stat.h>
 
+using dxftest::contentOf;
 using testing::HasSubstr;
 
 namespace
@@ -25,17 +27,7 @@ protected:
 
     QString fileWith(const QByteArray& content, const QString& name = QStringLiteral("a.dxf"))
     {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << name.toStdString();
-        file.write(content);
-        return path(name);
-    }
-
-    static QByteArray contentOf(const QString& fileName)
-    {
-        QFile file(fileName);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << fileName.toStdString();
-        return file.readAll();
+        return dxftest::fileWith(content, path(name));
     }
 
     /// Why the file is refused; empty if it is not.

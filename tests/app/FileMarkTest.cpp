@@ -2,6 +2,8 @@
 
 #include "FileMark.h"
 
+#include "tests/support/Files.h"
+
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -15,12 +17,7 @@ class FileMarkTest : public ::testing::Test
 protected:
     FileMarkTest() { write("old"); }
 
-    void write(const QByteArray& content)
-    {
-        QFile file(m_name);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
+    void write(const QByteArray& content) { dxftest::fileWith(content, m_name); }
 
     const QTemporaryDir m_folder;
     const QString m_name = m_folder.filePath(QStringLiteral("a.dxf"));

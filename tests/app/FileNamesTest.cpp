@@ -2,6 +2,7 @@
 
 #include "FileNames.h"
 
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <QFile>
@@ -16,9 +17,7 @@ class FileNamesTest : public dxftest::LoggedTest
 protected:
     QString touched(const QString& name)
     {
-        QFile file(m_folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        return file.fileName();
+        return dxftest::fileWith(QByteArray(), m_folder.filePath(name));
     }
 
 private:

@@ -13,6 +13,7 @@
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/app/DialogRobot.h"
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
@@ -45,6 +46,7 @@
 
 #include <sys/resource.h>
 
+using dxftest::contentOf;
 using dxftest::DialogRobot;
 using dxftest::SceneMouse;
 using testing::HasSubstr;
@@ -111,20 +113,10 @@ protected:
 
     QString fileWith(const QByteArray& content, const QString& name)
     {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        return file.fileName();
+        return dxftest::fileWith(content, path(name));
     }
     QString crossFile() { return fileWith(crossDrawing, QStringLiteral("cross.dxf")); }
     QString path(const QString& name) const { return m_folder.filePath(name); }
-
-    static QByteArray contentOf(const QString& fileName)
-    {
-        QFile file(fileName);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
 
     DrawingFiles& files() const { return *m_window->findChild<DrawingFiles*>(); }
 
@@ -424,10 +416,7 @@ TEST_F(MainWindowTest, NonsenseInTheSettingsDoesNoHarm)
           QByteArray(4096, '\xFF'), QByteArray("\0\0[[[=;\n%%%", 10)}) {
         m_window.reset();
         ASSERT_TRUE(QDir().mkpath(QFileInfo(fileName).path()));
-        QFile file(fileName);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(nonsense);
-        file.close();
+        dxftest::fileWith(nonsense, fileName);
 
         m_window = std::make_unique<MainWindow>();
         m_window->show();

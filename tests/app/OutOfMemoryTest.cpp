@@ -6,13 +6,13 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/app/DialogRobot.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
 #include <gmock/gmock.h>
 
 #include <QAction>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <atomic>
@@ -44,10 +44,7 @@ using ProgramOutOfMemoryTest = LoggedTest;
 TEST_F(ProgramOutOfMemoryTest, AFailedReadGivesABoxAndLeavesTheShownDrawing)
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("long.dxf")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(longPolyline());
-    file.close();
+    const QString fileName = fileWith(longPolyline(), folder.filePath(QStringLiteral("long.dxf")));
     DialogRobot robot;
     MainWindow window;
     window.show();
@@ -57,7 +54,7 @@ TEST_F(ProgramOutOfMemoryTest, AFailedReadGivesABoxAndLeavesTheShownDrawing)
         if (action->text() == QStringLiteral("Only &Polylines"))
             action->setChecked(true);
     }
-    window.openDrawing(file.fileName());
+    window.openDrawing(fileName);
     const auto& viewer = *window.findChild<DXFViewer*>();
     ASSERT_TRUE(eventually([&] { return shownDocument(viewer) != nullptr; }));
     const auto document = shownDocument(viewer);
@@ -65,7 +62,7 @@ TEST_F(ProgramOutOfMemoryTest, AFailedReadGivesABoxAndLeavesTheShownDrawing)
     robot.expectError(error);
 
     isMemoryShort = true;
-    window.openDrawing(file.fileName());
+    window.openDrawing(fileName);
     EXPECT_TRUE(eventually([&error] { return !error.empty(); }));
     isMemoryShort = false;
 

@@ -3,6 +3,7 @@
 #include "Picture.h"
 
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <QFile>
@@ -52,9 +53,7 @@ protected:
 
     static std::string contentOf(const QString& fileName)
     {
-        QFile file(fileName);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll().toStdString();
+        return dxftest::contentOf(fileName).toStdString();
     }
 
     QString fileName(const QString& name) const { return m_folder.filePath(name); }

@@ -6,6 +6,7 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "tests/app/DialogRobot.h"
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
@@ -96,11 +97,7 @@ protected:
     }
 
     QString file() const { return m_folder.filePath(QStringLiteral("plan.pdf")); }
-    QByteArray content() const
-    {
-        QFile written(file());
-        return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
-    }
+    QByteArray content() const { return dxftest::contentOf(file()); }
 
     /// Answers the print dialog with a file to print to.
     void expectDialog() { expectDialog(file()); }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
@@ -171,10 +172,9 @@ TEST_P(ProgramSampleTest, GivesAPdf)
     const Outcome outcome = runPicture(picture, drawing());
 
     ASSERT_EQ(outcome.exitCode, 0) << outcome.errors;
-    QFile file(picture);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_THAT(file.readAll().toStdString(), StartsWith("%PDF"));
-    EXPECT_GT(file.size(), 5000);
+    const QByteArray pdf = dxftest::contentOf(picture);
+    EXPECT_THAT(pdf.toStdString(), StartsWith("%PDF"));
+    EXPECT_GT(pdf.size(), 5000);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ProgramSampleTest,
@@ -207,11 +207,9 @@ TEST_F(ProgramTest, MakesPicturesOnTheNamedGround)
 
 TEST_F(ProgramTest, MakesNoPictureOfADrawingWithNothingToShow)
 {
-    const QString drawing = path(QStringLiteral("hatch.dxf"));
-    QFile file(drawing);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("0\nSECTION\n2\nENTITIES\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n");
-    file.close();
+    const QString drawing =
+        dxftest::fileWith("0\nSECTION\n2\nENTITIES\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n",
+                          path(QStringLiteral("hatch.dxf")));
 
     const Outcome outcome = runPicture(path(QStringLiteral("out.png")), drawing);
 
@@ -222,12 +220,10 @@ TEST_F(ProgramTest, MakesNoPictureOfADrawingWithNothingToShow)
 
 TEST_F(ProgramTest, ReportsOnEachDrawing)
 {
-    const QString drawing = path(QStringLiteral("a.dxf"));
-    QFile file(drawing);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n-1\n20\n2\n11\n2\n21\n6\n"
-               "0\nTEXT\n8\n0\n10\n0\n20\n0\n40\n1\n1\nA\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n");
-    file.close();
+    const QString drawing = dxftest::fileWith(
+        "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n-1\n20\n2\n11\n2\n21\n6\n"
+        "0\nTEXT\n8\n0\n10\n0\n20\n0\n40\n1\n1\nA\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n",
+        path(QStringLiteral("a.dxf")));
     const std::string line = drawing.toStdString() + "\t5\t-1\t2\t2\t6\tHATCH=1,TEXT=1\n";
 
     const Outcome outcome = run({QStringLiteral("--report"), drawing, drawing});
@@ -253,14 +249,12 @@ TEST_F(ProgramTest, ReportsOnTheOthersWhenOneCannotBeRead)
 TEST_F(ProgramTest, LogsOnlyWhenVerbose)
 {
     // A block of one line, 900 million times.
-    const QString drawing = path(QStringLiteral("array.dxf"));
-    QFile file(drawing);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nB\n10\n0\n20\n0\n"
-               "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDBLK\n0\nENDSEC\n"
-               "0\nSECTION\n2\nENTITIES\n0\nINSERT\n8\n0\n2\nB\n10\n0\n20\n0\n70\n30000\n"
-               "71\n30000\n44\n1\n45\n1\n0\nENDSEC\n0\nEOF\n");
-    file.close();
+    const QString drawing = dxftest::fileWith(
+        "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nB\n10\n0\n20\n0\n"
+        "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDBLK\n0\nENDSEC\n"
+        "0\nSECTION\n2\nENTITIES\n0\nINSERT\n8\n0\n2\nB\n10\n0\n20\n0\n70\n30000\n"
+        "71\n30000\n44\n1\n45\n1\n0\nENDSEC\n0\nEOF\n",
+        path(QStringLiteral("array.dxf")));
 
     const Outcome quiet = run({QStringLiteral("--report"), drawing});
     const Outcome verbose = run({QStringLiteral("--report"), QStringLiteral("--verbose"), drawing});

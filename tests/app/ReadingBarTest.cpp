@@ -4,11 +4,11 @@
 #include "BackgroundReader.h"
 
 #include "dxfviewer/model/DXFDocument.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
 #include <QAbstractButton>
-#include <QFile>
 #include <QLabel>
 #include <QMainWindow>
 #include <QProgressBar>
@@ -30,12 +30,9 @@ protected:
         m_window.statusBar()->addPermanentWidget(m_bar);
         m_window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_window, dxftest::patienceMs));
-        QFile file(m_folder.filePath(QStringLiteral("large.dxf")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("0\nSECTION\n2\nENTITIES\n");
-        file.write(
-            QByteArray("0\nLWPOLYLINE\n8\n0\n90\n1\n10\n0\n20\n0\n").repeated(manyPolylines));
-        m_fileName = file.fileName();
+        const QByteArray polyline = "0\nLWPOLYLINE\n8\n0\n90\n1\n10\n0\n20\n0\n";
+        dxftest::fileWith("0\nSECTION\n2\nENTITIES\n" + polyline.repeated(manyPolylines),
+                          m_fileName);
     }
 
     int value() const { return m_bar->findChild<QProgressBar*>()->value(); }
@@ -53,7 +50,7 @@ protected:
     }
 
     const QTemporaryDir m_folder;
-    QString m_fileName;
+    const QString m_fileName = m_folder.filePath(QStringLiteral("large.dxf"));
     BackgroundReader m_reader;
     QMainWindow m_window;
     ReadingBar* m_bar = new ReadingBar(m_reader);

@@ -2,6 +2,7 @@
 
 #include "RecentFiles.h"
 
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <QAction>
@@ -68,9 +69,7 @@ TEST_F(RecentFilesTest, EachDrawingIsListedOnce)
 
 TEST_F(RecentFilesTest, TwoNamesOfAFileAreOneDrawing)
 {
-    QFile file(numbered(1));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(file.link(numbered(2)));
+    ASSERT_TRUE(QFile::link(dxftest::fileWith(QByteArray(), numbered(1)), numbered(2)));
     m_recent.add(numbered(1));
     m_recent.add(numbered(2));
 

@@ -2,10 +2,10 @@
 
 #include "DrawingFile.h"
 
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -26,12 +26,7 @@ enum SaveResult { written, refused, refusedWithoutReason, unlimited };
 class SaveFailureTest : public dxftest::LoggedTest
 {
 protected:
-    SaveFailureTest()
-    {
-        QFile file(m_fileName);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(oldContent);
-    }
+    SaveFailureTest() { dxftest::fileWith(oldContent, m_fileName); }
 
     /// Runs the action in a child process, which exits with the action's result.
     static pid_t inChild(const std::function<int()>& action)
@@ -64,12 +59,7 @@ protected:
 
     QStringList filesInFolder() const { return QDir(m_folder.path()).entryList(QDir::Files); }
 
-    QByteArray content() const
-    {
-        QFile file(m_fileName);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
+    QByteArray content() const { return dxftest::contentOf(m_fileName); }
 
     const QTemporaryDir m_folder;
     const QString m_fileName = m_folder.filePath(QStringLiteral("drawing.dxf"));

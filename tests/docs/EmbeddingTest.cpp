@@ -3,12 +3,12 @@
 #include "docs/snippets/Embedding.h"
 
 #include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 
 #include <QAction>
-#include <QFile>
 #include <QGraphicsView>
 #include <QMenu>
 #include <QTemporaryDir>
@@ -52,14 +52,11 @@ TEST_F(EmbeddingTest, RecognisesADrawing)
 TEST_F(EmbeddingTest, ShowsEntitiesThatTheWindowLeavesOut)
 {
     const QTemporaryDir folder;
-    const QString name = folder.filePath(QStringLiteral("line.dxf"));
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("0\nSECTION\n2\nENTITIES\n"
-               "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n0\n"
-               "0\nRAY\n8\n0\n10\n0\n20\n0\n11\n1\n21\n0\n"
-               "0\nENDSEC\n0\nEOF\n");
-    file.close();
+    const QString name = dxftest::fileWith("0\nSECTION\n2\nENTITIES\n"
+                                           "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n0\n"
+                                           "0\nRAY\n8\n0\n10\n0\n20\n0\n11\n1\n21\n0\n"
+                                           "0\nENDSEC\n0\nEOF\n",
+                                           folder.filePath(QStringLiteral("line.dxf")));
     QStringList skipped;
 
     ASSERT_TRUE(showEverything(m_viewer, name, skipped));
@@ -76,9 +73,7 @@ TEST_F(EmbeddingTest, SavesWhatTheWindowHolds)
 
     ASSERT_TRUE(save(m_viewer, name));
 
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), m_viewer.getData());
+    EXPECT_EQ(dxftest::contentOf(name), m_viewer.getData());
 }
 
 TEST_F(EmbeddingTest, HasNoStackOutsideEditMode)

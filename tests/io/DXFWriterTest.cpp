@@ -491,11 +491,10 @@ TEST_F(DXFWriterTest, FullDeviceIsReported)
 
 TEST_F(DXFWriterTest, UnusableTemporaryFolderIsReported)
 {
-    QFile file(folder.filePath(QStringLiteral("file")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const QString file = fileWith(QByteArray(), folder.filePath(QStringLiteral("file")));
     // Not even root can create a file in these. A missing folder would not do: Qt uses the root
     // folder instead.
-    for (const QString& name : {file.fileName(), QStringLiteral("/proc")}) {
+    for (const QString& name : {file, QStringLiteral("/proc")}) {
         const TemporaryFolder temporary(name);
 
         EXPECT_TRUE(DXFWriter(document).save().isEmpty());

@@ -3,10 +3,10 @@
 #include "dxfviewer/io/GroupWriter.h"
 
 #include "tests/io/TestLocales.h"
+#include "tests/support/Files.h"
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -32,9 +32,7 @@ protected:
 
     static std::string content(const std::string& name)
     {
-        QFile file(QString::fromStdString(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll().toStdString();
+        return contentOf(QString::fromStdString(name)).toStdString();
     }
 
     /// What our writer writes.

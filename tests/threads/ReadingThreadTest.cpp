@@ -11,6 +11,7 @@
 #include "dxfviewer/viewer/View.h"
 
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 #include "tests/support/WindowParts.h"
@@ -18,7 +19,6 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QFile>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 
@@ -136,11 +136,7 @@ TEST_F(ReadingThreadTest, SeveralThreadsReadWhileTheWindowIsInUse)
 TEST_F(ReadingThreadTest, FilesMayBeReadInAThread)
 {
     const QTemporaryDir folder;
-    const QString name = folder.filePath(QStringLiteral("drawing.dxf"));
-    QFile file(name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(drawing(1));
-    file.close();
+    const QString name = fileWith(drawing(1), folder.filePath(QStringLiteral("drawing.dxf")));
 
     auto first = inThread([name] { return read(name); });
     auto second = inThread([name] { return read(name); });

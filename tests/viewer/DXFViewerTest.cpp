@@ -8,6 +8,7 @@
 
 #include "tests/support/AtMessage.h"
 #include "tests/support/Builders.h"
+#include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/MetaMethods.h"
 #include "tests/support/OtherEntity.h"
@@ -363,12 +364,9 @@ TEST_F(DXFViewerTest, DrawingIsShownAfterFiveMilliseconds)
 TEST_F(DXFViewerTest, DrawingIsReadFromAFile)
 {
     QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("square.dxf")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(square);
-    file.close();
+    const QString fileName = fileWith(square, folder.filePath(QStringLiteral("square.dxf")));
 
-    ASSERT_TRUE(loadAndShow(*window, file.fileName()));
+    ASSERT_TRUE(loadAndShow(*window, fileName));
 
     EXPECT_THAT(linesOf(shownDocument(*window)), SizeIs(4));
 }
