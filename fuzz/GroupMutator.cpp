@@ -256,7 +256,7 @@ auto GroupMutator::pick(const List& list)
 void GroupMutator::mutate(Groups& groups)
 {
     using Mutation = void (GroupMutator::*)(Groups&);
-    // The first ones are listed twice because they find more.
+    // Some are listed several times because they find more.
     static constexpr std::array<Mutation, 18> mutations{
         &GroupMutator::eraseGroups,  &GroupMutator::eraseRecord,    &GroupMutator::repeatGroups,
         &GroupMutator::repeatRecord, &GroupMutator::moveRecord,     &GroupMutator::swapGroups,
