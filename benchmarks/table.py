@@ -163,10 +163,10 @@ def figures_of(run):
 
 
 def deviation_of(figures, name, shape):
-    """The root mean square of what a straight line through zero leaves, as a share of the mean.
+    """The root mean square of the distances from a straight line through zero, divided by the mean.
 
-    Google Benchmark computes the same, but from processor times, to which the rounds and what is
-    not timed in them belong.
+    Google Benchmark computes the same, but from processor times. These include all rounds, and the
+    parts of the rounds that are not timed.
     """
     points = [
         (size, figures[name, shape, size]["time_ms"])
@@ -193,7 +193,7 @@ def aim_of(row):
 
 
 def shown_counter(row):
-    """Operations are shown by their times, whatever the aim is about."""
+    """The tables show the time of an operation even if its aim is a ratio."""
     return "ns_per_segment" if row[2] == "ratio" else row[2]
 
 

@@ -49,7 +49,7 @@ bool survivedWriting(const QVector<Shape>& written, const QVector<Shape>& read);
 /// The lines of all segments, each polyline once.
 QVector<QLineF> linesOf(const DXFDocument& document);
 
-/// Requires that what dxflib delivered is bounded by what the text can hold.
+/// Requires that there are no more vertices and entities than the text can hold.
 void requireBounded(const DXFDocument& document, const QByteArray& text);
 
 } // namespace dxffuzz

@@ -22,7 +22,7 @@ TEST(ExtentTest, RectangleWithAnExtentStays)
         EXPECT_EQ(withExtent(rect), rect);
 }
 
-TEST(ExtentTest, SegmentThatRunsBackwardsIsTurned)
+TEST(ExtentTest, NegativeExtentsBecomePositive)
 {
     EXPECT_EQ(withExtent(QRectF(10, 5, -10, -5)), QRectF(0, 0, 10, 5));
 }

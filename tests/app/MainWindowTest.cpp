@@ -1011,7 +1011,7 @@ TEST_F(MainWindowTest, SavesInTheMiddleOfAStroke)
     EXPECT_EQ(polylineCount(), 1);
 }
 
-TEST_F(MainWindowTest, OpensInTheMiddleOfAStroke)
+TEST_F(MainWindowTest, MayOpenADrawingInTheMiddleOfAStroke)
 {
     openInEditMode();
     SceneMouse mouse(view());

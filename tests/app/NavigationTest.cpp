@@ -89,7 +89,7 @@ TEST_F(NavigationTest, FillsTheWindowWhateverTheSizeAndThePlace)
     }
 }
 
-TEST_F(NavigationTest, ShowsWhatHasNoExtent)
+TEST_F(NavigationTest, ShowsDrawingsWithoutExtent)
 {
     for (const QVector<QPointF>& points :
          {QVector<QPointF>{{5, 5}, {5, 5}}, QVector<QPointF>{{1e12, 7}, {1e12, 7}},

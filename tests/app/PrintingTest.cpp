@@ -31,7 +31,7 @@ using testing::HasSubstr;
 namespace
 {
 
-/// Wide, and with its only upright line on the left.
+/// A wide drawing, whose only upright line is on the left.
 QSharedPointer<DXFDocument> wideDrawing()
 {
     return dxftest::makeDocument(

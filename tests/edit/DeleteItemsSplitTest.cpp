@@ -183,7 +183,7 @@ TEST_F(DeleteItemsTest, CutOffPieceIsSelectedAndHoveredLikeItsPolyline)
         << "the entity's flags are not those of its segments";
 }
 
-TEST_F(DeleteItemsTest, PiecesKeepTheFlagsButTheClosedBit)
+TEST_F(DeleteItemsTest, PiecesKeepTheFlagsExceptTheClosedBit)
 {
     auto polyline = Polyline::create(3U, 4U, 0x81U);
     for (int x = 0; x < 6; ++x)

@@ -188,7 +188,7 @@ TEST_F(DeleteItemsTest, PiecesTakeIdsInOrderEachBeforeItsSegments)
 
     push({ids[1], ids[3], ids[7]});
 
-    // Two clones come first.
+    // The first two new ids belong to the clones.
     ASSERT_EQ(entityCount(), 5);
     EXPECT_EQ(at(2)->id(), highest + 3);
     EXPECT_THAT(segmentIdsOf(*at(2)), ElementsAre(highest + 4));
@@ -287,7 +287,7 @@ TEST_F(DeleteItemsTest, IdsFromSplittingAreNotReusedByTheDeletion)
     EXPECT_EQ(QSet<int>(pieceIds.begin(), pieceIds.end()).size(), 4);
 }
 
-TEST_F(DeleteItemsTest, SplittingNothingDoesNothing)
+TEST_F(DeleteItemsTest, SplittingNullDoesNothing)
 {
     DeleteItems command(document, {ids[2]});
 

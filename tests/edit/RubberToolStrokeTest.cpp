@@ -232,7 +232,7 @@ TEST_F(RubberToolTest, LogsNothing)
     EXPECT_THAT(takeDebugMessages(), IsEmpty());
 }
 
-// Pacing
+// The timer
 
 TEST_F(RubberToolTest, TimerTicksEvery50Milliseconds)
 {

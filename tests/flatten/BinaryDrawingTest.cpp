@@ -88,7 +88,7 @@ BinaryText twoEntities(bool hasLongCodes)
     return drawing;
 }
 
-TEST(BinaryDrawingTest, IsKnownByItsSentinel)
+TEST(BinaryDrawingTest, IsRecognisedByItsSentinel)
 {
     EXPECT_TRUE(isBinaryDrawing(BinaryText().bytes()));
     EXPECT_FALSE(isBinaryDrawing(BinaryText().bytes().substr(0, 21)));

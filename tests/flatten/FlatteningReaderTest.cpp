@@ -85,7 +85,7 @@ TEST_F(FlatteningReaderTest, StepIsAnOption)
     EXPECT_EQ(entities("CIRCLE 10 0 20 0 40 1", options).points(0).size(), 9);
 }
 
-TEST_F(FlatteningReaderTest, SenselessStepsAreReplaced)
+TEST_F(FlatteningReaderTest, InvalidStepsAreReplaced)
 {
     FlatteningOptions options;
     for (const auto& [step, points] : {std::pair(std::nan(""), 65), std::pair(1e300, 9),

@@ -295,7 +295,7 @@ TEST_F(BlockAttributesTest, ByBlockOfAnInsertByLayerTakesTheValuesOfItsLayer)
     EXPECT_EQ(result->lineType(), key("DASHED"));
 }
 
-TEST_F(BlockAttributesTest, LayerThatIsOffHasItsColorToo)
+TEST_F(BlockAttributesTest, LayerThatIsOffStillGivesItsColor)
 {
     EXPECT_EQ(attributes("62 0", "8 Off")->color(), 4);
     EXPECT_EQ(attributes("62 0", "8 Bad")->color(), 7);
@@ -340,7 +340,7 @@ TEST_F(BlockAttributesTest, ByBlockOfAnInsertByBlockIsTheForeground)
     EXPECT_EQ(attributes("62 0", "62 0")->color(), 7);
 }
 
-TEST_F(BlockAttributesTest, TrueColorOfItsOwnIsKept)
+TEST_F(BlockAttributesTest, OwnTrueColorIsKept)
 {
     EXPECT_EQ(attributes("62 0 420 255", "62 3")->color24(), 255);
 }

@@ -37,7 +37,7 @@ protected:
     void TearDown() override { EXPECT_EQ(takeDebugMessages(), QStringList()); }
 };
 
-TEST_F(TextShapesTest, CapitalsAreAsHighAsTheTextSays)
+TEST_F(TextShapesTest, CapitalsHaveTheHeightOfTheText)
 {
     const auto drawing = texts("TEXT 10 5 20 6 40 2 1 H");
 
@@ -138,7 +138,7 @@ TEST_F(TextShapesTest, JustificationPlacesTheLineAtItsSecondPoint)
     EXPECT_GT(boxOf("72 0 73 1").top(), 20.0);
 }
 
-TEST_F(TextShapesTest, AttributeHasACodeOfItsOwnForHeight)
+TEST_F(TextShapesTest, AttributeHasItsOwnCodeForVerticalJustification)
 {
     EXPECT_NEAR(texts("ATTRIB 40 2 1 H 10 0 20 0 11 10 21 20 74 3").box().bottom(), 20.0, 0.05);
 }

@@ -246,7 +246,7 @@ TEST_F(DXFWriterTest, DefaultLineTypeIsAddedIfTheCaseDiffers)
     EXPECT_EQ(document.lineTypes().size(), 1);
 }
 
-TEST_F(DXFWriterTest, DefaultLayerStandsBeforeTheOthers)
+TEST_F(DXFWriterTest, DefaultLayerIsWrittenFirst)
 {
     document.addLayer(makeLayer(QStringLiteral("A"), 1));
     document.addLayer(makeLayer(QStringLiteral("B"), 2));

@@ -81,7 +81,7 @@ TEST_P(ExtraDrawingsTest, FileAndBytesGiveTheSame)
 {
     for (const QString& name : qAsConst(names)) {
         SCOPED_TRACE(name.toStdString());
-        // What follows a zero byte is in the file only.
+        // Only the file form reads beyond a zero byte.
         const QByteArray bytes = bytesOf(name);
         if (bytes.contains('\0'))
             continue;

@@ -110,7 +110,7 @@ TEST_P(GroupWriterNumbersTest, AreWrittenAsByDxflib)
 INSTANTIATE_TEST_SUITE_P(Numbers, GroupWriterNumbersTest, ::testing::Range(1U, 11U),
                          [](const auto& seed) { return "Seed" + std::to_string(seed.param); });
 
-TEST_F(GroupWriterTest, RemarkableNumbersAreWrittenAsByDxflib)
+TEST_F(GroupWriterTest, SpecialNumbersAreWrittenAsByDxflib)
 {
     constexpr double values[] = {0.0,   -0.0,   1.0,   -1.0,  0.5,    1e-16,  5e-17,
                                  1e-17, -1e-17, 0.1,   1e237, 1e22,   5e-324, -5e-324,

@@ -159,7 +159,7 @@ TEST(RecordCountsTest, LoopsOfAHatchAreCarriedUntilTheNextBegins)
     EXPECT_TRUE(counts.isSound());
 }
 
-TEST(RecordCountsTest, OnlySomeLoopsAreCarried)
+TEST(RecordCountsTest, OnlyPolylineLoopsAndLoopsOfEdgesAreCarried)
 {
     for (const auto& [code, value, carried] :
          std::vector<std::tuple<int, const char*, bool>>{{92, "0", false},

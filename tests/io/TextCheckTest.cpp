@@ -14,7 +14,7 @@ using dxfviewer::isSound;
 namespace
 {
 
-TEST(TextCheckTest, TextOfNoGroupsIsSound)
+TEST(TextCheckTest, TextWithoutGroupsIsSound)
 {
     for (const char* text : {"", "0", "0\n", "0\nLINE", "0\nLINE\n", "not a drawing"})
         EXPECT_TRUE(isSound(text)) << text;
@@ -33,7 +33,7 @@ TEST(TextCheckTest, ZeroByteIsNotSoundAnywhere)
         EXPECT_FALSE(isSound(std::string(text).insert(at, 1, '\0'))) << at;
 }
 
-TEST(TextCheckTest, EveryLineHasAGreatestLength)
+TEST(TextCheckTest, LineLengthIsLimited)
 {
     for (const std::size_t length : {1023U, 1024U}) {
         const std::string line(length, ' ');
@@ -94,18 +94,18 @@ TEST(TextCheckTest, CarriageReturnCountsAsPartOfALine)
     EXPECT_FALSE(isSound(drawingOf({{1, std::string(1023, 'c') + '\r'}})));
 }
 
-TEST(TextCheckTest, BlankTextAndIntegerStay)
+TEST(TextCheckTest, BlankTextAndIntegerAreSound)
 {
     for (const int code : {1, 9, 60, 109, 150, 209, 240, 1009, 1060})
         EXPECT_TRUE(isSound(drawingOf({{0, "LINE"}, {code, ""}}))) << code;
 }
 
-TEST(TextCheckTest, LowerCountStays)
+TEST(TextCheckTest, LowerCountIsSound)
 {
     EXPECT_TRUE(isSound(drawingOf({{0, "LWPOLYLINE"}, {90, "1"}, {10, "1"}, {10, "2"}})));
 }
 
-TEST(TextCheckTest, RecordsAfterOthersWithoutItemsNeedNothing)
+TEST(TextCheckTest, RecordsWithoutItemsNeedNoCounts)
 {
     EXPECT_TRUE(
         isSound(drawingOf({{0, "LWPOLYLINE"}, {0, "SPLINE"}, {0, "LEADER"}, {0, "HATCH"}})));

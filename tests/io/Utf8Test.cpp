@@ -18,7 +18,7 @@ TEST(Utf8Test, ShortTextStaysWhole)
     EXPECT_EQ(utf8Prefix("abc", 3), 3U);
     EXPECT_EQ(utf8Prefix("abc", 100), 3U);
     EXPECT_EQ(utf8Prefix("\xc3\xa4", 2), 2U);
-    // Even if its last sequence is not complete.
+    // This holds even if the last sequence is incomplete.
     EXPECT_EQ(utf8Prefix("a\xc3", 2), 2U);
 }
 

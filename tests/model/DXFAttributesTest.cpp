@@ -46,7 +46,7 @@ TEST_F(DXFAttributesTest, NothingIsValidated)
     EXPECT_FALSE(attributes.inPaperSpace());
 }
 
-TEST_F(DXFAttributesTest, StringNamesEveryValueAndPaperSpaceAsOne)
+TEST_F(DXFAttributesTest, StringHasEveryValueAndOneForPaperSpace)
 {
     const DXFAttributes attributes(QStringLiteral("Walls"), 256, -1, -2, QStringLiteral("DASHED"),
                                    2.5, 31, true);

@@ -171,7 +171,7 @@ std::ptrdiff_t placeOf(Function function)
     return words.pointer / static_cast<std::ptrdiff_t>(sizeof(void*));
 }
 
-TEST(InterfaceTest, VirtualFunctionsOfEntitiesHaveTheirPlaces)
+TEST(InterfaceTest, VirtualFunctionsOfEntitiesHaveFixedIndices)
 {
     // The destructor has the first two.
     EXPECT_EQ(placeOf(&DXFEntity::type), 2);
@@ -180,7 +180,7 @@ TEST(InterfaceTest, VirtualFunctionsOfEntitiesHaveTheirPlaces)
     EXPECT_EQ(placeOf(&DXFEntity::clone), 5);
 }
 
-TEST(InterfaceTest, PolylinesAddNoVirtualFunctions)
+TEST(InterfaceTest, VirtualFunctionsOfPolylinesHaveFixedIndices)
 {
     EXPECT_EQ(placeOf(&DXFPolyline::type), 2);
     EXPECT_EQ(placeOf(&DXFPolyline::toString), 3);

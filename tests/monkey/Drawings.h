@@ -9,7 +9,7 @@
 namespace dxftest
 {
 
-/// One of a handful of drawings, good ones of ordinary and of extreme sizes.
+/// One of a few sound drawings, of usual and of extreme sizes.
 QByteArray goodDrawing(int which);
 /// A text that is no drawing, or half of one.
 QByteArray badDrawing(int which);

@@ -20,7 +20,7 @@ namespace dxftest
 QList<DXFEditor*> overlaysIn(const QGraphicsScene& scene);
 QList<DXFGraphicsItem*> documentItemsIn(const QGraphicsScene& scene);
 
-/// Segments chain, and every id is there once.
+/// The segments of a polyline form a chain, and every id is there once.
 QString problemOf(const DXFDocument& document);
 
 /// Of these ids, exactly those that belong to the document's polylines and segments are selected.

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Has lintian look at the Debian packages in a folder, installs them into an empty root and runs the
+# Checks the Debian packages in a folder with lintian, installs them into an empty root and runs the
 # program from there.
 #
 # usage: debian.sh SOURCE_FOLDER FOLDER QT_MAJOR
@@ -65,7 +65,7 @@ mkdir -p "$root/var/lib/dpkg/updates" "$root/var/lib/dpkg/info" "$root/var/lib/d
 : >"$root/var/lib/dpkg/status"
 as_root=
 [ "$(id -u)" = 0 ] || as_root=fakeroot
-# dpkg asks for programs that are not in the path of every user.
+# dpkg needs programs that are not in every user's PATH.
 PATH=$PATH:/usr/sbin:/sbin $as_root dpkg --root="$root" --log=/dev/null \
     --force-depends --force-not-root --force-script-chrootless \
     --install "$build"/*.deb
@@ -83,7 +83,7 @@ LD_LIBRARY_PATH=$libraries "$program" --picture "$build/picture.svg" "$source/sa
 LD_LIBRARY_PATH=$libraries LC_ALL=C.UTF-8 LANGUAGE=de "$program" --help | grep -q DXF-Zeichnungen ||
     fail "the installed program does not find its translations"
 
-# Every option has its place in the manual.
+# The man page lists every option.
 manual=$root/usr/share/man/man1/dxfviewer$suffix.1.gz
 for option in $(LD_LIBRARY_PATH=$libraries LC_ALL=C "$program" --help | grep -o -- '  --[a-z-]*'); do
     gunzip -c "$manual" | tr -d '\134' | grep -q -- "$option" || fail "the manual does not name $option"

@@ -36,7 +36,7 @@ for function in $(echo "$functions" | tr '|' ' '); do
         status=1
     fi
 done
-# A vertex is all inline, and needs nothing of the library.
+# The class of vertices is inline, so it needs no symbol of the library.
 for class in $(echo "$classes" | tr '|' ' '); do
     if [ "$class" != DXFVertex ] && ! grep -Eq "(^| )$class(::|\$)" "$scratch/exported"; then
         echo "$library exports nothing of the class $class" >&2

@@ -76,7 +76,7 @@ TEST_F(DXFPaintHelperTest, ByBlockColourIsBlackAfterAWarning)
     EXPECT_EQ(getColor(0, -1), QColor(Qt::black));
 }
 
-TEST_F(DXFPaintHelperTest, TrueColourDecidesAlone)
+TEST_F(DXFPaintHelperTest, TrueColourWinsOverTheNumber)
 {
     EXPECT_EQ(getColor(1, 0xff0000), QColor(255, 0, 0));
     EXPECT_EQ(getColor(0, 0x00ff00), QColor(0, 255, 0));

@@ -79,7 +79,7 @@ TEST_F(DisplayColorsTest, KnowsTheColourTableOfTheFormat)
         EXPECT_EQ(DisplayColors::tableColor(sample.key()), QColor(sample.value())) << sample.key();
 }
 
-TEST_F(DisplayColorsTest, MeasuresContrastAsLuminances)
+TEST_F(DisplayColorsTest, MeasuresContrastByLuminance)
 {
     EXPECT_NEAR(DisplayColors::contrast(white, black), 21.0, 1e-9);
     EXPECT_NEAR(DisplayColors::contrast(black, white), 21.0, 1e-9);
@@ -98,7 +98,7 @@ TEST_F(DisplayColorsTest, EveryNumberIsLegibleOnEveryGround)
     }
 }
 
-TEST_F(DisplayColorsTest, KeepsTheHueOfWhatItMoves)
+TEST_F(DisplayColorsTest, KeepsTheHueOfMovedColors)
 {
     int movedCount = 0;
     for (const QColor& ground : grounds()) {

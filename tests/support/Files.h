@@ -8,10 +8,10 @@
 namespace dxftest
 {
 
-/// The content of a file. That it cannot be read is a failure of the test.
+/// The content of a file. If it cannot be read, the test fails.
 QByteArray contentOf(const QString& fileName);
 
-/// Writes a file and returns its name. That it cannot be written is a failure of the test.
+/// Writes a file and returns its name. If it cannot be written, the test fails.
 QString fileWith(const QByteArray& content, const QString& fileName);
 
 } // namespace dxftest

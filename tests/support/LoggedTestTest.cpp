@@ -128,7 +128,7 @@ TEST(LoggedTestTest, AnnouncedWarningOfACategoryFails)
         "foreign.category: trouble");
 }
 
-TEST(LoggedTestTest, WarningOfACategoryOfQtIsOneLikeOthers)
+TEST(LoggedTestTest, WarningOfAQtCategoryIsRecordedWithoutTheCategory)
 {
     InnerTest test;
 

@@ -9,8 +9,8 @@
 namespace dxftest
 {
 
-/// How long a test waits for what must happen before it fails. Far more than is needed: a machine
-/// under load, or under a sanitizer, is slow, and no test is about how long something takes.
+/// How long a test waits for something before it fails. Far longer than needed: a machine under
+/// load, or under a sanitizer, is slow, and no test measures how long something takes.
 constexpr int patienceMs = 60000;
 
 /// Handles events until the condition holds. False if it never does.

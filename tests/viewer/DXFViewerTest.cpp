@@ -174,7 +174,7 @@ TEST_F(DXFViewerTest, SaveActionIsHidden)
     EXPECT_EQ(action.parent(), window.get());
 }
 
-TEST_F(DXFViewerTest, EditActionIsOfferedAndCheckable)
+TEST_F(DXFViewerTest, EditActionIsVisibleAndCheckable)
 {
     const QAction& action = editActionOf(*window);
 
@@ -524,7 +524,7 @@ TEST_F(FailedLoadTest, LeavesTheEditorRunning)
     EXPECT_TRUE(editActionOf(*window).isChecked());
 }
 
-TEST_F(FailedLoadTest, MayBeFollowedByAGoodOne)
+TEST_F(FailedLoadTest, MayBeFollowedByASuccessfulLoad)
 {
     window->loadData(missing);
 
@@ -628,7 +628,7 @@ TEST_F(LoadDocumentTest, NullIsAFailedLoad)
     EXPECT_EQ(window->getData(), emptyDrawing());
 }
 
-// A host that acts from within the log
+// A host that acts inside a message handler
 
 class ActingLogTest : public DXFViewerTest
 {

@@ -465,7 +465,7 @@ TEST_F(ViewTest, LosingTheFocusKeepsTheDragMode)
     EXPECT_EQ(view.dragMode(), QGraphicsView::ScrollHandDrag);
 }
 
-/// Notes the keys that reach the scene.
+/// Records the keys that reach the scene.
 class KeyScene : public QGraphicsScene
 {
 public:
@@ -490,7 +490,7 @@ TEST_F(ViewTest, OtherKeysReachTheSceneAndControlDoesNot)
     EXPECT_THAT(scene.events, ElementsAre(QEvent::KeyPress, QEvent::KeyRelease));
 }
 
-// A host that acts from within the log
+// A host that acts inside a message handler
 
 class ActingLogViewTest : public LoggedTest
 {
