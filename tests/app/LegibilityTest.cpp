@@ -90,7 +90,7 @@ protected:
     MainWindow m_window;
 };
 
-TEST_F(LegibilityTest, ExtraDrawingsAreLegibleOnEveryGround)
+TEST_F(LegibilityTest, DrawingsAreLegibleOnEveryGround)
 {
     if (!qEnvironmentVariableIsSet("DXFVIEWER_EXTRA_DRAWINGS"))
         GTEST_SKIP() << "DXFVIEWER_EXTRA_DRAWINGS names no folder of drawings";
