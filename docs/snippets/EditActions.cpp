@@ -18,8 +18,8 @@ void addEditActions(DXFViewer& viewer, QMenu& menu)
     menu.addAction(group->createUndoAction(group));
     menu.addAction(group->createRedoAction(group));
 
-    // The window's own slot runs first: the stack is there when this one does. A stack leaves the
-    // group by itself when edit mode ends.
+    // The window's own slot runs first: the stack is there when this one does. When edit mode ends,
+    // its stack is no longer active, and it leaves the group when it is destroyed.
     QObject::connect(edit, &QAction::toggled, group, [group, &viewer] {
         if (QUndoStack* stack = editStack(viewer)) {
             group->addStack(stack);

@@ -153,6 +153,8 @@ QRectF DXFEditor::sceneRect() const
 void DXFEditor::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
                       QWidget* /*widget*/)
 {
+    if (!painter)
+        return;
     // A tint that shows where the overlay lies. ItemHasNoContents switches it off. This is
     // intended: the tint is seen only if somebody removes the flag.
     const QRectF rect = boundingRect();

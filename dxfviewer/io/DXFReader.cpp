@@ -23,7 +23,7 @@ using dxfviewer::identical;
 namespace
 {
 
-// Enough for the layers and colours of most drawings.
+// Entries of a table by hashes: attributes with the same hash take turns in one entry.
 constexpr std::size_t convertedEntries = 256;
 
 void logName(const char* callback)

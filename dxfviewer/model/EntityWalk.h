@@ -2,10 +2,10 @@
 
 #pragma once
 
-#include "dxfviewer/model/DXFEntity.h"
-
 #include <QList>
 #include <QSharedPointer>
+
+class DXFEntity;
 
 namespace dxfviewer
 {

@@ -131,7 +131,7 @@ public:
     {
         if (m_inUse && m_inUse->isFor(width, color))
             return;
-        Kept& kept = m_kept[slotOf(width, color)];
+        Kept& kept = m_kept[entryOf(width, color)];
         if (!kept.isFor(width, color))
             kept = {width, color, newPen(width, color)};
         m_painter.setPen(kept.pen);
@@ -139,7 +139,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t slotCount = 64;
+    static constexpr std::size_t entryCount = 64;
 
     struct Kept {
         int width = 0;
@@ -161,7 +161,7 @@ private:
         return pen;
     }
 
-    static std::size_t slotOf(int width, const QColor& color)
+    static std::size_t entryOf(int width, const QColor& color)
     {
         constexpr unsigned scatter = 2654435769U;
         constexpr unsigned shift = 26;
@@ -169,7 +169,7 @@ private:
     }
 
     QPainter& m_painter;
-    std::array<Kept, slotCount> m_kept;
+    std::array<Kept, entryCount> m_kept;
     const Kept* m_inUse = nullptr;
 };
 

@@ -340,6 +340,13 @@ TEST_F(DXFEditorTest, TintIsOutlinedWithThePenOfThePainter)
     EXPECT_EQ(image.pixelColor(10, 15), QColor(Qt::blue));
 }
 
+TEST_F(DXFEditorTest, TintNeedsAPainter)
+{
+    editor->paint(nullptr, nullptr, nullptr);
+
+    EXPECT_TRUE(editor->flags().testFlag(QGraphicsItem::ItemHasNoContents));
+}
+
 TEST_F(DXFEditorTest, SceneNeverPaintsTheTint)
 {
     QImage image(50, 50, QImage::Format_ARGB32);

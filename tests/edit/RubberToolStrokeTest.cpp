@@ -154,9 +154,12 @@ TEST_F(RubberToolTest, ReleaseOfAnyButtonAsksForDeletion)
     QSignalSpy requests(tool.get(), SIGNAL(requestDelete()));
     press();
 
-    release(Qt::LeftButton);
+    for (const Qt::MouseButtons stillHeld :
+         {Qt::MouseButtons(Qt::LeftButton), Qt::LeftButton | Qt::RightButton,
+          Qt::MouseButtons(Qt::MiddleButton), Qt::MouseButtons(Qt::NoButton)})
+        release(stillHeld);
 
-    EXPECT_EQ(requests.count(), 1);
+    EXPECT_EQ(requests.count(), 4);
 }
 
 TEST_F(RubberToolTest, ReleaseStopsTheTimerBeforeItAsks)

@@ -816,12 +816,20 @@ TEST_F(PictureTest, LinesAreOnePixelWideAtAnyZoom)
     const auto polyline = makeColored({{-10, 0}, {10, 0}}, 23, 25);
     item.setDocument(makeDocument({polyline}));
 
-    const QImage picture = paintedPicture();
+    for (const double scale : {0.01, 1.0, 8.0, 500.0}) {
+        QImage picture = blankPicture();
+        QPainter painter(&picture);
+        painter.translate(80, 50);
+        // Long enough in x to cross the column at every scale.
+        painter.scale(scale + 1.0, scale);
+        item.paint(&painter, nullptr, nullptr);
+        painter.end();
 
-    int painted = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        painted += picture.pixelColor(80, y) == QColor(Qt::red) ? 1 : 0;
-    EXPECT_EQ(painted, 1);
+        int painted = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            painted += picture.pixelColor(80, y) == QColor(Qt::red) ? 1 : 0;
+        EXPECT_EQ(painted, 1) << "at scale " << scale;
+    }
 }
 
 } // namespace
