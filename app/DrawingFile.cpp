@@ -139,7 +139,9 @@ bool writeFile(const QString& fileName, const QByteArray& content, QString& reas
         return false;
     }
     QSaveFile file(fileName);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    // commit() does not see it if what is still in the buffer cannot be written.
+    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush()
+        && file.commit())
         return true;
     reason = file.errorString();
     return false;

@@ -2,6 +2,8 @@
 
 #include "DrawingFile.h"
 
+#include "tests/support/ChildProcess.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
@@ -9,90 +11,81 @@
 #include <QTemporaryDir>
 
 #include <csignal>
-#include <functional>
 
-#include <sys/resource.h>
 #include <sys/wait.h>
-#include <unistd.h>
+
+using dxftest::FileSizeLimit;
 
 namespace
 {
 
 const QByteArray oldContent = "the old drawing, whole";
+
+// Small content is still in a buffer when all of it is written.
 constexpr int limitBytes = 4096;
+constexpr int bufferedBytes = 2 * limitBytes;
+constexpr int largeBytes = 10 * limitBytes;
 
-enum SaveResult { written, refused, refusedWithoutReason, unlimited };
-
-class SaveFailureTest : public dxftest::LoggedTest
+class SaveFailureTest : public dxftest::LoggedTest, public ::testing::WithParamInterface<int>
 {
 protected:
-    SaveFailureTest() { dxftest::fileWith(oldContent, m_fileName); }
+    static QByteArray newContent() { return QByteArray(GetParam(), 'x'); }
 
-    /// Runs the action in a child process, which exits with the action's result.
-    static pid_t inChild(const std::function<int()>& action)
+    /// Why the new content cannot be written to a full disk; empty if it can.
+    static std::string refusal(const QString& fileName)
     {
-        const pid_t child = fork();
-        if (child == 0)
-            _exit(action());
-        return child;
-    }
-
-    /// Saves more than the process may write to a file. The limit stays, so only a child process
-    /// may do this.
-    int saveBeyondLimit() const
-    {
-        const rlimit limit{limitBytes, limitBytes};
-        if (setrlimit(RLIMIT_FSIZE, &limit) != 0)
-            return unlimited;
         QString reason;
-        if (writeFile(m_fileName, QByteArray(10 * limitBytes, 'x'), reason))
-            return written;
-        return reason.isEmpty() ? refusedWithoutReason : refused;
+        const FileSizeLimit limit(limitBytes);
+        EXPECT_FALSE(writeFile(fileName, newContent(), reason));
+        return reason.toStdString();
     }
 
-    static int statusOf(pid_t child)
+    /// Writes the new content in a child process that the system kills at the limit. The status
+    /// with which it ends is returned.
+    static int statusOfKilledWriter(const QString& fileName)
     {
-        int status = -1;
-        EXPECT_EQ(waitpid(child, &status, 0), child);
-        return status;
+        return dxftest::statusOfChild([&fileName] {
+            const FileSizeLimit limit(limitBytes);
+            std::signal(SIGXFSZ, SIG_DFL);
+            QString reason;
+            return writeFile(fileName, newContent(), reason) ? EXIT_SUCCESS : EXIT_FAILURE;
+        });
     }
 
     QStringList filesInFolder() const { return QDir(m_folder.path()).entryList(QDir::Files); }
-
-    QByteArray content() const { return dxftest::contentOf(m_fileName); }
 
     const QTemporaryDir m_folder;
     const QString m_fileName = m_folder.filePath(QStringLiteral("drawing.dxf"));
 };
 
-TEST_F(SaveFailureTest, AProcessKilledInTheMiddleLeavesTheOldFile)
+TEST_P(SaveFailureTest, AFullDiskLeavesTheOldFile)
 {
-    const pid_t child = inChild([this] {
-        // The system kills a process at the write that goes beyond its limit.
-        std::signal(SIGXFSZ, SIG_DFL);
-        return saveBeyondLimit();
-    });
+    dxftest::fileWith(oldContent, m_fileName);
 
-    const int status = statusOf(child);
+    EXPECT_NE(refusal(m_fileName), "");
+
+    EXPECT_EQ(dxftest::contentOf(m_fileName), oldContent);
+    EXPECT_EQ(filesInFolder().size(), 1);
+}
+
+TEST_P(SaveFailureTest, AFullDiskLeavesNoNewFile)
+{
+    EXPECT_NE(refusal(m_fileName), "");
+
+    EXPECT_TRUE(filesInFolder().isEmpty());
+}
+
+TEST_P(SaveFailureTest, AProcessKilledInTheMiddleLeavesTheOldFile)
+{
+    dxftest::fileWith(oldContent, m_fileName);
+
+    const int status = statusOfKilledWriter(m_fileName);
 
     ASSERT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(WTERMSIG(status), SIGXFSZ);
-    EXPECT_EQ(content(), oldContent);
+    EXPECT_EQ(dxftest::contentOf(m_fileName), oldContent);
 }
 
-TEST_F(SaveFailureTest, AFullDiskLeavesTheOldFile)
-{
-    const pid_t child = inChild([this] {
-        std::signal(SIGXFSZ, SIG_IGN);
-        return saveBeyondLimit();
-    });
-
-    const int status = statusOf(child);
-
-    ASSERT_TRUE(WIFEXITED(status));
-    EXPECT_EQ(WEXITSTATUS(status), refused);
-    EXPECT_EQ(content(), oldContent);
-    EXPECT_EQ(filesInFolder().size(), 1);
-}
+INSTANTIATE_TEST_SUITE_P(, SaveFailureTest, ::testing::Values(bufferedBytes, largeBytes));
 
 } // namespace

@@ -12,6 +12,7 @@
 #include "tests/io/DrawingText.h"
 #include "tests/io/TestLocales.h"
 #include "tests/support/Builders.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/OtherEntity.h"
@@ -25,14 +26,12 @@
 #include <array>
 #include <cctype>
 #include <clocale>
-#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <future>
 #include <iterator>
 #include <memory>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -43,31 +42,6 @@ using namespace dxftest;
 
 namespace
 {
-
-/// Limits the size of the files that the process writes while it lives.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        rlimit limit = m_limit;
-        limit.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    Q_DISABLE_COPY(FileSizeLimit)
-
-    rlimit m_limit{};
-    void (*m_handler)(int);
-};
 
 /// Sets the folder for temporary files while it lives.
 class TemporaryFolder
