@@ -72,18 +72,11 @@ void Printing::print() const
     if (dialog.exec() != QDialog::Accepted)
         return;
 
-    const bool isPrinted = [&] {
+    const bool isTaken = [&] {
         const WaitCursor wait;
         return paintPage(printer, picture);
     }();
-    const QString file = printer.outputFileName();
-    if (!isPrinted)
-        showError(m_window, tr("The drawing cannot be printed."), m_fileName,
-                  file.isEmpty() ? tr("The printer does not take it.")
-                                 : tr("%1 cannot be written.").arg(file));
-    else if (!file.isEmpty() && !isWhole(file))
-        showError(m_window, tr("The drawing cannot be printed."), m_fileName,
-                  tr("%1 could not be written to its end. The disk may be full.").arg(file));
+    tellFailure(printer, isTaken);
 }
 
 void Printing::preview() const
@@ -92,7 +85,23 @@ void Printing::preview() const
     const Picture picture(m_document, Qt::white);
     prepare(printer, picture, m_fileName);
     QPrintPreviewDialog dialog(&printer, &m_window);
+    bool isTaken = false;
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&picture](QPrinter* page) { paintPage(*page, picture); });
-    dialog.exec();
+                     [&picture, &isTaken](QPrinter* page) { isTaken = paintPage(*page, picture); });
+    // It is accepted when the user has printed from it.
+    if (dialog.exec() == QDialog::Accepted)
+        tellFailure(printer, isTaken);
+}
+
+void Printing::tellFailure(const QPrinter& printer, bool isTaken) const
+{
+    const QString file = printer.outputFileName();
+    QString reason;
+    if (!isTaken)
+        reason = file.isEmpty() ? tr("The printer does not take it.")
+                                : tr("%1 cannot be written.").arg(file);
+    else if (!file.isEmpty() && !isWhole(file))
+        reason = tr("%1 could not be written to its end. The disk may be full.").arg(file);
+    if (!reason.isEmpty())
+        showError(m_window, tr("The drawing cannot be printed."), m_fileName, reason);
 }

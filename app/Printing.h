@@ -7,6 +7,7 @@
 #include <QString>
 
 class DXFDocument;
+class QPrinter;
 class QWidget;
 
 /**
@@ -28,6 +29,9 @@ public:
     void preview() const;
 
 private:
+    /// Says so if the printer has not taken the page, or has not written its file to the end.
+    void tellFailure(const QPrinter& printer, bool isTaken) const;
+
     QSharedPointer<DXFDocument> m_document;
     QString m_fileName;
     QWidget& m_window;

@@ -6,10 +6,12 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "tests/app/DialogRobot.h"
 #include "tests/support/Builders.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
+#include <QAction>
 #include <QFile>
 #include <QGraphicsScene>
 #include <QGraphicsView>
@@ -21,10 +23,6 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QTemporaryDir>
-
-#include <csignal>
-
-#include <sys/resource.h>
 
 using testing::HasSubstr;
 
@@ -109,6 +107,21 @@ protected:
         });
     }
 
+    /// Presses Print in the preview.
+    void expectPreview()
+    {
+        m_robot.expect<QPrintPreviewDialog>([](QPrintPreviewDialog& dialog) {
+            auto* preview = dialog.findChild<QPrintPreviewWidget*>();
+            EXPECT_TRUE(dxftest::eventually([preview] { return preview->pageCount() > 0; }));
+            const auto actions = dialog.findChildren<QAction*>();
+            for (QAction* action : actions) {
+                if (action->text() == QLatin1String("Print"))
+                    return action->trigger();
+            }
+            ADD_FAILURE() << "the preview cannot print";
+        });
+    }
+
     const QTemporaryDir m_folder;
     dxftest::DialogRobot m_robot;
     QWidget m_window;
@@ -173,16 +186,11 @@ TEST_F(PrintingTest, AFullDiskGivesABox)
     std::string error;
     expectDialog();
     m_robot.expectError(error);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit usual{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
-    const rlimit nothing{1, usual.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &nothing), 0);
+    {
+        const dxftest::FileSizeLimit limit(1);
+        printing(wideDrawing()).print();
+    }
 
-    printing(wideDrawing()).print();
-
-    setrlimit(RLIMIT_FSIZE, &usual);
-    std::signal(SIGXFSZ, handler);
     EXPECT_THAT(error, HasSubstr("The drawing cannot be printed."));
     EXPECT_THAT(error, HasSubstr("The disk may be full."));
 }
@@ -211,6 +219,43 @@ TEST_F(PrintingTest, PreviewShowsOnePage)
     printing(wideDrawing()).preview();
 
     EXPECT_EQ(pages, 1);
+}
+
+TEST_F(PrintingTest, PreviewPrintsOnePage)
+{
+    expectPreview();
+    expectDialog();
+
+    printing(wideDrawing()).preview();
+
+    EXPECT_EQ(content().count("/Type /Page\n"), 1);
+}
+
+TEST_F(PrintingTest, AFullDiskAfterThePreviewGivesABox)
+{
+    std::string error;
+    expectPreview();
+    expectDialog();
+    m_robot.expectError(error);
+    {
+        const dxftest::FileSizeLimit limit(1);
+        printing(wideDrawing()).preview();
+    }
+
+    EXPECT_THAT(error, HasSubstr("The drawing cannot be printed."));
+    EXPECT_THAT(error, HasSubstr("The disk may be full."));
+}
+
+TEST_F(PrintingTest, AFullDeviceAfterThePreviewGivesABox)
+{
+    std::string error;
+    expectPreview();
+    expectDialog(QStringLiteral("/dev/full"));
+    m_robot.expectError(error);
+
+    printing(wideDrawing()).preview();
+
+    EXPECT_THAT(error, HasSubstr("/dev/full"));
 }
 
 TEST_F(PrintingTest, ThePageIsUprightAndWhite)
