@@ -37,6 +37,7 @@ DrawingFiles::DrawingFiles(DXFViewer& viewer, EditHistory& history, QWidget& win
     , m_history(history)
     , m_window(window)
     , m_recent(m_settings)
+    , m_folder(m_settings)
 {
     m_drawingDue.setSingleShot(true);
     m_drawingDue.setInterval(drawingDueMs);
@@ -131,6 +132,7 @@ void DrawingFiles::show(const QString& fileName, const DrawingRead& drawing)
     m_saved = FileMark();
     setFileName(fileName);
     m_recent.add(fileName);
+    m_folder.noteFile(fileName);
     Q_EMIT drawingRead(*m_awaited);
     // The drawing must not be seen before it is fitted.
     drawingView(m_viewer).setUpdatesEnabled(false);
@@ -152,19 +154,15 @@ void DrawingFiles::onDrawingDue()
 
 void DrawingFiles::chooseDrawing()
 {
-    QFileDialog dialog(&m_window, tr("Open"), folder());
+    QFileDialog dialog(&m_window, tr("Open"), m_folder.path());
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters({tr("DXF drawings (*.dxf *.DXF)"), tr("All files (*)")});
     const QString fileName = chosenFile(dialog);
-    if (!fileName.isEmpty())
-        open(fileName);
-}
-
-/// The folder of the drawing, or of the last one.
-QString DrawingFiles::folder() const
-{
-    const QString last = m_fileName.isEmpty() ? m_recent.names().value(0) : m_fileName;
-    return QFileInfo(last).path();
+    if (fileName.isEmpty())
+        return;
+    // Noted even if the drawing cannot be read: then the user wants another from there.
+    m_folder.noteFile(fileName);
+    open(fileName);
 }
 
 bool DrawingFiles::save()
@@ -220,6 +218,7 @@ bool DrawingFiles::write(const QString& fileName)
     m_saved = FileMark(fileName);
     m_history.noteSaved();
     m_recent.add(fileName);
+    m_folder.noteFile(fileName);
     setFileName(fileName);
     return true;
 }

@@ -4,6 +4,7 @@
 
 #include "BackgroundReader.h"
 #include "FileMark.h"
+#include "LastFolder.h"
 #include "RecentFiles.h"
 #include "Settings.h"
 
@@ -76,7 +77,6 @@ private:
     bool mayReplace(const QString& fileName);
     bool write(const QString& fileName);
     void setFileName(const QString& fileName);
-    QString folder() const;
 
     DXFViewer& m_viewer;
     EditHistory& m_history;
@@ -84,6 +84,7 @@ private:
     BackgroundReader m_reader;
     Settings m_settings;
     RecentFiles m_recent;
+    LastFolder m_folder;
     QVector<QAction*> m_drawingActions;
 
     QString m_fileName;

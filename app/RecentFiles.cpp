@@ -3,11 +3,11 @@
 #include "RecentFiles.h"
 
 #include "FileNames.h"
+#include "Settings.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
-#include <QSettings>
 
 namespace
 {
@@ -31,7 +31,7 @@ QString menuText(const QString& fileName)
 
 } // namespace
 
-RecentFiles::RecentFiles(QSettings& settings, QObject* parent)
+RecentFiles::RecentFiles(Settings& settings, QObject* parent)
     : QObject(parent)
     , m_settings(settings)
 {

@@ -6,7 +6,7 @@
 #include <QStringList>
 
 class QMenu;
-class QSettings;
+class Settings;
 
 /**
  * The drawings that were opened last, the newest first, and the menu that offers them.
@@ -21,7 +21,7 @@ public:
     static constexpr int most = 10;
 
     /// The settings must outlive it.
-    explicit RecentFiles(QSettings& settings, QObject* parent = nullptr);
+    explicit RecentFiles(Settings& settings, QObject* parent = nullptr);
 
     QStringList names() const;
     void add(const QString& fileName);
@@ -38,5 +38,5 @@ private:
     void fill(QMenu& menu);
     void write(const QStringList& names);
 
-    QSettings& m_settings;
+    Settings& m_settings;
 };

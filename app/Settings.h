@@ -4,14 +4,16 @@
 
 #include <QSettings>
 
-/// What the program remembers from run to run: one file for all of its parts, in the user's folder
-/// for such files. The file may hold anything.
+/**
+ * What the program remembers from run to run: one file for all of its parts, in the user's folder
+ * for such files.
+ *
+ * The values are texts, lists of texts, numbers, true and false. The file may hold anything: what
+ * cannot be read counts as not there. A file that cannot be written whole stays as it was.
+ */
 class Settings : public QSettings
 {
 public:
-    Settings()
-        : QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("dxfviewer"),
-                    QStringLiteral("dxfviewer"))
-    {
-    }
+    Settings();
+    ~Settings() override;
 };

@@ -44,7 +44,8 @@ WindowMemory::WindowMemory(QMainWindow& window, Navigation& navigation, Appearan
 void WindowMemory::restore()
 {
     const Settings settings;
-    if (!m_window.restoreGeometry(settings.value(geometryKey).toByteArray()))
+    const QByteArray geometry = settings.value(geometryKey).toByteArray();
+    if (!m_window.restoreGeometry(QByteArray::fromBase64(geometry)))
         m_window.resize(initialSize.boundedTo(m_window.screen()->availableSize() * initialShare));
     m_navigation.setAsStored(choiceIn(settings, asStoredKey, false));
     m_appearance.setGround(
@@ -58,7 +59,8 @@ void WindowMemory::restore()
 void WindowMemory::remember() const
 {
     Settings settings;
-    settings.setValue(geometryKey, m_window.saveGeometry());
+    // The settings hold texts, no bytes.
+    settings.setValue(geometryKey, QString::fromLatin1(m_window.saveGeometry().toBase64()));
     settings.setValue(asStoredKey, m_navigation.isAsStored());
     settings.setValue(groundKey, nameOf(m_appearance.ground()));
     settings.setValue(textsKey, m_choices.choices().showsTexts);

@@ -13,6 +13,7 @@
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/app/DialogRobot.h"
 #include "tests/support/Builders.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
@@ -37,14 +38,12 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
-#include <csignal>
 #include <memory>
 #include <set>
-
-#include <sys/resource.h>
 
 using dxftest::contentOf;
 using dxftest::DialogRobot;
@@ -69,6 +68,10 @@ const QByteArray mixedDrawing =
     "0\nARC\n8\n0\n10\n0\n20\n0\n40\n30\n50\n0\n51\n90\n"
     "0\nINSERT\n8\n0\n2\nB\n10\n-50\n20\n0\n"
     "0\nHATCH\n8\n0\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n";
+/// A polyline and a text.
+const QByteArray textDrawing = "0\nSECTION\n2\nENTITIES\n"
+                               "0\nLWPOLYLINE\n8\n0\n90\n2\n70\n0\n10\n0\n20\n-9\n10\n50\n20\n-9\n"
+                               "0\nTEXT\n8\n0\n10\n0\n20\n0\n40\n10\n1\nHall\n0\nENDSEC\n0\nEOF\n";
 const QByteArray hatchOnly = "0\nSECTION\n2\nENTITIES\n0\nHATCH\n8\n0\n0\nENDSEC\n0\nEOF\n";
 
 /// The polylines of a document, each once. The plain reader may list one several times.
@@ -131,6 +134,25 @@ protected:
     void open(const QString& fileName)
     {
         waitForDrawing([&] { m_window->openDrawing(fileName); });
+    }
+
+    /// The folder in which the dialog of Open starts.
+    QString folderOffered()
+    {
+        QString folder;
+        m_robot.expect<QFileDialog>([&folder](QFileDialog& dialog) {
+            folder = dialog.directory().path();
+            dialog.reject();
+        });
+        action("&Open…").trigger();
+        return folder;
+    }
+
+    void restart()
+    {
+        m_window.reset();
+        m_window = std::make_unique<MainWindow>();
+        m_window->show();
     }
 
     /// Opens a file that cannot be read, and keeps the text of the box.
@@ -308,14 +330,17 @@ TEST_F(MainWindowTest, AsksBeforeAViewChoiceDiscardsEdits)
 
 TEST_F(MainWindowTest, TheChoiceOfTextsReadsTheDrawingAgain)
 {
-    open(fileWith(mixedDrawing, QStringLiteral("mixed.dxf")));
-    const auto before = shownDocument(viewer());
-    ASSERT_TRUE(action("&Texts").isChecked());
+    open(fileWith(textDrawing, QStringLiteral("text.dxf")));
+    const int countWithText = polylineCount();
+    ASSERT_GT(countWithText, 1);
 
-    action("&Texts").trigger();
+    waitForDrawing([this] { action("&Texts").trigger(); });
+    EXPECT_EQ(polylineCount(), 1);
+    EXPECT_TRUE(statusShows("Not shown: 1 text"));
 
-    EXPECT_TRUE(dxftest::eventually([&] { return shownDocument(viewer()) != before; }));
-    EXPECT_EQ(polylineCount(), 3);
+    waitForDrawing([this] { action("&Texts").trigger(); });
+    EXPECT_EQ(polylineCount(), countWithText);
+    EXPECT_FALSE(statusShows("Not shown"));
 }
 
 TEST_F(MainWindowTest, KeysZoomAndFit)
@@ -413,6 +438,9 @@ TEST_F(MainWindowTest, NonsenseInTheSettingsDoesNoHarm)
     for (const QByteArray& nonsense :
          {QByteArray("[window]\ngeometry=@ByteArray(xx)\n[view]\nbackground=purple\n"
                      "asStored=@Variant(\\0\\0)\n"),
+          QByteArray("[General]\nrecentDrawings=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff)\n"),
+          QByteArray(R"({"view/background":["a"],"window/geometry":"xx","lastFolder":{"a":1}})"),
+          QByteArray("[view]\nbackground=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n"),
           QByteArray(4096, '\xFF'), QByteArray("\0\0[[[=;\n%%%", 10)}) {
         m_window.reset();
         ASSERT_TRUE(QDir().mkpath(QFileInfo(fileName).path()));
@@ -471,6 +499,62 @@ TEST_F(MainWindowTest, KeyOpensTheDrawingThatIsChosen)
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
 }
 
+TEST_F(MainWindowTest, OffersTheFolderOfTheLastDrawing)
+{
+    open(crossFile());
+    EXPECT_EQ(folderOffered(), path(QString()));
+
+    restart();
+    EXPECT_EQ(folderOffered(), path(QString()));
+
+    Q_EMIT action("Open &Recent").menu()->aboutToShow();
+    action("Clear List").trigger();
+    restart();
+    EXPECT_EQ(folderOffered(), path(QString()));
+}
+
+TEST_F(MainWindowTest, OffersTheFolderOfAFileThatCannotBeRead)
+{
+    open(crossFile());
+    ASSERT_TRUE(QDir(path(QString())).mkdir(QStringLiteral("inner")));
+    std::string error;
+    m_robot.expectFileName(fileWith("no drawing", QStringLiteral("inner/bad.dxf")));
+    m_robot.expectError(error);
+    action("&Open…").trigger();
+    ASSERT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+
+    EXPECT_EQ(folderOffered(), path(QStringLiteral("inner")));
+
+    restart();
+    EXPECT_EQ(folderOffered(), path(QStringLiteral("inner")));
+}
+
+TEST_F(MainWindowTest, OffersTheFolderOfASavedCopy)
+{
+    open(crossFile());
+    ASSERT_TRUE(QDir(path(QString())).mkdir(QStringLiteral("inner")));
+    m_robot.expectFileName(path(QStringLiteral("inner/copy.dxf")));
+    action("Save &As…").trigger();
+
+    restart();
+    EXPECT_EQ(folderOffered(), path(QStringLiteral("inner")));
+}
+
+TEST_F(MainWindowTest, OffersTheCurrentFolderInPlaceOfOneThatIsGone)
+{
+    const QString current = QDir::currentPath();
+    EXPECT_EQ(folderOffered(), current);
+
+    for (const QVariant& folder :
+         {QVariant(QStringLiteral("/no/such/folder")), QVariant(QStringLiteral("relative")),
+          QVariant(QStringList{QStringLiteral("/"), QStringLiteral("/tmp")}), QVariant(7)}) {
+        Settings().setValue(QStringLiteral("lastFolder"), folder);
+        restart();
+
+        EXPECT_EQ(folderOffered(), current);
+    }
+}
+
 TEST_F(MainWindowTest, MenuOpensNothingWhenNothingIsChosen)
 {
     m_robot.expect<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
@@ -482,9 +566,24 @@ TEST_F(MainWindowTest, MenuOpensNothingWhenNothingIsChosen)
 
 TEST_F(MainWindowTest, KeyQuits)
 {
+    QTimer::singleShot(0, m_window.get(), [this] { press(Qt::Key_Q); });
+    QTimer::singleShot(dxftest::patienceMs, m_window.get(), [] { QApplication::exit(1); });
+
+    // The program ends with its last window.
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_FALSE(m_window->isVisible());
+}
+
+TEST_F(MainWindowTest, KeyQuitsOnlyAfterAQuestionAboutEdits)
+{
+    openInEditMode();
+    erase();
+    m_robot.expectButton(QMessageBox::Cancel);
+
     press(Qt::Key_Q);
 
-    EXPECT_FALSE(m_window->isVisible());
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_TRUE(m_window->isWindowModified());
 }
 
 TEST_F(MainWindowTest, StartsInEditModeWhenAsked)
@@ -978,16 +1077,11 @@ TEST_F(MainWindowTest, AFullDiskGivesABoxAndLeavesTheOldFile)
     m_robot.expectFileName(fileName);
     m_robot.expect<QMessageBox>(&chooseReplace);
     m_robot.expectError(error);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit usual{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
-    const rlimit nothing{1, usual.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &nothing), 0);
+    {
+        const dxftest::FileSizeLimit limit(1);
+        press(Qt::Key_S);
+    }
 
-    press(Qt::Key_S);
-
-    setrlimit(RLIMIT_FSIZE, &usual);
-    std::signal(SIGXFSZ, handler);
     EXPECT_THAT(error, HasSubstr("The drawing cannot be saved."));
     EXPECT_THAT(error, HasSubstr("old.dxf"));
     EXPECT_EQ(contentOf(fileName), "old");
@@ -1000,15 +1094,19 @@ TEST_F(MainWindowTest, SavesInTheMiddleOfAStroke)
     SceneMouse mouse(view());
     mouse.press({50, 60});
     mouse.move({50, 61});
+    ASSERT_TRUE(dxftest::eventually([this] { return polylineCount() == 1; }));
     m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
 
     press(Qt::Key_S);
-    mouse.release({50, 62});
+    mouse.move({-50, 0});
+    mouse.release({-50, 0});
 
     const auto kept = DXFDocument::load(contentOf(path(QStringLiteral("kept.dxf"))));
-    ASSERT_NE(kept, nullptr);
-    EXPECT_LE(kept->entities().size(), 2);
-    EXPECT_EQ(polylineCount(), 1);
+    ASSERT_EQ(polylinesOf(*kept).size(), 1);
+    EXPECT_EQ(dxftest::pointsOf(*dxftest::polylineAt(kept, 0)),
+              (QVector<QPointF>{{-100, 0}, {100, 0}}));
+    EXPECT_EQ(polylineCount(), 0);
+    EXPECT_TRUE(m_window->isWindowModified());
 }
 
 TEST_F(MainWindowTest, MayOpenADrawingInTheMiddleOfAStroke)

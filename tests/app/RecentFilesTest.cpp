@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include "RecentFiles.h"
+#include "Settings.h"
 
+#include "tests/support/ChildProcess.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
@@ -9,13 +12,10 @@
 #include <QDir>
 #include <QFile>
 #include <QMenu>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include <csignal>
-
-#include <sys/resource.h>
+using testing::HasSubstr;
 
 namespace
 {
@@ -23,7 +23,11 @@ namespace
 class RecentFilesTest : public dxftest::LoggedTest
 {
 protected:
-    RecentFilesTest() { m_recent.serve(m_menu); }
+    RecentFilesTest()
+    {
+        m_settings.clear();
+        m_recent.serve(m_menu);
+    }
 
     QString path(const QString& name) const { return m_folder.filePath(name); }
     QString numbered(int number) const { return path(QStringLiteral("%1.dxf").arg(number)); }
@@ -45,7 +49,7 @@ protected:
     }
 
     const QTemporaryDir m_folder;
-    QSettings m_settings{m_folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
+    Settings m_settings;
     RecentFiles m_recent{m_settings};
     QMenu m_menu;
 };
@@ -97,19 +101,22 @@ TEST_F(RecentFilesTest, TheListIsKeptInTheSettings)
 {
     m_recent.add(numbered(1));
 
-    QSettings settings(m_settings.fileName(), QSettings::IniFormat);
+    Settings settings;
     EXPECT_EQ(RecentFiles(settings).names(), QStringList{numbered(1)});
+    EXPECT_THAT(dxftest::contentOf(m_settings.fileName()).toStdString(), HasSubstr("1.dxf"));
 }
 
 TEST_F(RecentFilesTest, TwoProgramsShareOneList)
 {
-    QSettings settings(m_settings.fileName(), QSettings::IniFormat);
-    RecentFiles other(settings);
     m_recent.add(numbered(1));
-    other.add(numbered(2));
+    const int status = dxftest::statusOfChild([this] {
+        m_recent.add(numbered(2));
+        return EXIT_SUCCESS;
+    });
+    ASSERT_EQ(status, EXIT_SUCCESS);
     m_recent.add(numbered(3));
 
-    EXPECT_EQ(other.names(), (QStringList{numbered(3), numbered(2), numbered(1)}));
+    EXPECT_EQ(m_recent.names(), (QStringList{numbered(3), numbered(2), numbered(1)}));
 }
 
 TEST_F(RecentFilesTest, OneCanBeRemoved)
@@ -140,16 +147,11 @@ TEST_F(RecentFilesTest, NonsenseInTheSettingsIsSkipped)
 
 TEST_F(RecentFilesTest, SettingsThatCannotBeWrittenDoNoHarm)
 {
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit usual{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
-    const rlimit nothing{1, usual.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &nothing), 0);
+    {
+        const dxftest::FileSizeLimit limit(1);
+        m_recent.add(numbered(1));
+    }
 
-    m_recent.add(numbered(1));
-
-    setrlimit(RLIMIT_FSIZE, &usual);
-    std::signal(SIGXFSZ, handler);
     EXPECT_EQ(m_recent.names(), QStringList{numbered(1)});
 }
 

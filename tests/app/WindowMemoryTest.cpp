@@ -5,11 +5,14 @@
 #include "DrawingFiles.h"
 #include "EditHistory.h"
 #include "Navigation.h"
+#include "RecentFiles.h"
 #include "Settings.h"
 #include "ViewChoices.h"
 #include "ViewerParts.h"
 
 #include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/support/ChildProcess.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 
@@ -20,6 +23,8 @@
 #include <QScreen>
 
 #include <memory>
+
+using testing::HasSubstr;
 
 namespace
 {
@@ -131,10 +136,11 @@ TEST_F(WindowMemoryTest, NonsenseInTheFileGivesTheDefaults)
     ASSERT_TRUE(QDir().mkpath(QFileInfo(fileName).path()));
     for (const QByteArray& nonsense :
          {QByteArray(4096, '\xFF'), QByteArray("\0\0[[[=;\n%%%", 10),
-          QByteArray("[window]\ngeometry=@ByteArray(xx)\n[view]\nbackground=purple\n"
-                     "asStored=purple\ntexts=purple\nonlyPolylines=purple\n"),
-          QByteArray("[window]\ngeometry=@Variant(\\0\\0)\n[view]\nbackground=\n"
-                     "asStored=@Variant(\\0\\0)\ntexts=\nonlyPolylines=a, b\n")}) {
+          QByteArray("[view]\nbackground=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n"),
+          QByteArray(R"({"window/geometry":"xx","view/background":"purple",)"
+                     R"("view/asStored":"purple","view/texts":0,"view/onlyPolylines":"purple"})"),
+          QByteArray(R"({"window/geometry":[],"view/background":{"a":1},)"
+                     R"("view/asStored":null,"view/texts":[1],"view/onlyPolylines":["true"]})")}) {
         dxftest::fileWith(nonsense, fileName);
 
         Remembered next;
@@ -142,6 +148,36 @@ TEST_F(WindowMemoryTest, NonsenseInTheFileGivesTheDefaults)
 
         expectFirstTime(next);
     }
+}
+
+TEST_F(WindowMemoryTest, AFullDiskLeavesWhatWasRemembered)
+{
+    m_it.memory.remember();
+    const QString fileName = Settings().fileName();
+    const QByteArray old = dxftest::contentOf(fileName);
+    change(m_it);
+    {
+        const dxftest::FileSizeLimit limit(1);
+        m_it.memory.remember();
+    }
+
+    EXPECT_EQ(dxftest::contentOf(fileName), old);
+}
+
+TEST_F(WindowMemoryTest, RecentDrawingsOfAnotherProgramStay)
+{
+    m_it.memory.remember();
+    const int status = dxftest::statusOfChild([] {
+        Settings settings;
+        RecentFiles(settings).add(QStringLiteral("/a.dxf"));
+        return EXIT_SUCCESS;
+    });
+    ASSERT_EQ(status, EXIT_SUCCESS);
+
+    change(m_it);
+    m_it.memory.remember();
+
+    EXPECT_THAT(dxftest::contentOf(Settings().fileName()).toStdString(), HasSubstr("/a.dxf"));
 }
 
 TEST_F(WindowMemoryTest, ValuesOfOtherTypesGiveTheDefaults)
