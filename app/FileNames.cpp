@@ -14,6 +14,8 @@ constexpr QChar ellipsis(0x2026);
 
 bool isInvisible(QChar character)
 {
+    if (character.isNonCharacter())
+        return true;
     switch (character.category()) {
     case QChar::Other_Control:
     case QChar::Other_Format:

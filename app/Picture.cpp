@@ -3,6 +3,7 @@
 #include "Picture.h"
 
 #include "DrawingFile.h"
+#include "FileNames.h"
 #include "Polylines.h"
 
 #include <dxfviewer/model/DXFDocument.h>
@@ -80,7 +81,7 @@ QTransform fitted(const QRectF& bounds, const QSize& size)
 Picture::Picture(const QSharedPointer<DXFDocument>& document, const QColor& ground,
                  const QString& title)
     : m_ground(ground)
-    , m_title(title)
+    , m_title(readableName(title))
 {
     document->setup();
     take(*document);
@@ -150,7 +151,12 @@ void Picture::paintStrokes(QPainter& painter, int thinnestPx) const
     // is enough for pixels but not for the coordinates of a survey.
     for (const Stroke& stroke : m_strokes) {
         painter.setPen(QPen(stroke.color, std::max(thinnestPx, stroke.width)));
-        painter.drawPolyline(toPixels.map(stroke.points));
+        const QPolygonF points = toPixels.map(stroke.points);
+        // Without a length a wide line is not painted.
+        if (points.boundingRect().isNull())
+            painter.drawPoint(points.constFirst());
+        else
+            painter.drawPolyline(points);
     }
 }
 

@@ -46,6 +46,17 @@ void take(const QPointF& point, std::optional<Measures::Box>& box)
                      std::max(box->greatest.y(), point.y())};
 }
 
+/// Text as a part of a line. With control characters or separators it would look like more.
+QByteArray fieldWith(QByteArray text, const QByteArray& separators = QByteArray())
+{
+    for (char& character : text) {
+        const bool isControl = static_cast<unsigned char>(character) < ' ';
+        if (isControl || separators.contains(character))
+            character = ' ';
+    }
+    return text;
+}
+
 } // namespace
 
 Measures measuresOf(const DXFDocument& document)
@@ -74,8 +85,7 @@ QByteArray reportLine(const QString& fileName, const Measures& measures,
 {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     const auto box = measures.box.value_or(Measures::Box{QPointF(none, none), QPointF(none, none)});
-    // A name with a line end or a tab must still be one field.
-    QByteArray line = QFile::encodeName(fileName).replace('\t', ' ').replace('\n', ' ');
+    QByteArray line = fieldWith(QFile::encodeName(fileName));
     for (const double number :
          {measures.length, box.least.x(), box.least.y(), box.greatest.x(), box.greatest.y()})
         line += '\t' + QByteArray::number(number, 'g', digits);
@@ -83,7 +93,8 @@ QByteArray reportLine(const QString& fileName, const Measures& measures,
     if (skipped.isEmpty())
         line += separator;
     for (auto kind = skipped.cbegin(); kind != skipped.cend(); ++kind) {
-        line += separator + kind.key().toUtf8() + '=' + QByteArray::number(kind.value());
+        line += separator + fieldWith(kind.key().toUtf8(), ",=") + '='
+                + QByteArray::number(kind.value());
         separator = ',';
     }
     return line;

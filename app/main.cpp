@@ -49,7 +49,7 @@ int writePicture(const QString& drawing, const CommandLine& commandLine)
     if (!content.document)
         return EXIT_FAILURE;
     const Picture picture(content.document, colorOf(commandLine.ground()),
-                          readableName(QFileInfo(drawing).fileName()));
+                          QFileInfo(drawing).fileName());
     QString reason;
     if (!picture.write(commandLine.picture(), reason))
         return failWithFile(CommandLine::tr("The picture cannot be written."),
@@ -73,6 +73,8 @@ int report(const QStringList& drawings)
         const QByteArray line = reportLine(drawing, measuresOf(*content.document), content.skipped);
         std::printf("%s\n", line.constData());
     }
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+        return fail(CommandLine::tr("The report cannot be written."));
     return result;
 }
 

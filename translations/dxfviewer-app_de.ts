@@ -63,6 +63,10 @@
         <translation>Das Bild kann nicht gespeichert werden.</translation>
     </message>
     <message>
+        <source>The report cannot be written.</source>
+        <translation>Der Bericht kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
         <source>DXF Viewer</source>
         <translation>DXF-Betrachter</translation>
     </message>

@@ -63,6 +63,10 @@
         <translation>No se puede guardar la imagen.</translation>
     </message>
     <message>
+        <source>The report cannot be written.</source>
+        <translation>No se puede escribir el informe.</translation>
+    </message>
+    <message>
         <source>DXF Viewer</source>
         <translation>Visor DXF</translation>
     </message>

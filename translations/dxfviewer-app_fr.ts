@@ -63,6 +63,10 @@
         <translation>Impossible d’enregistrer l’image.</translation>
     </message>
     <message>
+        <source>The report cannot be written.</source>
+        <translation>Impossible d’écrire le rapport.</translation>
+    </message>
+    <message>
         <source>DXF Viewer</source>
         <translation>Visionneuse DXF</translation>
     </message>

@@ -63,6 +63,10 @@
         <translation>画像を保存できません。</translation>
     </message>
     <message>
+        <source>The report cannot be written.</source>
+        <translation>レポートを書き込めません。</translation>
+    </message>
+    <message>
         <source>DXF Viewer</source>
         <translation>DXF ビューアー</translation>
     </message>

@@ -63,6 +63,10 @@
         <translation>Не удаётся сохранить изображение.</translation>
     </message>
     <message>
+        <source>The report cannot be written.</source>
+        <translation>Не удаётся записать отчёт.</translation>
+    </message>
+    <message>
         <source>DXF Viewer</source>
         <translation>Просмотр DXF</translation>
     </message>

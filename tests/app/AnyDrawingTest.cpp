@@ -188,18 +188,26 @@ TEST_F(AnyDrawingTest, MayGrowOrVanishWhileItIsRead)
 {
     const QByteArray content =
         "0\nSECTION\n2\nENTITIES\n"
-        + QByteArray("0\nLWPOLYLINE\n8\n0\n90\n1\n10\n0\n20\n0\n").repeated(9999);
+        + QByteArray("0\nLWPOLYLINE\n8\n0\n90\n2\n10\n0\n20\n0\n10\n1\n20\n0\n").repeated(9999);
     const QString name = written(content, QStringLiteral("changing.dxf"));
-    isShownAfter([&] {
+    const bool isGrownShown = isShownAfter([&] {
         m_window.openDrawing(name);
         QFile file(name);
         ASSERT_TRUE(file.open(QIODevice::Append));
         file.write(QByteArray("0\nLWPOLYLINE\n8\n0\n").repeated(9999));
     });
-    isShownAfter([&] {
+    ASSERT_TRUE(isGrownShown);
+    EXPECT_GE(polylines(), 9999);
+
+    // Once it is open it can be read to its end.
+    const bool isVanishedShown = isShownAfter([&] {
         m_window.openDrawing(name);
         EXPECT_TRUE(QFile::remove(name));
     });
+    EXPECT_TRUE(isVanishedShown
+                || m_boxes.texts.constLast().contains(QLatin1String("There is no such file.")));
+    EXPECT_EQ(files().fileName(), name);
+    EXPECT_GE(polylines(), 9999);
     EXPECT_FALSE(files().reader().isReading());
 
     EXPECT_FALSE(open(name));

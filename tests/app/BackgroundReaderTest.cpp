@@ -8,6 +8,7 @@
 #include "tests/support/Patience.h"
 #include "tests/support/WindowParts.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -25,6 +26,12 @@ QByteArray drawingOf(int polylines)
     static const QByteArray polyline =
         "0\nLWPOLYLINE\n8\n0\n90\n2\n70\n0\n10\n0\n20\n0\n10\n9\n20\n9\n";
     return "0\nSECTION\n2\nENTITIES\n" + polyline.repeated(polylines) + "0\nENDSEC\n0\nEOF\n";
+}
+
+/// How many threads the process has.
+auto threadCount()
+{
+    return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs).size();
 }
 
 class BackgroundReaderTest : public dxftest::LoggedTest
@@ -154,12 +161,17 @@ TEST_F(BackgroundReaderTest, CancelWithoutAReadDoesNothing)
 
 TEST_F(BackgroundReaderTest, ADestroyedReaderSignalsNothing)
 {
+    const QString fileName = largeFile();
+    const auto before = threadCount();
     auto reader = std::make_unique<BackgroundReader>();
     QObject::connect(reader.get(), &BackgroundReader::finished,
                      [] { ADD_FAILURE() << "nobody waits for this"; });
-    reader->read(largeFile());
+    reader->read(fileName);
+    ASSERT_GT(threadCount(), before);
 
     reader.reset();
+
+    EXPECT_TRUE(dxftest::eventually([before] { return threadCount() <= before; }));
     QCoreApplication::processEvents();
 }
 

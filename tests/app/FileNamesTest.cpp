@@ -33,9 +33,9 @@ TEST_F(FileNamesTest, OrdinaryNamesAreShownAsTheyAre)
 
 TEST_F(FileNamesTest, ControlCharactersAreReplaced)
 {
-    const QString name = QStringLiteral("a\nb\tc\u202Ed.dxf");
+    const QString name = QStringLiteral("a\nb\tc\u202Ed%1.dxf").arg(QChar(0xFFFF));
 
-    EXPECT_EQ(readableName(name), QStringLiteral("a\uFFFDb\uFFFDc\uFFFDd.dxf"));
+    EXPECT_EQ(readableName(name), QStringLiteral("a\uFFFDb\uFFFDc\uFFFDd\uFFFD.dxf"));
 }
 
 TEST_F(FileNamesTest, LongNamesKeepTheirEnds)

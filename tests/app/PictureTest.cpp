@@ -10,6 +10,7 @@
 #include <QImage>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 
 #include <limits>
 
@@ -185,10 +186,28 @@ TEST_F(PictureTest, AnSvgHasATitleAndTheSizeOfThePdf)
     EXPECT_THAT(pdf, HasSubstr("/MediaBox [0 0 1000"));
 }
 
+TEST_F(PictureTest, TheTitleIsReadableWhateverTheFileIsCalled)
+{
+    const QString svg = fileName(QStringLiteral("a.svg"));
+    const QString title = QStringLiteral("<a>\x01\n%1.dxf").arg(QChar(0xFFFF));
+    QString reason;
+
+    ASSERT_TRUE(Picture(drawingOf({{0, 0}, {9, 9}}), QColor(background), title).write(svg, reason));
+
+    EXPECT_THAT(contentOf(svg), HasSubstr("<title>&lt;a&gt;\uFFFD\uFFFD\uFFFD.dxf</title>"));
+    QXmlStreamReader xml(contentOf(svg).c_str());
+    while (!xml.atEnd())
+        xml.readNext();
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+}
+
 TEST_F(PictureTest, AHorizontalLineAndAPointGivePictures)
 {
-    EXPECT_TRUE(isStroke(png(drawingOf({{0, 7}, {1000, 7}})), 0.5, 0.5));
-    EXPECT_FALSE(png(drawingOf({{5, 5}, {5, 5}})).isNull());
+    for (const QImage& image :
+         {png(drawingOf({{0, 7}, {1000, 7}})), png(drawingOf({{5, 5}, {5, 5}}))}) {
+        EXPECT_TRUE(isStroke(image, 0.5, 0.5));
+        EXPECT_FALSE(isStroke(image, 0.5, 0.1));
+    }
 }
 
 TEST_F(PictureTest, ALongFlatDrawingKeepsAHeight)

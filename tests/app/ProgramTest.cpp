@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
@@ -20,7 +21,7 @@ namespace
 {
 
 struct Outcome {
-    int exitCode;
+    int exitCode = -1;
     std::string output;
     std::string errors;
 };
@@ -28,9 +29,12 @@ struct Outcome {
 class ProgramTest : public dxftest::LoggedTest
 {
 protected:
-    Outcome run(const QStringList& arguments, const QString& language = QStringLiteral("en"))
+    Outcome run(const QStringList& arguments, const QString& language = QStringLiteral("en"),
+                const QString& outputFile = QString())
     {
         QProcess process;
+        if (!outputFile.isEmpty())
+            process.setStandardOutputFile(outputFile);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         environment.insert(QStringLiteral("LANGUAGE"), language);
@@ -246,6 +250,16 @@ TEST_F(ProgramTest, ReportsOnTheOthersWhenOneCannotBeRead)
     EXPECT_THAT(nothing.errors, HasSubstr("no drawing to report on"));
 }
 
+TEST_F(ProgramTest, SaysThatAReportCannotBeWritten)
+{
+    const Outcome outcome =
+        run({QStringLiteral("--report"), sample(QStringLiteral("bracket-part.dxf"))},
+            QStringLiteral("en"), QStringLiteral("/dev/full"));
+
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_THAT(outcome.errors, HasSubstr("The report cannot be written."));
+}
+
 TEST_F(ProgramTest, LogsOnlyWhenVerbose)
 {
     // A block of one line, 900 million times.
@@ -301,6 +315,26 @@ TEST_F(ProgramTest, SaysThatAPictureCannotBeWritten)
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_THAT(outcome.errors,
                 HasSubstr("The picture cannot be written.\n/no/such/folder/out.png\n"));
+}
+
+TEST_F(ProgramTest, AFullDiskLeavesTheOldPicture)
+{
+    const QString drawing =
+        dxftest::fileWith("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n-1\n20\n2\n11\n2\n21\n6\n"
+                          "0\nENDSEC\n0\nEOF\n",
+                          path(QStringLiteral("line.dxf")));
+    for (const char* name : {"out.png", "out.svg", "out.pdf"}) {
+        const QString picture = dxftest::fileWith("old", path(QLatin1String(name)));
+        Outcome outcome;
+        {
+            const dxftest::FileSizeLimit limit(1);
+            outcome = runPicture(picture, drawing);
+        }
+
+        EXPECT_EQ(outcome.exitCode, 1) << name;
+        EXPECT_THAT(outcome.errors, HasSubstr("The picture cannot be written.")) << name;
+        EXPECT_EQ(dxftest::contentOf(picture), "old") << name;
+    }
 }
 
 TEST_F(ProgramTest, TakesNamesOfOtherAlphabets)

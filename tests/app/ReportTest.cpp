@@ -56,8 +56,15 @@ TEST_F(ReportTest, IsALineOfFields)
 
 TEST_F(ReportTest, KeepsItsFieldsWhateverTheNameIs)
 {
-    EXPECT_EQ(reportLine(QStringLiteral("a\tb\n.dxf"), Measures(), {}),
-              "a b .dxf\t0\tnan\tnan\tnan\tnan\t");
+    EXPECT_EQ(reportLine(QStringLiteral("a\tb\n\r\v.dxf"), Measures(), {}),
+              "a b   .dxf\t0\tnan\tnan\tnan\tnan\t");
+}
+
+TEST_F(ReportTest, KeepsItsFieldsWhateverTheKindsAre)
+{
+    EXPECT_EQ(reportLine(QStringLiteral("a"), Measures(),
+                         {{QStringLiteral("A\tB,C=D\n\rE"), 1}, {QStringLiteral("F"), 2}}),
+              "a\t0\tnan\tnan\tnan\tnan\tA B C D  E=1,F=2");
 }
 
 } // namespace
