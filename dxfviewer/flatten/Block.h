@@ -43,6 +43,8 @@ struct Block {
     };
 
     bool isDefined = false;
+    /// Whether it holds what lies on a layout. Nothing inserts such a block.
+    bool isLayout = false;
     Point3 base;
     Chains chains;
     std::vector<BlockInsert> inserts;
@@ -50,6 +52,12 @@ struct Block {
     /// Number of entities by their kind.
     std::map<std::size_t, int> shown;
     std::map<std::size_t, int> skipped;
+    /// Number of entities that are left out: on a layout, and invisible.
+    int elsewhere = 0;
+    int invisible = 0;
+
+    /// Number of entities of any kind that show something or could.
+    int entityCount() const;
 };
 
 } // namespace dxfviewer

@@ -70,9 +70,13 @@ bool DocumentFiller::fill(long long most)
 void DocumentFiller::count(const BlockWeights& weights)
 {
     for (std::size_t id = 0; id < m_drawing.blockCount(); ++id) {
-        if (!weights.isReached(id))
-            continue;
         const Block& block = m_drawing.block(id);
+        if (!weights.isReached(id)) {
+            m_elsewhere += block.isLayout ? block.entityCount() : 0;
+            continue;
+        }
+        m_elsewhere += block.elsewhere;
+        m_invisible += block.invisible;
         for (const auto& [kind, number] : block.shown)
             m_shown[kindName(kind)] += number;
         for (const auto& [kind, number] : block.skipped)

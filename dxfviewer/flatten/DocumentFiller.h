@@ -37,6 +37,9 @@ public:
     /// in a block counts once if the block is shown at all.
     QMap<QString, int> shown() const { return m_shown; }
     QMap<QString, int> skipped() const { return m_skipped; }
+    /// The entities that are left out, counted in the same way: on layouts, and invisible ones.
+    int elsewhere() const { return m_elsewhere; }
+    int invisible() const { return m_invisible; }
 
 private:
     /// An instance of a block, as far as it has been added.
@@ -69,6 +72,8 @@ private:
     Drawing& m_drawing;
     QMap<QString, int> m_shown;
     QMap<QString, int> m_skipped;
+    int m_elsewhere = 0;
+    int m_invisible = 0;
     /// The names of the document's layers, by the same name without case.
     QHash<QString, QString> m_layerNames;
 

@@ -17,6 +17,14 @@ std::string folded(std::string_view given)
         .toStdString();
 }
 
+/// The content of the layout that was used last stands among the entities, that of the others in
+/// blocks. Old drawings use the second name.
+bool isNameOfLayout(std::string_view given)
+{
+    const std::string name = folded(given);
+    return name.rfind("*paper_space", 0) == 0 || name.rfind("$paper_space", 0) == 0;
+}
+
 } // namespace
 
 namespace dxfviewer
@@ -44,6 +52,7 @@ std::size_t Drawing::define(std::string_view name, const Point3& base)
         m_blocks.emplace_back();
     }
     m_blocks[id].isDefined = true;
+    m_blocks[id].isLayout = isNameOfLayout(name);
     m_blocks[id].base = base;
     return id;
 }

@@ -168,7 +168,7 @@ void DrawingGatherer::addRecord()
 
 void DrawingGatherer::endPolyline()
 {
-    if (m_polyline && isShown(m_polyline->appearance)) {
+    if (m_polyline && admits(m_polyline->appearance, false)) {
         addShapes(m_polyline->kind, m_drawing.looks().idOf(m_polyline->appearance.look),
                   [this](Chains& chains, const Fineness& fineness) {
                       m_polyline->polyline.appendTo(chains, fineness);
@@ -181,7 +181,7 @@ void DrawingGatherer::endPolyline()
 void DrawingGatherer::addEntity()
 {
     const Appearance appearance = appearanceOf(m_record);
-    if (!isShown(appearance) || isHiddenAttribute(m_record))
+    if (!admits(appearance, isHiddenAttribute(m_record)))
         return;
 
     const std::size_t kind = m_drawing.kindId(m_record.name());
@@ -241,11 +241,24 @@ bool DrawingGatherer::append(Chains& chains, const Fineness& fineness) const
 }
 
 /// In a block the flag of paper space means nothing: the block is shown where it is inserted.
-bool DrawingGatherer::isShown(const Appearance& appearance) const
+bool DrawingGatherer::isElsewhere(const Appearance& appearance) const
 {
-    const bool isElsewhere =
-        appearance.look.isInPaperSpace && m_block == Drawing::model && !m_options.showsPaperSpace;
-    return !appearance.isInvisible && !isElsewhere;
+    return appearance.look.isInPaperSpace && m_block == Drawing::model
+           && !m_options.showsPaperSpace;
+}
+
+/// Whether an entity is to be shown. If not, it is counted.
+bool DrawingGatherer::admits(const Appearance& appearance, bool isHidden)
+{
+    if (isElsewhere(appearance)) {
+        ++block().elsewhere;
+        return false;
+    }
+    if (appearance.isInvisible || isHidden) {
+        ++block().invisible;
+        return false;
+    }
+    return true;
 }
 
 void DrawingGatherer::skip(std::size_t kind)

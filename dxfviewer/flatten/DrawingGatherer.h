@@ -58,7 +58,8 @@ private:
     template <typename Append>
     void addShapes(std::size_t kind, std::size_t look, Append append);
     bool append(Chains& chains, const Fineness& fineness) const;
-    bool isShown(const Appearance& appearance) const;
+    bool isElsewhere(const Appearance& appearance) const;
+    bool admits(const Appearance& appearance, bool isHidden);
     void skip(std::size_t kind);
     Block& block() { return m_drawing.block(m_block); }
 

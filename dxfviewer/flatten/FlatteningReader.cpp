@@ -49,5 +49,7 @@ bool FlatteningReader::finishReading()
     }
     m_shown = filler.shown();
     m_skipped = filler.skipped();
+    m_elsewhere = filler.elsewhere();
+    m_invisible = filler.invisible();
     return true;
 }

@@ -50,6 +50,13 @@ public:
     /// The entities that are not shown, counted in the same way. Entities that are invisible, or in
     /// a space that is not shown, are not counted.
     QMap<QString, int> skipped() const { return m_skipped; }
+    /// The number of entities that are left out because they lie on layouts: in paper space (group
+    /// 67), unless the options ask for it, and in the blocks of further layouts. Complete after
+    /// load().
+    int elsewhere() const { return m_elsewhere; }
+    /// The number of entities that are left out because they are invisible (group 60), hidden
+    /// attributes among them; those on layouts are not counted. Complete after load().
+    int invisible() const { return m_invisible; }
 
     /// @name Steps of load()
     /// @{
@@ -64,4 +71,6 @@ private:
     std::unique_ptr<dxfviewer::DrawingGatherer> m_gatherer;
     QMap<QString, int> m_shown;
     QMap<QString, int> m_skipped;
+    int m_elsewhere = 0;
+    int m_invisible = 0;
 };

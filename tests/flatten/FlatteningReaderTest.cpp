@@ -435,13 +435,15 @@ TEST_F(FlatteningReaderTest, EntitiesKeepTheirOrder)
               Chains({{{0, 0}, {1, 0}}, {{1, 0}, {2, 0}}, {{2, 0}, {3, 0}}, {{3, 0}, {4, 0}}}));
 }
 
-TEST_F(FlatteningReaderTest, InvisibleEntitiesAreLeftOutAndNotCounted)
+TEST_F(FlatteningReaderTest, InvisibleEntitiesAreLeftOutAndCountedApart)
 {
     const auto drawing = entities("LINE 60 1 11 1\nHATCH 60 1\nPOLYLINE 60 1\nVERTEX 10 0\n"
                                   "VERTEX 10 1\nSEQEND\nLINE 60 0 11 1");
 
     EXPECT_EQ(drawing.count(), 1);
     EXPECT_EQ(drawing.skipped, Counts());
+    EXPECT_EQ(drawing.invisible, 3);
+    EXPECT_EQ(drawing.elsewhere, 0);
 }
 
 TEST_F(FlatteningReaderTest, PaperSpaceIsShownOnRequest)
@@ -455,6 +457,8 @@ TEST_F(FlatteningReaderTest, PaperSpaceIsShownOnRequest)
 
     EXPECT_EQ(model.chains(), Chains({{{0, 0}, {2, 0}}}));
     EXPECT_EQ(model.skipped, Counts());
+    EXPECT_EQ(model.elsewhere, 3);
+    EXPECT_EQ(both.elsewhere, 0);
     EXPECT_EQ(both.count(), 3);
     EXPECT_EQ(both.skipped, Counts({{key("HATCH"), 1}}));
     EXPECT_TRUE(both.attributes(0)->inPaperSpace());
@@ -550,10 +554,37 @@ TEST_F(FlatteningReaderTest, LayerIsFoundWhateverItsCase)
     EXPECT_EQ(drawing.attributes(2)->layerName(), key("Others"));
 }
 
-TEST_F(FlatteningReaderTest, HiddenAttributesAreNotCounted)
+TEST_F(FlatteningReaderTest, HiddenAttributesAreInvisible)
 {
-    EXPECT_EQ(entities("ATTRIB 70 1 40 1 1 x\nATTRIB 70 8 40 1 1 x").skipped,
-              Counts({{key("ATTRIB"), 1}}));
+    const auto drawing = entities("ATTRIB 70 1 40 1 1 x\nATTRIB 70 8 40 1 1 x");
+
+    EXPECT_EQ(drawing.skipped, Counts({{key("ATTRIB"), 1}}));
+    EXPECT_EQ(drawing.invisible, 1);
+}
+
+TEST_F(FlatteningReaderTest, BlocksOfLayoutsAreCountedAsElsewhere)
+{
+    Parts parts;
+    parts.blocks = "BLOCK 2 *Paper_Space0\nLINE 67 1 11 1\nLINE 60 1 11 1\nHATCH\nINSERT 2 B\n"
+                   "VIEWPORT\nENDBLK\nBLOCK 2 $PAPER_SPACE\nLINE 11 1\nENDBLK\n"
+                   "BLOCK 2 *Model_Space\nLINE 11 1\nENDBLK\n"
+                   "BLOCK 2 B\nLINE 11 1\nLINE 60 1 11 1\nENDBLK";
+    parts.entities = "LINE 11 1\nTEXT 67 1 60 1 1 words";
+
+    const auto drawing = flattened(parts);
+
+    EXPECT_EQ(drawing.count(), 1);
+    EXPECT_EQ(drawing.elsewhere, 6);
+    EXPECT_EQ(drawing.invisible, 0);
+}
+
+TEST_F(FlatteningReaderTest, InvisibleEntitiesOfABlockCountOnceIfTheBlockIsInserted)
+{
+    Parts parts;
+    parts.blocks = "BLOCK 2 B\nLINE 11 1\nLINE 60 1 11 1\nENDBLK";
+    parts.entities = "INSERT 2 B\nINSERT 2 B";
+
+    EXPECT_EQ(flattened(parts).invisible, 1);
 }
 
 TEST_F(FlatteningReaderTest, HeaderAndOtherSectionsAreIgnored)

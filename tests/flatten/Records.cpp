@@ -97,6 +97,8 @@ Flattened flattened(const QByteArray& text, const FlatteningOptions& options)
     result.isRead = reader.load(text);
     result.shown = reader.shown();
     result.skipped = reader.skipped();
+    result.elsewhere = reader.elsewhere();
+    result.invisible = reader.invisible();
     return result;
 }
 

@@ -45,6 +45,8 @@ struct Flattened {
     bool isRead = false;
     QMap<QString, int> shown;
     QMap<QString, int> skipped;
+    int elsewhere = 0;
+    int invisible = 0;
 
     int count() const { return static_cast<int>(document->entities().size()); }
     QSharedPointer<DXFPolyline> polyline(int index) const;
