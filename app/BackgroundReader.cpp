@@ -64,6 +64,7 @@ void BackgroundReader::cancel()
         return;
     stop();
     Q_EMIT readingChanged();
+    Q_EMIT cancelled();
 }
 
 void BackgroundReader::stop()

@@ -27,7 +27,7 @@ public:
 
     /// Begins to read a file, and throws away what is being read.
     void read(const QString& fileName, const ReadingChoices& choices = {});
-    /// Throws away what is being read. No further signal tells of it.
+    /// Throws away what is being read.
     void cancel();
 
     bool isReading() const { return !m_fileName.isEmpty(); }
@@ -39,6 +39,8 @@ Q_SIGNALS:
     void readingChanged();
     /// How much of the file has been read, from 0 to 1, some times in a second.
     void progressed(double share);
+    /// What was being read is thrown away, and nothing else is read instead.
+    void cancelled();
     /// The file has been read, or cannot be.
     void finished(const QString& fileName, const DrawingRead& result);
 

@@ -3,15 +3,16 @@
 #pragma once
 
 #include "BackgroundReader.h"
+#include "DrawingSaver.h"
 #include "FileMark.h"
+#include "HandOver.h"
 #include "LastFolder.h"
 #include "RecentFiles.h"
 #include "Settings.h"
 
+#include <QKeySequence>
 #include <QObject>
-#include <QSharedPointer>
 #include <QString>
-#include <QTimer>
 
 class DXFDocument;
 class DXFViewer;
@@ -21,10 +22,10 @@ class QMenu;
 class QWidget;
 
 /**
- * The file that is shown: opening another, saving, and the questions on the way.
+ * Which drawing is shown, and how it is read: opening another, reloading, and the questions on the
+ * way.
  *
- * A drawing is read in the background; the one that is shown stays until then. The drawing window
- * does not say when a drawing is on screen or which file it is from. This class does.
+ * A drawing is read in the background; the one that is shown stays until then.
  */
 class DrawingFiles : public QObject
 {
@@ -41,26 +42,25 @@ public:
     /// Shows the drawing, after the user has agreed to throw unsaved edits away. If it cannot be
     /// read, a box says why, and the drawing on screen stays.
     void open(const QString& fileName);
-    /// Saves to the file of the last save, or asks for a name the first time.
-    bool save();
-    bool saveAs();
     /// Asks before unsaved edits are thrown away, and offers to save them.
     bool mayDiscardEdits();
 
     /// How drawings are read from now on. The one that is shown is read again, if the user agrees
-    /// to throw unsaved edits away; otherwise nothing changes, and false is returned.
+    /// to throw unsaved edits away; otherwise nothing changes, and false is returned. If it cannot
+    /// be read, or that is cancelled, the choices are again those of what is shown.
     bool setChoices(const ReadingChoices& choices);
     ReadingChoices choices() const { return m_choices; }
     /// How many entities of the drawing are not shown, by their names in DXF.
-    QMap<QString, int> skipped() const { return m_skipped; }
+    QMap<QString, int> skipped() const { return m_saver.drawing().skipped; }
 
     /// Empty if no drawing is shown.
-    QString fileName() const { return m_fileName; }
+    QString fileName() const { return m_saver.fileName(); }
 
     BackgroundReader& reader() { return m_reader; }
 
 Q_SIGNALS:
     void fileNameChanged();
+    void choicesChanged();
     /// The drawing is about to be shown. A slot can prepare it for that.
     void drawingRead(DXFDocument& document);
     /// The drawing is on screen.
@@ -69,38 +69,30 @@ Q_SIGNALS:
 private Q_SLOTS:
     void chooseDrawing();
     void onRead(const QString& fileName, const DrawingRead& result);
-    void onDrawingDue();
+    void onSaved();
+    void keepShownChoices();
 
 private:
-    QAction* addAction(QMenu& menu, const QString& text, const char* key);
+    QAction* addAction(QMenu& menu, const QString& text, const char* key,
+                       QKeySequence::StandardKey standard);
+    void read(const QString& fileName);
     void show(const QString& fileName, const DrawingRead& drawing);
-    bool mayReplace(const QString& fileName);
-    bool write(const QString& fileName);
-    void setFileName(const QString& fileName);
+    void changeChoices(const ReadingChoices& choices);
+    void onFileNameChanged();
 
-    DXFViewer& m_viewer;
     EditHistory& m_history;
     QWidget& m_window;
     BackgroundReader m_reader;
+    HandOver m_handOver;
+    DrawingSaver m_saver;
     Settings m_settings;
     RecentFiles m_recent;
     LastFolder m_folder;
     QVector<QAction*> m_drawingActions;
 
-    QString m_fileName;
-    // The file that was opened: it holds more than the window can save. Empty once it is replaced.
-    QString m_richerFile;
-    // The file of the last save. It is replaced without a question if nobody else has changed it.
-    FileMark m_saved;
-    // The edits that the user has agreed to throw away for the drawing that is being read.
-    int m_discardedRevision = 0;
-
     ReadingChoices m_choices;
-    QMap<QString, int> m_shown;
-    QMap<QString, int> m_skipped;
-
-    // Runs until the drawing that was read last is on screen.
-    QTimer m_drawingDue;
-    QSharedPointer<DXFDocument> m_awaited;
-    QSharedPointer<DXFDocument> m_previousDocument;
+    // About the drawing that is being read: its file as it was before that, and the edits that the
+    // user has agreed to throw away for it.
+    FileMark m_mark;
+    int m_discardedRevision = 0;
 };

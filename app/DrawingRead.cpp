@@ -64,6 +64,8 @@ DrawingRead everythingOf(const QByteArray& content, const FlatteningOptions& opt
         result.document.reset();
     result.shown = reader.shown();
     result.skipped = reader.skipped();
+    result.elsewhere = reader.elsewhere();
+    result.invisible = reader.invisible();
     return result;
 }
 
@@ -72,6 +74,7 @@ DrawingRead parsed(const QByteArray& content, const ReadingChoices& choices, Rea
     ReadingPlace place(content, watch);
     DrawingRead result = choices.onlyPolylines ? onlyPolylinesOf(content, place)
                                                : everythingOf(content, choices.flattening(), place);
+    result.choices = choices;
     if (!result.document)
         result.reason = DrawingReadTexts::tr("It cannot be read.");
     return result;

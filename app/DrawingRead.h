@@ -21,6 +21,11 @@ struct DrawingRead {
     /// if only polylines are read.
     QMap<QString, int> shown;
     QMap<QString, int> skipped;
+    /// How many entities are left out because they lie on layouts, and because they are invisible.
+    int elsewhere = 0;
+    int invisible = 0;
+    /// How it was read.
+    ReadingChoices choices;
 };
 
 /// Reads a drawing. May be called in any thread, but in one at a time.

@@ -92,7 +92,7 @@ void EditHistory::onEditorGone()
 void EditHistory::onStackMoved()
 {
     ++m_revision;
-    m_hasSteps = m_group.activeStack() && m_group.activeStack()->count() > 0;
+    m_hasSteps = m_strokes.hasSteps();
 }
 
 void EditHistory::onCleanChanged(bool /*isClean*/)

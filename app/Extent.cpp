@@ -11,8 +11,20 @@ namespace
 // The least extent, in shares of the distance from the origin.
 constexpr double leastShare = 1e-9;
 constexpr double unitExtent = 1.0;
+// At the least scale this is twenty pixels.
+constexpr double mostExtent = 1e13;
+// Farther from the origin even the largest extent is smaller than the least share.
+constexpr double mostDistance = mostExtent / leastShare;
 
 } // namespace
+
+bool fitsIntoView(const QRectF& bounds)
+{
+    const QRectF rect = bounds.normalized();
+    // No comparison with what is not a number is true.
+    return rect.width() <= mostExtent && rect.height() <= mostExtent
+           && std::abs(rect.x()) <= mostDistance && std::abs(rect.y()) <= mostDistance;
+}
 
 QRectF grown(const QRectF& rect, double share)
 {

@@ -16,6 +16,11 @@ bool FileMark::isOf(const QString& fileName) const
     return !m_fileName.isEmpty() && m_fileName == QFileInfo(fileName).absoluteFilePath();
 }
 
+bool FileMark::operator==(const FileMark& other) const
+{
+    return m_fileName == other.m_fileName && m_time == other.m_time && m_size == other.m_size;
+}
+
 bool FileMark::isChanged() const
 {
     const QFileInfo info(m_fileName);

@@ -14,6 +14,8 @@ public:
     explicit FileMark(const QString& fileName);
 
     bool isOf(const QString& fileName) const;
+    /// Whether both were taken of the same state of the same file.
+    bool operator==(const FileMark& other) const;
     /// Whether the file exists and has changed.
     bool isChanged() const;
 

@@ -2,6 +2,8 @@
 
 #include "HelpMenu.h"
 
+#include "Keys.h"
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QDialog>
@@ -51,7 +53,7 @@ HelpMenu::~HelpMenu() = default;
 void HelpMenu::addActionsTo(QMenu& menu)
 {
     QAction* erase = menu.addAction(tr("How to &Erase"));
-    erase->setShortcut(QKeySequence::fromString(QStringLiteral("F1")));
+    erase->setShortcuts(keysOf({QStringLiteral("F1")}, {QKeySequence::HelpContents}));
     connect(erase, &QAction::triggered, this, &HelpMenu::showHowToErase);
     menu.addSeparator();
     QAction* about = menu.addAction(tr("&About"));

@@ -2,6 +2,8 @@
 
 #include "KindWords.h"
 
+#include "DrawingRead.h"
+
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -118,6 +120,16 @@ QString listOf(QStringList parts)
     return KindWordsTexts::tr("%1 and %2").arg(parts.join(separator()), last);
 }
 
+/// For a drawing of which only the polylines were read: nothing was counted.
+QString plainLossesSentence()
+{
+    return KindWordsTexts::tr(
+        "It is the drawing that was opened. Only layers, line types and polylines are saved. "
+        "Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, "
+        "blocks and the colours of single polylines. Once anything was erased, closed polylines "
+        "lose their closing edge, and bulges become straight.");
+}
+
 } // namespace
 
 QString notShownSentence(const QMap<QString, int>& skipped)
@@ -128,10 +140,12 @@ QString notShownSentence(const QMap<QString, int>& skipped)
     return KindWordsTexts::tr("Not shown: %1").arg(words.parts.join(separator()));
 }
 
-QString changesSentence(const QMap<QString, int>& shown, const QMap<QString, int>& skipped)
+QString changesSentence(const DrawingRead& drawing)
 {
-    const Words changed = inWords(shown);
-    const Words lost = inWords(skipped);
+    if (drawing.choices.onlyPolylines)
+        return plainLossesSentence();
+    const Words changed = inWords(drawing.shown);
+    const Words lost = inWords(drawing.skipped);
     QStringList sentences{KindWordsTexts::tr("It is the drawing that was opened.")};
     if (changed.total > 0)
         sentences += (changed.total == 1 ? KindWordsTexts::tr("%1 becomes polylines.")
@@ -141,15 +155,10 @@ QString changesSentence(const QMap<QString, int>& shown, const QMap<QString, int
         sentences += (lost.total == 1 ? KindWordsTexts::tr("%1 is lost.")
                                       : KindWordsTexts::tr("%1 are lost."))
                          .arg(listOf(lost.parts));
+    if (drawing.elsewhere > 0)
+        sentences += KindWordsTexts::tr("What lies on layouts is lost.");
+    if (drawing.invisible > 0)
+        sentences += KindWordsTexts::tr("What is invisible is lost.");
     sentences += KindWordsTexts::tr("Only layers, line types and polylines are saved.");
     return sentences.join(QLatin1Char(' '));
-}
-
-QString plainLossesSentence()
-{
-    return KindWordsTexts::tr(
-        "It is the drawing that was opened. Only layers, line types and polylines are saved. "
-        "Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, "
-        "blocks and the colours of single polylines. Once anything was erased, closed polylines "
-        "lose their closing edge, and bulges become straight.");
 }

@@ -6,11 +6,14 @@
 #include "DrawingFiles.h"
 #include "EditHistory.h"
 #include "EmptyPage.h"
+#include "Extent.h"
 #include "FileNames.h"
 #include "HelpMenu.h"
+#include "Keys.h"
 #include "KindWords.h"
 #include "Navigation.h"
 #include "PictureExport.h"
+#include "Polylines.h"
 #include "Printing.h"
 #include "ReadingBar.h"
 #include "StatusLine.h"
@@ -110,17 +113,19 @@ void MainWindow::makeFileMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     m_files->addActionsTo(*menu);
-    connect(addDrawingAction(*menu, tr("Export &Picture…")), &QAction::triggered, this,
+    connect(addDrawingAction(*menu, tr("&Export Picture…")), &QAction::triggered, this,
             [this] { exportPicture(*m_viewer, m_files->fileName(), *this); });
     menu->addSeparator();
     QAction* print = addDrawingAction(*menu, tr("&Print…"));
-    print->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+P")));
+    print->setShortcuts(keysOf({QStringLiteral("Ctrl+P")}, {QKeySequence::Print}));
     connect(print, &QAction::triggered, this, [this] { printing().print(); });
     connect(addDrawingAction(*menu, tr("Print Pre&view…")), &QAction::triggered, this,
             [this] { printing().preview(); });
     menu->addSeparator();
     QAction* quit = menu->addAction(tr("&Quit"));
-    quit->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+Q")));
+    // With its only window the program ends, so the key that closes a window does the same.
+    quit->setShortcuts(
+        keysOf({QStringLiteral("Ctrl+Q")}, {QKeySequence::Quit, QKeySequence::Close}));
     connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
@@ -173,18 +178,28 @@ void MainWindow::editNextDrawing()
 
 void MainWindow::onDrawingShown()
 {
-    const DXFGraphicsItem* item = shownItem(*m_viewer);
-    m_navigation->showDrawing(item->boundingRect());
+    DXFGraphicsItem* item = shownItem(*m_viewer);
+    const bool fits = fitsIntoView(item->boundingRect());
+    // Painting it would take what the numbers of the scale cannot give.
+    item->setVisible(fits);
+    m_navigation->showDrawing(fits ? item->boundingRect() : QRectF());
     m_statusLine->setNotShown(notShownSentence(m_files->skipped()));
-    m_emptyPage->showWords(item->document()->entities().isEmpty()
-                               ? tr("There is nothing in this drawing that can be shown.")
-                               : QString());
+    m_emptyPage->showWords(wordsInsteadOf(*item));
     QAction& edit = editAction(*m_viewer);
-    edit.setEnabled(true);
-    if (m_editsNext)
+    edit.setEnabled(fits);
+    if (m_editsNext && fits)
         edit.setChecked(true);
     drawingView(*m_viewer).setFocus();
     m_editsNext = false;
+}
+
+/// What the window says if there is nothing to be seen of a drawing.
+QString MainWindow::wordsInsteadOf(const DXFGraphicsItem& item)
+{
+    if (!hasSegments(*item.document()))
+        return tr("There is nothing in this drawing that can be shown.");
+    return item.isVisible() ? QString()
+                            : tr("The drawing's coordinates are too large to be shown.");
 }
 
 void MainWindow::onFileNameChanged()
@@ -212,8 +227,9 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->setAccepted(m_files->mayDiscardEdits());
     if (!event->isAccepted())
         return;
-    m_files->reader().cancel();
+    // A choice that is still being read is what the user wants to see.
     memory().remember();
+    m_files->reader().cancel();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)

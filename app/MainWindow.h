@@ -6,6 +6,7 @@
 
 class Appearance;
 class DrawingFiles;
+class DXFGraphicsItem;
 class DXFViewer;
 class EditHistory;
 class Printing;
@@ -55,6 +56,7 @@ private:
     QAction* addDrawingAction(QMenu& menu, const QString& text);
     void makeViewMenu();
     WindowMemory memory();
+    static QString wordsInsteadOf(const DXFGraphicsItem& item);
 
     DXFViewer* m_viewer;
     EditHistory* m_history;

@@ -3,6 +3,7 @@
 #include "Navigation.h"
 
 #include "Extent.h"
+#include "Keys.h"
 #include "QtVersions.h"
 
 #include <QAction>
@@ -62,10 +63,10 @@ void Navigation::addActionsTo(QMenu& menu)
 {
     QAction* in = menu.addAction(tr("Zoom &In"), this, &Navigation::zoomIn);
     // On keyboards where plus needs Shift, the user presses the key of the equals sign.
-    in->setShortcuts(QKeySequence::keyBindings(QKeySequence::ZoomIn)
-                     << QKeySequence::fromString(QStringLiteral("Ctrl+=")));
+    in->setShortcuts(
+        keysOf({QStringLiteral("Ctrl++"), QStringLiteral("Ctrl+=")}, {QKeySequence::ZoomIn}));
     QAction* out = menu.addAction(tr("Zoom &Out"), this, &Navigation::zoomOut);
-    out->setShortcuts(QKeySequence::ZoomOut);
+    out->setShortcuts(keysOf({QStringLiteral("Ctrl+-")}, {QKeySequence::ZoomOut}));
     QAction* fitted = menu.addAction(tr("&Fit in Window"), this, &Navigation::fit);
     fitted->setShortcut(QKeySequence::fromString(QStringLiteral("Ctrl+0")));
     menu.addSeparator();
@@ -204,8 +205,9 @@ void Navigation::zoomAt(const QPointF& place, double factor)
     Q_EMIT zoomChanged();
 }
 
-void Navigation::setScale(double scale)
+void Navigation::setScale(double wanted)
 {
+    const double scale = std::max(wanted, leastScale);
     // The drawing's middle becomes the origin: the coordinates of a survey times the scale would
     // not fit into the numbers of the scroll bars.
     const QPointF center = m_bounds.center();

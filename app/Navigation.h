@@ -61,7 +61,7 @@ private:
     bool takeMouse(const QMouseEvent& event);
     void zoomAt(const QPointF& place, double factor);
     void zoomAtCenter(double factor);
-    void setScale(double scale);
+    void setScale(double wanted);
     double scaleThatFits() const;
     QPointF sceneAt(const QPointF& place) const;
     void bring(const QPointF& scenePoint, const QPointF& place);

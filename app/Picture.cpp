@@ -26,6 +26,8 @@ namespace
 constexpr double longEdgePx = 2000.0;
 constexpr double shortestEdgePx = 40.0;
 constexpr double marginPerSize = 0.02;
+// The square of the scale must still be a number.
+constexpr double mostSize = 1e150;
 constexpr int pixelsPerInch = 144;
 // At this many pixels a line on paper is a fifth of a millimetre wide. On a screen a picture is
 // often seen smaller than it is.
@@ -56,6 +58,8 @@ bool isFinite(const QRectF& rect)
 std::optional<QRectF> withMargin(const QRectF& rect)
 {
     const double size = std::max(rect.width(), rect.height());
+    if (size > mostSize)
+        return std::nullopt;
     const double margin = size > 0.0 ? size * marginPerSize : 1.0;
     const QRectF grown = rect.adjusted(-margin, -margin, margin, margin);
     // If rounding removes the margin, the size is 0 and cannot be divided by.

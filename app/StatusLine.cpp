@@ -8,6 +8,7 @@
 
 #include <dxfviewer/edit/DXFEditor.h>
 #include <dxfviewer/model/DXFDocument.h>
+#include <dxfviewer/render/DXFGraphicsItem.h>
 #include <dxfviewer/viewer/DXFViewer.h>
 
 #include <QAction>
@@ -91,9 +92,18 @@ void StatusLine::setNotShown(const QString& sentence)
 
 void StatusLine::setZoom(double zoom)
 {
+    if (!showsDrawing())
+        return m_zoom->clear();
     const double percent = zoom * 100.0;
     setSteadyText(*m_zoom,
                   tr("%1 %").arg(QLocale().toString(percent, 'f', percent < 10.0 ? 1 : 0)));
+}
+
+/// A drawing that is too large is there, but not visible.
+bool StatusLine::showsDrawing() const
+{
+    const DXFGraphicsItem* item = m_view ? shownItem(m_viewer) : nullptr;
+    return item && item->isVisible();
 }
 
 void StatusLine::countLater()
@@ -158,7 +168,7 @@ bool StatusLine::eventFilter(QObject* watched, QEvent* event)
 
 void StatusLine::showPlace(const QPoint& place)
 {
-    if (!m_view || !shownItem(m_viewer))
+    if (!showsDrawing())
         return;
     const QPointF point = m_view->viewportTransform().inverted().map(QPointF(place));
     const int decimals = decimalsAt(m_view->transform().m11());

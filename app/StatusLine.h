@@ -25,7 +25,7 @@ public:
 
     /// The sentence about what the drawing holds and the window does not show; may be empty.
     void setNotShown(const QString& sentence);
-    /// 1 is the whole drawing.
+    /// 1 is the whole drawing. Nothing is said without a drawing.
     void setZoom(double zoom);
 
 public Q_SLOTS:
@@ -41,6 +41,7 @@ private Q_SLOTS:
 
 private:
     QLabel* addField(QStatusBar& bar);
+    bool showsDrawing() const;
     void showPlace(const QPoint& place);
     void showHint();
 

@@ -2,6 +2,7 @@
 
 #include "StrokeHistory.h"
 
+#include "Keys.h"
 #include "Machine.h"
 #include "Polylines.h"
 
@@ -53,23 +54,16 @@ StrokeHistory::StrokeHistory(QGraphicsView& view, QObject* parent)
 StrokeHistory::StrokeHistory(QGraphicsView& view, qint64 memoryBytes, QObject* parent)
     : QObject(parent)
     , m_memoryBytes(memoryBytes)
-    , m_undo(makeAction(tr("Undo"), {QStringLiteral("Ctrl+Z")}))
-    , m_redo(makeAction(tr("Redo"), {QStringLiteral("Ctrl+Shift+Z"), QStringLiteral("Ctrl+Y")}))
+    , m_undo(new QAction(tr("Undo"), this))
+    , m_redo(new QAction(tr("Redo"), this))
 {
+    m_undo->setShortcuts(keysOf({QStringLiteral("Ctrl+Z")}, {QKeySequence::Undo}));
+    m_redo->setShortcuts(
+        keysOf({QStringLiteral("Ctrl+Shift+Z"), QStringLiteral("Ctrl+Y")}, {QKeySequence::Redo}));
     connect(m_undo, &QAction::triggered, this, &StrokeHistory::undo);
     connect(m_redo, &QAction::triggered, this, &StrokeHistory::redo);
     view.viewport()->installEventFilter(this);
     updateActions();
-}
-
-QAction* StrokeHistory::makeAction(const QString& text, const QStringList& keys)
-{
-    auto* action = new QAction(text, this);
-    QList<QKeySequence> shortcuts;
-    for (const QString& key : keys)
-        shortcuts += QKeySequence::fromString(key);
-    action->setShortcuts(shortcuts);
-    return action;
 }
 
 int StrokeHistory::stepsThatFit(qint64 memoryBytes, const DXFDocument& document)

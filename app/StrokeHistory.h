@@ -34,6 +34,10 @@ public:
     /// destroyed.
     void follow(DXFEditor& editor, const DXFDocument& document);
 
+    /// Whether the drawing holds steps of this period of edit mode, be it ones that can no longer
+    /// be undone.
+    bool hasSteps() const { return m_place > 0; }
+
     QAction* undoAction() const { return m_undo; }
     QAction* redoAction() const { return m_redo; }
 
@@ -58,7 +62,6 @@ private:
     // stay valid when the stack drops its oldest steps.
     using Place = qint64;
 
-    QAction* makeAction(const QString& text, const QStringList& keys);
     void onIndexChanged(int index);
     bool isPush(int index) const;
     void onPush(int index);

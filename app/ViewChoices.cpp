@@ -13,6 +13,7 @@ ViewChoices::ViewChoices(DrawingFiles& files, QObject* parent)
     , m_texts(makeAction(tr("&Texts"), &ReadingChoices::showsTexts))
     , m_onlyPolylines(makeAction(tr("Only &Polylines"), &ReadingChoices::onlyPolylines))
 {
+    connect(&files, &DrawingFiles::choicesChanged, this, [this] { setChoices(choices()); });
 }
 
 ViewChoices::~ViewChoices() = default;

@@ -149,18 +149,6 @@
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
-        <source>Save As</source>
-        <translation>Speichern unter</translation>
-    </message>
-    <message>
-        <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>Die Zeichnung konnte nicht in eine temporäre Datei geschrieben werden. Vielleicht ist der Ordner für temporäre Dateien voll.</translation>
-    </message>
-    <message>
-        <source>The drawing cannot be saved.</source>
-        <translation>Die Zeichnung kann nicht gespeichert werden.</translation>
-    </message>
-    <message>
         <source>Open &amp;Recent</source>
         <translation>&amp;Zuletzt geöffnet</translation>
     </message>
@@ -175,6 +163,25 @@
     <message>
         <source>Save &amp;As…</source>
         <translation>Speichern &amp;unter …</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
+    <message>
+        <source>DXF drawings (*.dxf *.DXF)</source>
+        <translation>DXF-Zeichnungen (*.dxf *.DXF)</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
+        <translation>Die Zeichnung konnte nicht in eine temporäre Datei geschrieben werden. Vielleicht ist der Ordner für temporäre Dateien voll.</translation>
+    </message>
+    <message>
+        <source>The drawing cannot be saved.</source>
+        <translation>Die Zeichnung kann nicht gespeichert werden.</translation>
     </message>
     <message>
         <source>Another program has changed it since it was saved. These changes are lost.</source>
@@ -478,6 +485,14 @@
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>Das ist die geöffnete Zeichnung. Gespeichert werden nur Layer, Linientypen und Polylinien. Alles andere in der Datei geht verloren: Linien, Bögen, Texte, Bemaßungen, Schraffuren, Blöcke und die Farben einzelner Polylinien. Sobald etwas ausradiert wurde, verlieren geschlossene Polylinien ihr schließendes Segment, und Bogensegmente werden gerade.</translation>
     </message>
+    <message>
+        <source>What lies on layouts is lost.</source>
+        <translation>Was auf Layouts liegt, geht verloren.</translation>
+    </message>
+    <message>
+        <source>What is invisible is lost.</source>
+        <translation>Was unsichtbar ist, geht verloren.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -486,8 +501,8 @@
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
-        <translation>&amp;Bild exportieren …</translation>
+        <source>&amp;Export Picture…</source>
+        <translation>Bild &amp;exportieren …</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -524,6 +539,10 @@
     <message>
         <source>There is nothing in this drawing that can be shown.</source>
         <translation>In dieser Zeichnung gibt es nichts, was dargestellt werden kann.</translation>
+    </message>
+    <message>
+        <source>The drawing&apos;s coordinates are too large to be shown.</source>
+        <translation>Die Koordinaten der Zeichnung sind zu groß, um sie darzustellen.</translation>
     </message>
 </context>
 <context>

@@ -149,6 +149,29 @@
         <translation>Todos los archivos (*)</translation>
     </message>
     <message>
+        <source>Open &amp;Recent</source>
+        <translation>Abrir &amp;reciente</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>R&amp;ecargar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Guardar &amp;como…</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
+    <message>
+        <source>DXF drawings (*.dxf *.DXF)</source>
+        <translation>Dibujos DXF (*.dxf *.DXF)</translation>
+    </message>
+    <message>
         <source>Save As</source>
         <translation>Guardar como</translation>
     </message>
@@ -159,22 +182,6 @@
     <message>
         <source>The drawing cannot be saved.</source>
         <translation>No se puede guardar el dibujo.</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>Abrir &amp;reciente</translation>
-    </message>
-    <message>
-        <source>Re&amp;load</source>
-        <translation>Re&amp;cargar</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Guardar</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Guardar &amp;como…</translation>
     </message>
     <message>
         <source>Another program has changed it since it was saved. These changes are lost.</source>
@@ -478,6 +485,14 @@
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>Es el dibujo abierto. Solo se guardan capas, tipos de línea y polilíneas. Todo lo demás que contiene el archivo se pierde: líneas, arcos, textos, cotas, sombreados, bloques y los colores propios de cada polilínea. En cuanto se borra algo, las polilíneas cerradas pierden su segmento de cierre y los segmentos curvos se vuelven rectos.</translation>
     </message>
+    <message>
+        <source>What lies on layouts is lost.</source>
+        <translation>Lo que está en las presentaciones se pierde.</translation>
+    </message>
+    <message>
+        <source>What is invisible is lost.</source>
+        <translation>Lo que es invisible se pierde.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -486,7 +501,7 @@
         <translation>&amp;Archivo</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
+        <source>&amp;Export Picture…</source>
         <translation>Exportar &amp;imagen…</translation>
     </message>
     <message>
@@ -524,6 +539,10 @@
     <message>
         <source>There is nothing in this drawing that can be shown.</source>
         <translation>En este dibujo no hay nada que se pueda mostrar.</translation>
+    </message>
+    <message>
+        <source>The drawing&apos;s coordinates are too large to be shown.</source>
+        <translation>Las coordenadas del dibujo son demasiado grandes para mostrarlo.</translation>
     </message>
 </context>
 <context>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>&amp;Background</source>
-        <translation>Arrière-&amp;plan</translation>
+        <translation>Arrière-p&amp;lan</translation>
     </message>
 </context>
 <context>
@@ -149,18 +149,6 @@
         <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
-        <source>Save As</source>
-        <translation>Enregistrer sous</translation>
-    </message>
-    <message>
-        <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>Le dessin n’a pas pu être écrit dans un fichier temporaire. Le dossier des fichiers temporaires est peut-être plein.</translation>
-    </message>
-    <message>
-        <source>The drawing cannot be saved.</source>
-        <translation>Impossible d’enregistrer le dessin.</translation>
-    </message>
-    <message>
         <source>Open &amp;Recent</source>
         <translation>Ouvrir un fichier &amp;récent</translation>
     </message>
@@ -175,6 +163,25 @@
     <message>
         <source>Save &amp;As…</source>
         <translation>Enregistrer &amp;sous…</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
+    <message>
+        <source>DXF drawings (*.dxf *.DXF)</source>
+        <translation>Dessins DXF (*.dxf *.DXF)</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
+        <translation>Le dessin n’a pas pu être écrit dans un fichier temporaire. Le dossier des fichiers temporaires est peut-être plein.</translation>
+    </message>
+    <message>
+        <source>The drawing cannot be saved.</source>
+        <translation>Impossible d’enregistrer le dessin.</translation>
     </message>
     <message>
         <source>Another program has changed it since it was saved. These changes are lost.</source>
@@ -478,6 +485,14 @@
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>C’est le dessin qui a été ouvert. Seuls les calques, les types de ligne et les polylignes sont enregistrés. Tout le reste du fichier est perdu : lignes, arcs, textes, cotes, hachures, blocs et couleurs propres à chaque polyligne. Dès que quelque chose est effacé, les polylignes fermées perdent leur segment de fermeture et les segments courbes deviennent droits.</translation>
     </message>
+    <message>
+        <source>What lies on layouts is lost.</source>
+        <translation>Ce qui se trouve sur les présentations est perdu.</translation>
+    </message>
+    <message>
+        <source>What is invisible is lost.</source>
+        <translation>Ce qui est invisible est perdu.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -486,7 +501,7 @@
         <translation>&amp;Fichier</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
+        <source>&amp;Export Picture…</source>
         <translation>Exporter en tant qu’&amp;image…</translation>
     </message>
     <message>
@@ -511,7 +526,7 @@
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>&amp;Aide</translation>
+        <translation>A&amp;ide</translation>
     </message>
     <message>
         <source>Open a drawing, or drop one here</source>
@@ -524,6 +539,10 @@
     <message>
         <source>There is nothing in this drawing that can be shown.</source>
         <translation>Ce dessin ne contient rien qui puisse être représenté.</translation>
+    </message>
+    <message>
+        <source>The drawing&apos;s coordinates are too large to be shown.</source>
+        <translation>Les coordonnées du dessin sont trop grandes pour qu’il soit représenté.</translation>
     </message>
 </context>
 <context>
@@ -665,7 +684,7 @@
     <name>ViewChoices</name>
     <message>
         <source>&amp;Texts</source>
-        <translation>&amp;Textes</translation>
+        <translation>Te&amp;xtes</translation>
     </message>
     <message>
         <source>Only &amp;Polylines</source>

@@ -149,18 +149,6 @@
         <translation>すべてのファイル (*)</translation>
     </message>
     <message>
-        <source>Save As</source>
-        <translation>名前を付けて保存</translation>
-    </message>
-    <message>
-        <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>図面を一時ファイルに書き込めませんでした。一時ファイルのフォルダーがいっぱいの可能性があります。</translation>
-    </message>
-    <message>
-        <source>The drawing cannot be saved.</source>
-        <translation>図面を保存できません。</translation>
-    </message>
-    <message>
         <source>Open &amp;Recent</source>
         <translation>最近使ったファイル(&amp;R)</translation>
     </message>
@@ -175,6 +163,25 @@
     <message>
         <source>Save &amp;As…</source>
         <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
+    <message>
+        <source>DXF drawings (*.dxf *.DXF)</source>
+        <translation>DXF 図面 (*.dxf *.DXF)</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>名前を付けて保存</translation>
+    </message>
+    <message>
+        <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
+        <translation>図面を一時ファイルに書き込めませんでした。一時ファイルのフォルダーがいっぱいの可能性があります。</translation>
+    </message>
+    <message>
+        <source>The drawing cannot be saved.</source>
+        <translation>図面を保存できません。</translation>
     </message>
     <message>
         <source>Another program has changed it since it was saved. These changes are lost.</source>
@@ -462,6 +469,14 @@
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>開いた図面そのものです。保存されるのは画層、線種、ポリラインだけです。ファイルの他の内容（線分、円弧、文字、寸法、ハッチング、ブロック、個々のポリラインの色）は失われます。何かを消すと、閉じたポリラインでは閉じる線分が失われ、ポリラインの円弧部分は直線になります。</translation>
     </message>
+    <message>
+        <source>What lies on layouts is lost.</source>
+        <translation>レイアウト上のものは失われます。</translation>
+    </message>
+    <message>
+        <source>What is invisible is lost.</source>
+        <translation>非表示のものは失われます。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -470,8 +485,8 @@
         <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
-        <translation>画像をエクスポート(&amp;P)…</translation>
+        <source>&amp;Export Picture…</source>
+        <translation>画像をエクスポート(&amp;E)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -508,6 +523,10 @@
     <message>
         <source>There is nothing in this drawing that can be shown.</source>
         <translation>この図面には表示できるものがありません。</translation>
+    </message>
+    <message>
+        <source>The drawing&apos;s coordinates are too large to be shown.</source>
+        <translation>座標が大きすぎるため図面を表示できません。</translation>
     </message>
 </context>
 <context>

@@ -149,18 +149,6 @@
         <translation>Все файлы (*)</translation>
     </message>
     <message>
-        <source>Save As</source>
-        <translation>Сохранить как</translation>
-    </message>
-    <message>
-        <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
-        <translation>Не удалось записать чертёж во временный файл. Возможно, папка временных файлов заполнена.</translation>
-    </message>
-    <message>
-        <source>The drawing cannot be saved.</source>
-        <translation>Не удаётся сохранить чертёж.</translation>
-    </message>
-    <message>
         <source>Open &amp;Recent</source>
         <translation>Открыть &amp;недавние</translation>
     </message>
@@ -175,6 +163,25 @@
     <message>
         <source>Save &amp;As…</source>
         <translation>Сохранить &amp;как…</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
+    <message>
+        <source>DXF drawings (*.dxf *.DXF)</source>
+        <translation>Чертежи DXF (*.dxf *.DXF)</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Сохранить как</translation>
+    </message>
+    <message>
+        <source>The drawing could not be written to a temporary file. The folder for temporary files may be full.</source>
+        <translation>Не удалось записать чертёж во временный файл. Возможно, папка временных файлов заполнена.</translation>
+    </message>
+    <message>
+        <source>The drawing cannot be saved.</source>
+        <translation>Не удаётся сохранить чертёж.</translation>
     </message>
     <message>
         <source>Another program has changed it since it was saved. These changes are lost.</source>
@@ -494,6 +501,14 @@
         <source>It is the drawing that was opened. Only layers, line types and polylines are saved. Everything else that the file holds is lost: lines, arcs, texts, dimensions, hatches, blocks and the colours of single polylines. Once anything was erased, closed polylines lose their closing edge, and bulges become straight.</source>
         <translation>Это открытый чертёж. Сохраняются только слои, типы линий и полилинии. Всё остальное содержимое файла теряется: отрезки, дуги, тексты, размеры, штриховки, блоки и цвета отдельных полилиний. Как только что-либо стёрто, замкнутые полилинии теряют замыкающий сегмент, а дуговые сегменты становятся прямыми.</translation>
     </message>
+    <message>
+        <source>What lies on layouts is lost.</source>
+        <translation>То, что лежит на листах, будет потеряно.</translation>
+    </message>
+    <message>
+        <source>What is invisible is lost.</source>
+        <translation>То, что невидимо, будет потеряно.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -502,7 +517,7 @@
         <translation>&amp;Файл</translation>
     </message>
     <message>
-        <source>Export &amp;Picture…</source>
+        <source>&amp;Export Picture…</source>
         <translation>&amp;Экспорт изображения…</translation>
     </message>
     <message>
@@ -523,7 +538,7 @@
     </message>
     <message>
         <source>Print Pre&amp;view…</source>
-        <translation>Пред&amp;просмотр печати…</translation>
+        <translation>Предп&amp;росмотр печати…</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -540,6 +555,10 @@
     <message>
         <source>There is nothing in this drawing that can be shown.</source>
         <translation>В этом чертеже нет ничего, что можно показать.</translation>
+    </message>
+    <message>
+        <source>The drawing&apos;s coordinates are too large to be shown.</source>
+        <translation>Координаты чертежа слишком велики, чтобы его показать.</translation>
     </message>
 </context>
 <context>
@@ -685,7 +704,7 @@
     </message>
     <message>
         <source>Only &amp;Polylines</source>
-        <translation>Только &amp;полилинии</translation>
+        <translation>Только поли&amp;линии</translation>
     </message>
 </context>
 </TS>

@@ -6,13 +6,13 @@
 
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/app/WindowActions.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QDropEvent>
 #include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -102,16 +102,6 @@ protected:
         return isShownAfter([&] { m_window.openDrawing(fileName); });
     }
 
-    void drop(const QString& fileName)
-    {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(fileName)});
-        QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&m_window, &enter);
-        QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&m_window, &event);
-    }
-
     void reload()
     {
         // Without a window manager the window does not get the keyboard back after a dialog.
@@ -164,7 +154,7 @@ TEST_F(AnyDrawingTest, IsOpenedCancelledDroppedAndReloaded)
 
         cancelOnTheWay(name);
         EXPECT_EQ(files().fileName(), name);
-        EXPECT_TRUE(isShownAfter([&] { drop(name); }));
+        EXPECT_TRUE(isShownAfter([&] { dxftest::dropOn(m_window, name); }));
         EXPECT_EQ(polylines(), count);
         EXPECT_TRUE(isShownAfter([this] { reload(); }));
         EXPECT_EQ(polylines(), count);

@@ -4,10 +4,12 @@
 #include "ViewerParts.h"
 
 #include "dxfviewer/edit/DXFEditor.h"
+#include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/render/DisplayColors.h"
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/SceneMouse.h"
 #include "tests/support/WindowParts.h"
 
 #include <QAction>
@@ -130,15 +132,17 @@ TEST_F(AppearanceTest, TheDrawingOnScreenGetsTheColorsOfTheGround)
     EXPECT_EQ(shownLine().color(), QColor(Qt::white));
 }
 
-TEST_F(AppearanceTest, EditsGetTheColorsOfTheGround)
+TEST_F(AppearanceTest, WhatUndoBringsBackHasTheColorsOfTheNewGround)
 {
     showLine();
     editAction(m_viewer).setChecked(true);
+    dxftest::SceneMouse(drawingView(m_viewer)).drag({{25, 25}, {26, 26}});
+    ASSERT_TRUE(shownDocument(m_viewer)->entities().isEmpty());
     m_appearance.setGround(Ground::White);
-    shownLine().setColor(Qt::magenta);
 
-    currentEditor(m_viewer)->stack()->push(new QUndoCommand);
+    currentEditor(m_viewer)->stack()->undo();
 
+    ASSERT_EQ(shownDocument(m_viewer)->entities().size(), 1);
     EXPECT_EQ(shownLine().color(), QColor(Qt::black));
 }
 

@@ -35,6 +35,19 @@ TEST(ExtentTest, PointBecomesAUnitAroundIt)
     EXPECT_EQ(withExtent(QRectF(3e9, 0, 1e-3, 0)).width(), 1.0);
 }
 
+TEST(ExtentTest, ViewsShowWhatTheLeastScaleAllows)
+{
+    for (const QRectF& rect : {QRectF(), QRectF(1, 2, 3, 4), QRectF(0, 0, 1e13, 1e13),
+                               QRectF(1e13, 0, -1e13, 1), QRectF(-3e20, 5e20, 1e12, 1)})
+        EXPECT_TRUE(fitsIntoView(rect));
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const QRectF& rect :
+         {QRectF(-1e300, -1e300, 2e300, 2e300), QRectF(0, 0, 1.1e13, 1), QRectF(0, 0, 1, -1.1e13),
+          QRectF(0, 1e300, 1, 1), QRectF(0, 0, infinity, 1), QRectF(0, nan, 1, 1)})
+        EXPECT_FALSE(fitsIntoView(rect));
+}
+
 TEST(ExtentTest, RectangleThatIsNotFiniteBecomesAUnitAtTheOrigin)
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();

@@ -53,6 +53,17 @@ TEST_F(FileMarkTest, SeesAChangeThatKeepsTheSize)
     EXPECT_TRUE(mark.isChanged());
 }
 
+TEST_F(FileMarkTest, MarksOfTheSameStateAreEqual)
+{
+    const FileMark mark(m_name);
+    const QString other = dxftest::fileWith("old", m_folder.filePath(QStringLiteral("b.dxf")));
+
+    EXPECT_TRUE(mark == FileMark(m_name));
+    EXPECT_FALSE(mark == FileMark(other));
+    write("longer");
+    EXPECT_FALSE(mark == FileMark(m_name));
+}
+
 TEST_F(FileMarkTest, AFileThatHasVanishedIsNotChanged)
 {
     const FileMark mark(m_name);

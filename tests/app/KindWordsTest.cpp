@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include "KindWords.h"
+#include "DrawingRead.h"
 
 #include "tests/support/LoggedTest.h"
 
@@ -43,7 +44,10 @@ TEST_F(KindWordsTest, SaysNothingWhenEverythingIsShown)
 TEST_F(KindWordsTest, SaysWhatSavingChanges)
 {
     const auto sentence = [](const Counts& shown, const Counts& skipped) {
-        return changesSentence(shown, skipped).toStdString();
+        DrawingRead drawing;
+        drawing.shown = shown;
+        drawing.skipped = skipped;
+        return changesSentence(drawing).toStdString();
     };
     const std::string begin = "It is the drawing that was opened. ";
     const std::string end = "Only layers, line types and polylines are saved.";
@@ -57,6 +61,26 @@ TEST_F(KindWordsTest, SaysWhatSavingChanges)
               begin + "1 arc becomes polylines. " + end);
     EXPECT_EQ(sentence({}, {{QStringLiteral("IMAGE"), 1}}), begin + "1 image is lost. " + end);
     EXPECT_EQ(sentence({{QStringLiteral("POLYLINE"), 7}}, {}), begin + end);
+}
+
+TEST_F(KindWordsTest, SaysThatLayoutsAndInvisibleObjectsAreLost)
+{
+    DrawingRead drawing;
+    drawing.elsewhere = 50;
+    drawing.invisible = 1;
+
+    EXPECT_EQ(changesSentence(drawing).toStdString(),
+              "It is the drawing that was opened. What lies on layouts is lost. What is invisible "
+              "is lost. Only layers, line types and polylines are saved.");
+}
+
+TEST_F(KindWordsTest, CountsNothingIfOnlyPolylinesWereRead)
+{
+    DrawingRead drawing;
+    drawing.choices.onlyPolylines = true;
+
+    EXPECT_THAT(changesSentence(drawing).toStdString(),
+                testing::HasSubstr("Everything else that the file holds is lost"));
 }
 
 } // namespace

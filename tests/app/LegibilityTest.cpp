@@ -6,6 +6,7 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/render/DisplayColors.h"
 #include "dxfviewer/viewer/DXFViewer.h"
+#include "tests/app/WindowActions.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
 
@@ -53,13 +54,6 @@ Legibility legibilityOf(const QImage& image, const QColor& ground)
     return legibility;
 }
 
-QAction& actionOf(const MainWindow& window, const QString& text)
-{
-    const auto actions = window.findChildren<QAction*>();
-    return **std::find_if(actions.cbegin(), actions.cend(),
-                          [&text](const QAction* action) { return action->text() == text; });
-}
-
 class LegibilityTest : public dxftest::LoggedTest
 {
 protected:
@@ -81,7 +75,7 @@ protected:
     /// How well the drawing can be seen on a ground.
     Legibility onGround(const char* action)
     {
-        actionOf(m_window, QString::fromLatin1(action)).trigger();
+        dxftest::actionOf(m_window, action).trigger();
         QGraphicsView& view = drawingView(viewer());
         EXPECT_TRUE(dxftest::eventually([&view] { return view.updatesEnabled(); }));
         return legibilityOf(view.viewport()->grab().toImage(), view.backgroundBrush().color());

@@ -12,6 +12,7 @@
 #include "dxfviewer/render/DXFGraphicsItem.h"
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/app/DialogRobot.h"
+#include "tests/app/WindowActions.h"
 #include "tests/support/Builders.h"
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
@@ -22,7 +23,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -39,6 +39,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QUndoStack>
 #include <QUrl>
 
 #include <algorithm>
@@ -104,15 +105,7 @@ protected:
     QAction& edit() const { return editAction(viewer()); }
     QGraphicsView& view() const { return drawingView(viewer()); }
 
-    QAction& action(const char* text) const
-    {
-        const auto actions = m_window->findChildren<QAction*>();
-        for (QAction* candidate : actions) {
-            if (candidate->text() == QString::fromUtf8(text))
-                return *candidate;
-        }
-        throw std::invalid_argument(text);
-    }
+    QAction& action(const char* text) const { return dxftest::actionOf(*m_window, text); }
 
     QString fileWith(const QByteArray& content, const QString& name)
     {
@@ -197,16 +190,6 @@ protected:
         return static_cast<int>(shownDocument(viewer())->entities().size());
     }
 
-    /// Drops something on the window. False if the window refuses it.
-    bool drop(const QMimeData& data)
-    {
-        QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QDropEvent event(QPointF(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_window.get(), &enter);
-        QApplication::sendEvent(m_window.get(), &event);
-        return enter.isAccepted();
-    }
-
     static void acceptAsItIs(QFileDialog& dialog)
     {
         // accept() is not public in QFileDialog.
@@ -232,7 +215,7 @@ private:
 TEST_F(MainWindowTest, HasNothingToSaveAtFirst)
 {
     EXPECT_FALSE(action("Save &As…").isEnabled());
-    EXPECT_FALSE(action("Export &Picture…").isEnabled());
+    EXPECT_FALSE(action("&Export Picture…").isEnabled());
     EXPECT_FALSE(action("Undo").isEnabled());
     EXPECT_FALSE(m_window->isWindowModified());
 }
@@ -244,7 +227,7 @@ TEST_F(MainWindowTest, ShowsADrawingUnderItsName)
     EXPECT_EQ(polylineCount(), 2);
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
     EXPECT_TRUE(action("Save &As…").isEnabled());
-    EXPECT_TRUE(action("Export &Picture…").isEnabled());
+    EXPECT_TRUE(action("&Export Picture…").isEnabled());
 }
 
 TEST_F(MainWindowTest, TheTitleShowsNamesWithSpecialCharacters)
@@ -278,6 +261,50 @@ TEST_F(MainWindowTest, SaysThatThereIsNothingToShow)
 
     open(crossFile());
     EXPECT_FALSE(emptyPage().isVisible());
+}
+
+TEST_F(MainWindowTest, PolylinesOfOneVertexAreNothingToShow)
+{
+    QByteArray vertices = "0\nSECTION\n2\nENTITIES\n";
+    for (int i = 0; i < 5; ++i)
+        vertices += "0\nLWPOLYLINE\n8\n0\n90\n1\n70\n0\n10\n5\n20\n7\n";
+    action("Only &Polylines").trigger();
+
+    open(fileWith(vertices + "0\nENDSEC\n0\nEOF\n", QStringLiteral("vertices.dxf")));
+
+    EXPECT_TRUE(statusShows("segments: 0"));
+    EXPECT_TRUE(emptyPage().isVisible());
+    EXPECT_THAT(emptyPage().text().toStdString(), HasSubstr("nothing in this drawing"));
+}
+
+TEST_F(MainWindowTest, SaysThatADrawingIsTooLarge)
+{
+    for (const char* radius : {"1e15", "1e300"}) {
+        open(fileWith(QByteArray("0\nSECTION\n2\nENTITIES\n0\nCIRCLE\n8\n0\n10\n0\n20\n0\n40\n")
+                          + radius + "\n0\nENDSEC\n0\nEOF\n",
+                      QStringLiteral("large.dxf")));
+        SceneMouse(view()).move({0, 0});
+
+        EXPECT_TRUE(emptyPage().isVisible());
+        EXPECT_THAT(emptyPage().text().toStdString(), HasSubstr("too large to be shown"));
+        EXPECT_EQ(view().viewport()->grab().toImage().pixelColor(3, 3), colorOf(Ground::Dark));
+        EXPECT_FALSE(statusShows("x "));
+        EXPECT_FALSE(statusShows("%"));
+        EXPECT_FALSE(edit().isEnabled());
+    }
+
+    open(crossFile());
+    EXPECT_FALSE(emptyPage().isVisible());
+    EXPECT_TRUE(statusShows("100 %"));
+    EXPECT_TRUE(edit().isEnabled());
+}
+
+TEST_F(MainWindowTest, TheZoomIsNotShownWithoutADrawing)
+{
+    m_window->resize(600, 500);
+    press(Qt::Key_Plus);
+
+    EXPECT_FALSE(statusShows("%"));
 }
 
 TEST_F(MainWindowTest, SaysWhatToDoWithoutADrawing)
@@ -564,6 +591,13 @@ TEST_F(MainWindowTest, MenuOpensNothingWhenNothingIsChosen)
     EXPECT_FALSE(action("Save &As…").isEnabled());
 }
 
+TEST_F(MainWindowTest, TheKeyThatClosesAWindowQuits)
+{
+    press(Qt::Key_W);
+
+    EXPECT_FALSE(m_window->isVisible());
+}
+
 TEST_F(MainWindowTest, KeyQuits)
 {
     QTimer::singleShot(0, m_window.get(), [this] { press(Qt::Key_Q); });
@@ -795,6 +829,50 @@ TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheOpenedFile)
     EXPECT_TRUE(m_window->isWindowModified());
 }
 
+/// A choice that could not be read must not change the question.
+TEST_F(MainWindowTest, SaysWhatIsLostOfTheDrawingThatIsShown)
+{
+    const QString fileName = fileWith(mixedDrawing, QStringLiteral("mixed.dxf"));
+    open(fileName);
+    ASSERT_TRUE(QFile::remove(fileName));
+    std::string error;
+    m_robot.expectError(error);
+    action("Only &Polylines").trigger();
+    ASSERT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+    fileWith(mixedDrawing, QStringLiteral("mixed.dxf"));
+    std::string warning;
+    m_robot.expectFileName(fileName);
+    m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
+        warning = box.informativeText().toStdString();
+        DialogRobot::click(box, QMessageBox::Cancel);
+    });
+
+    press(Qt::Key_S);
+
+    EXPECT_THAT(warning, HasSubstr("1 line, 1 arc and 1 block become polylines."));
+    EXPECT_FALSE(action("Only &Polylines").isChecked());
+}
+
+TEST_F(MainWindowTest, SaysThatLayoutsAreLostBeforeItReplacesTheOpenedFile)
+{
+    const QString fileName =
+        fileWith("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n"
+                     + QByteArray("0\nTEXT\n8\n0\n67\n1\n10\n0\n20\n0\n40\n1\n1\nA\n").repeated(50)
+                     + "0\nENDSEC\n0\nEOF\n",
+                 QStringLiteral("paper.dxf"));
+    open(fileName);
+    std::string warning;
+    m_robot.expectFileName(fileName);
+    m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
+        warning = box.informativeText().toStdString();
+        DialogRobot::click(box, QMessageBox::Cancel);
+    });
+
+    press(Qt::Key_S);
+
+    EXPECT_THAT(warning, HasSubstr("1 line becomes polylines. What lies on layouts is lost. Only"));
+}
+
 TEST_F(MainWindowTest, ReplacesTheOpenedFileWhenConfirmed)
 {
     openInEditMode();
@@ -822,6 +900,68 @@ TEST_F(MainWindowTest, SavesACopyAgainWithoutAQuestion)
 
     EXPECT_FALSE(m_window->isWindowModified());
     EXPECT_EQ(contentOf(path(QStringLiteral("kept.dxf"))), viewer().getData());
+}
+
+TEST_F(MainWindowTest, SavesAReloadedCopyWithoutAQuestion)
+{
+    openInEditMode();
+    erase();
+    const QString kept = path(QStringLiteral("kept.dxf"));
+    m_robot.expectFileName(kept);
+    press(Qt::Key_S);
+
+    waitForDrawing([this] { press(Qt::Key_F5, Qt::NoModifier); });
+    press(Qt::Key_S);
+    EXPECT_EQ(contentOf(kept), viewer().getData());
+
+    waitForDrawing([this] { action("&Texts").trigger(); });
+    edit().setChecked(true);
+    SceneMouse(view()).drag({{-50, 0}, {-50, 1}});
+    ASSERT_TRUE(m_window->isWindowModified());
+    press(Qt::Key_S);
+    EXPECT_FALSE(m_window->isWindowModified());
+    EXPECT_EQ(contentOf(kept), viewer().getData());
+}
+
+TEST_F(MainWindowTest, ACopyThatAnotherProgramChangedIsADrawingOfItsOwnOnceReloaded)
+{
+    openInEditMode();
+    erase();
+    const QString kept = path(QStringLiteral("kept.dxf"));
+    m_robot.expectFileName(kept);
+    press(Qt::Key_S);
+    fileWith(mixedDrawing, QStringLiteral("kept.dxf"));
+    waitForDrawing([this] { press(Qt::Key_F5, Qt::NoModifier); });
+    QString proposed;
+    m_robot.expect<QFileDialog>([&proposed](QFileDialog& dialog) {
+        proposed = dialog.selectedFiles().value(0);
+        dialog.reject();
+    });
+
+    press(Qt::Key_S);
+
+    EXPECT_EQ(proposed, path(QStringLiteral("kept-edited.dxf")));
+    EXPECT_EQ(contentOf(kept), mixedDrawing);
+}
+
+/// The window shows the older state then, and the newer one must not be lost.
+TEST_F(MainWindowTest, ACopySavedWhileItIsReadIsNotReplacedWithoutAQuestion)
+{
+    openInEditMode();
+    m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
+    press(Qt::Key_S);
+    edit().setChecked(true);
+    waitForDrawing([this] {
+        press(Qt::Key_F5, Qt::NoModifier);
+        erase();
+        press(Qt::Key_S);
+    });
+    const QByteArray newer = contentOf(path(QStringLiteral("kept.dxf")));
+    m_robot.expect<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+
+    press(Qt::Key_S);
+
+    EXPECT_EQ(contentOf(path(QStringLiteral("kept.dxf"))), newer);
 }
 
 TEST_F(MainWindowTest, SavesAgainWhenTheCopyHasVanished)
@@ -1040,6 +1180,36 @@ TEST_F(MainWindowTest, LeavingEditModeWithoutEditsSaysNothing)
     EXPECT_TRUE(m_window->statusBar()->currentMessage().isEmpty());
 }
 
+TEST_F(MainWindowTest, LeavingEditModeAfterEverythingWasUndoneSaysNothing)
+{
+    openInEditMode();
+    erase();
+    press(Qt::Key_Z);
+    ASSERT_EQ(polylineCount(), 2);
+
+    press(Qt::Key_Escape, Qt::NoModifier);
+
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().isEmpty());
+}
+
+TEST_F(MainWindowTest, SaysThatTheFirstPartOfATooLongStrokeIsLost)
+{
+    openInEditMode();
+    currentEditor(viewer())->stack()->setUndoLimit(1);
+    SceneMouse mouse(view());
+    mouse.press({50, 60});
+    mouse.move({50, 61});
+    EXPECT_TRUE(dxftest::eventually([this] { return polylineCount() == 1; }));
+    EXPECT_TRUE(m_window->statusBar()->currentMessage().isEmpty());
+
+    mouse.move({-50, 0});
+    mouse.release({-50, 0});
+
+    ASSERT_EQ(polylineCount(), 0);
+    EXPECT_EQ(m_window->statusBar()->currentMessage(),
+              QStringLiteral("The stroke was too long: its first part can no longer be undone."));
+}
+
 TEST_F(MainWindowTest, AnotherDrawingSaysNothingAboutDiscardedEdits)
 {
     openInEditMode();
@@ -1143,7 +1313,7 @@ TEST_F(MainWindowTest, OpensADrawingThatIsDropped)
     data.setUrls(
         {QUrl::fromLocalFile(path(QStringLiteral("notes.txt"))), QUrl::fromLocalFile(crossFile())});
 
-    EXPECT_TRUE(drop(data));
+    EXPECT_TRUE(dxftest::dropOn(*m_window, data));
 
     EXPECT_TRUE(dxftest::eventually([this] { return shownDocument(viewer()) != nullptr; }));
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
@@ -1153,15 +1323,13 @@ TEST_F(MainWindowTest, AsksBeforeADroppedDrawingReplacesEdits)
 {
     openInEditMode();
     erase();
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(fileWith(crossDrawing, QStringLiteral("other.dxf")))});
     bool isAnswered = false;
     m_robot.expect<QMessageBox>([&isAnswered](QMessageBox& box) {
         DialogRobot::click(box, QMessageBox::Cancel);
         isAnswered = true;
     });
 
-    EXPECT_TRUE(drop(data));
+    EXPECT_TRUE(dxftest::dropOn(*m_window, fileWith(crossDrawing, QStringLiteral("other.dxf"))));
 
     EXPECT_TRUE(dxftest::eventually([&isAnswered] { return isAnswered; }));
     EXPECT_EQ(m_window->windowTitle(), QStringLiteral("cross.dxf[*]"));
@@ -1170,14 +1338,7 @@ TEST_F(MainWindowTest, AsksBeforeADroppedDrawingReplacesEdits)
 
 TEST_F(MainWindowTest, RefusesDragsOfOtherFiles)
 {
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(path(QStringLiteral("notes.txt")))});
-    QDragEnterEvent enter(QPoint(9, 9), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-
-    QApplication::sendEvent(m_window.get(), &enter);
-
-    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_FALSE(dxftest::dropOn(*m_window, path(QStringLiteral("notes.txt"))));
     EXPECT_FALSE(view().viewport()->acceptDrops());
 }
 
@@ -1187,7 +1348,7 @@ TEST_F(MainWindowTest, ExportsWhatIsOnScreen)
     erase();
     m_robot.expectFileName(path(QStringLiteral("cross.svg")));
 
-    action("Export &Picture…").trigger();
+    action("&Export Picture…").trigger();
 
     EXPECT_EQ(contentOf(path(QStringLiteral("cross.svg"))).count("<polyline"), 1);
 }
@@ -1197,7 +1358,7 @@ TEST_F(MainWindowTest, ExportsAPngByDefault)
     open(fileWith(crossDrawing, QStringLiteral("cross.v2.dxf")));
     m_robot.expect<QFileDialog>([](QFileDialog& dialog) { acceptAsItIs(dialog); });
 
-    action("Export &Picture…").trigger();
+    action("&Export Picture…").trigger();
 
     EXPECT_FALSE(QImage(path(QStringLiteral("cross.v2.png"))).isNull());
 }
@@ -1213,7 +1374,7 @@ TEST_F(MainWindowTest, ExportsTheKindThatIsChosen)
         acceptAsItIs(dialog);
     });
 
-    action("Export &Picture…").trigger();
+    action("&Export Picture…").trigger();
 
     EXPECT_EQ(contentOf(path(QStringLiteral("chosen.svg"))).count("<polyline"), 2);
 }
@@ -1225,7 +1386,7 @@ TEST_F(MainWindowTest, SaysWhyAPictureCannotBeExported)
     m_robot.expectFileName(path(QStringLiteral("cross.jpeg")));
     m_robot.expectError(error);
 
-    action("Export &Picture…").trigger();
+    action("&Export Picture…").trigger();
 
     EXPECT_THAT(error, HasSubstr("cross.jpeg"));
     EXPECT_THAT(error, HasSubstr(".png, .svg or .pdf"));

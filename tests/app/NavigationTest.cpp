@@ -74,7 +74,7 @@ protected:
 
 TEST_F(NavigationTest, FillsTheWindowWhateverTheSizeAndThePlace)
 {
-    const double sizes[] = {1e-6, 20, 20000, 3e9};
+    const double sizes[] = {1e-6, 20, 20000, 3e9, 1e13};
     for (const double size : sizes) {
         for (const QPointF& corner : {QPointF(0, 0), QPointF(3.2e6 * size, -1.7e6 * size)}) {
             show({corner, corner + QPointF(size, 0), corner + QPointF(size, size / 2)});
@@ -100,6 +100,19 @@ TEST_F(NavigationTest, ShowsDrawingsWithoutExtent)
         EXPECT_TRUE(QRectF(view().viewport()->rect()).contains(placeOf(points.constFirst())));
         EXPECT_TRUE(QRectF(view().viewport()->rect()).contains(placeOf(points.constLast())));
     }
+}
+
+TEST_F(NavigationTest, KnowsPlacesAtEveryZoomOfTheLargestDrawing)
+{
+    m_window.resize(150, 150);
+    show({{0, 0}, {1e13, 0}, {1e13, 1e13}});
+    for (int i = 0; i < 30; ++i)
+        m_navigation.zoomOut();
+
+    bool hasInverse = false;
+    const QTransform inverse = view().viewportTransform().inverted(&hasInverse);
+    EXPECT_TRUE(hasInverse);
+    EXPECT_NEAR(inverse.map(placeOf({1e13, 0})).x(), 1e13, 1e6);
 }
 
 TEST_F(NavigationTest, HugeAndInfiniteCoordinatesDoNoHarm)

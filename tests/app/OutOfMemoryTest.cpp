@@ -6,6 +6,7 @@
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/app/DialogRobot.h"
+#include "tests/app/WindowActions.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
@@ -49,11 +50,7 @@ TEST_F(ProgramOutOfMemoryTest, AFailedReadGivesABoxAndLeavesTheShownDrawing)
     MainWindow window;
     window.show();
     // With this choice dxflib reads the drawing, and asks for one large array.
-    const auto actions = window.findChildren<QAction*>();
-    for (QAction* action : actions) {
-        if (action->text() == QStringLiteral("Only &Polylines"))
-            action->setChecked(true);
-    }
+    actionOf(window, "Only &Polylines").setChecked(true);
     window.openDrawing(fileName);
     const auto& viewer = *window.findChild<DXFViewer*>();
     ASSERT_TRUE(eventually([&] { return shownDocument(viewer) != nullptr; }));

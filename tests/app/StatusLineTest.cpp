@@ -5,6 +5,7 @@
 
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/model/DXFDocument.h"
+#include "dxfviewer/render/DXFGraphicsItem.h"
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/Patience.h"
@@ -93,6 +94,7 @@ TEST_F(StatusLineTest, SaysNothingWithoutADrawing)
     m_line.countLater();
     SceneMouse(drawingView(m_viewer)).move({0, 0});
     m_line.setNotShown(QString());
+    m_line.setZoom(1.0);
 
     for (int index = 0; index < 4; ++index)
         EXPECT_EQ(field(index), QString());
@@ -131,6 +133,7 @@ TEST_F(StatusLineTest, CountsAgainAfterAnEdit)
 
 TEST_F(StatusLineTest, TheZoomIsAPercentage)
 {
+    showDrawing();
     m_line.setZoom(1.0);
     EXPECT_EQ(zoom(), QStringLiteral("100 %"));
 
@@ -139,6 +142,20 @@ TEST_F(StatusLineTest, TheZoomIsAPercentage)
 
     m_line.setZoom(0.0525);
     EXPECT_EQ(zoom(), QStringLiteral("%1 %").arg(QLocale().toString(5.3, 'f', 1)));
+}
+
+TEST_F(StatusLineTest, SaysNothingOfZoomAndPlaceOfADrawingThatIsNotVisible)
+{
+    showDrawing();
+    m_line.setZoom(1.0);
+    shownItem(m_viewer)->setVisible(false);
+
+    m_line.setZoom(2.0);
+    SceneMouse(drawingView(m_viewer)).move({25, 10});
+
+    EXPECT_EQ(zoom(), QString());
+    EXPECT_EQ(place(), QString());
+    EXPECT_EQ(count(), countOf(2, 3));
 }
 
 TEST_F(StatusLineTest, SaysWhereThePointerIsUntilItLeaves)

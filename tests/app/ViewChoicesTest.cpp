@@ -14,6 +14,7 @@
 #include "tests/support/Patience.h"
 
 #include <QAction>
+#include <QFile>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -170,6 +171,63 @@ TEST_F(ViewChoicesTest, TheChoiceAppliesIfTheUserDiscardsTheEdits)
     EXPECT_TRUE(nextDrawing());
     EXPECT_FALSE(texts().isChecked());
     EXPECT_FALSE(m_choices.choices().showsTexts);
+}
+
+/// Takes the file away, and changes a choice in vain.
+TEST_F(ViewChoicesTest, AChoiceThatCannotBeReadIsTakenBack)
+{
+    openDrawing();
+    const int all = entities();
+    ASSERT_TRUE(QFile::remove(m_files.fileName()));
+    std::string error;
+    m_robot.expectError(error);
+
+    onlyPolylines().trigger();
+    EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+
+    EXPECT_THAT(error, testing::HasSubstr("There is no such file."));
+    EXPECT_FALSE(onlyPolylines().isChecked());
+    EXPECT_EQ(m_choices.choices(), ReadingChoices());
+    EXPECT_EQ(entities(), all);
+}
+
+TEST_F(ViewChoicesTest, AChoiceWhoseReadingIsCancelledIsTakenBack)
+{
+    openDrawing();
+
+    texts().trigger();
+    EXPECT_FALSE(texts().isChecked());
+    m_files.reader().cancel();
+
+    EXPECT_TRUE(texts().isChecked());
+    EXPECT_EQ(m_choices.choices(), ReadingChoices());
+    EXPECT_FALSE(m_files.reader().isReading());
+}
+
+TEST_F(ViewChoicesTest, AChoiceIsTakenBackIfNewEditsAreKept)
+{
+    openDrawing();
+    texts().trigger();
+    edit();
+    m_robot.expectButton(QMessageBox::Cancel);
+
+    EXPECT_TRUE(dxftest::eventually([this] { return texts().isChecked(); }));
+
+    EXPECT_EQ(m_choices.choices(), ReadingChoices());
+}
+
+TEST_F(ViewChoicesTest, WithoutADrawingAChoiceStaysForTheNextOne)
+{
+    onlyPolylines().trigger();
+    std::string error;
+    m_robot.expectError(error);
+
+    m_files.open(m_folder.filePath(QStringLiteral("missing.dxf")));
+    EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+
+    EXPECT_TRUE(onlyPolylines().isChecked());
+    openDrawing();
+    EXPECT_EQ(entities(), 1);
 }
 
 } // namespace
