@@ -32,8 +32,7 @@ BackgroundReader::BackgroundReader(QObject* parent)
     : QObject(parent)
 {
     m_progressTimer.setInterval(progressIntervalMs);
-    connect(&m_progressTimer, &QTimer::timeout, this,
-            [this] { Q_EMIT progressed(m_job->watch.share()); });
+    connect(&m_progressTimer, &QTimer::timeout, this, [this] { Q_EMIT progressed(share()); });
 }
 
 BackgroundReader::~BackgroundReader()
@@ -53,9 +52,13 @@ void BackgroundReader::read(const QString& fileName, const ReadingChoices& choic
     m_choices = choices;
     // Two reads at once would disturb each other: reading changes the locale. The next read begins
     // when the former thread has ended.
-    if (!m_thread)
+    const bool waits = m_thread != nullptr;
+    if (!waits)
         start();
+    m_progressTimer.start();
     Q_EMIT readingChanged();
+    if (waits)
+        Q_EMIT progressed(0.0);
 }
 
 void BackgroundReader::cancel()
@@ -84,7 +87,12 @@ void BackgroundReader::start()
         [job = m_job] { job->result = readDocument(job->fileName, job->choices, job->watch); });
     connect(m_thread, &QThread::finished, this, &BackgroundReader::onThreadFinished);
     m_thread->start(QThread::LowPriority);
-    m_progressTimer.start();
+}
+
+double BackgroundReader::share() const
+{
+    // A cancelled read is that of another file.
+    return m_job->watch.isCancelled() ? 0.0 : m_job->watch.share();
 }
 
 void BackgroundReader::onThreadFinished()

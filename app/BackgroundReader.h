@@ -37,7 +37,8 @@ public:
 Q_SIGNALS:
     /// A read begins or ends, for any reason.
     void readingChanged();
-    /// How much of the file has been read, from 0 to 1, some times in a second.
+    /// How much of the file has been read, from 0 to 1, some times in a second. 0 comes at once if
+    /// the read must wait until a cancelled one has ended.
     void progressed(double share);
     /// What was being read is thrown away, and nothing else is read instead.
     void cancelled();
@@ -49,6 +50,7 @@ private:
 
     void start();
     void stop();
+    double share() const;
     void onThreadFinished();
 
     QString m_fileName;

@@ -9,10 +9,12 @@
 
 #include <dxfviewer/flatten/FlatteningReader.h>
 #include <dxfviewer/io/DXFReader.h>
+#include <dxfviewer/io/IReadingSteps.h>
 #include <dxfviewer/model/DXFDocument.h>
 
 #include <QCoreApplication>
 
+#include <exception>
 #include <new>
 
 namespace
@@ -20,6 +22,17 @@ namespace
 
 struct DrawingReadTexts {
     Q_DECLARE_TR_FUNCTIONS(DrawingRead)
+};
+
+/// The plain reader, with the steps at which a read can be cancelled.
+class PolylineReader : public DXFReader, public IReadingSteps
+{
+public:
+    using DXFReader::DXFReader;
+
+    std::optional<std::string> textOf(std::string_view) override { return std::nullopt; }
+    bool takesGroup(int, std::string_view) override { return false; }
+    bool finishReading() override { return true; }
 };
 
 /// A reader that tells its place, and stops if it is cancelled.
@@ -34,6 +47,17 @@ public:
     {
     }
 
+    /// Like load(), but what has ended the read leaves this function.
+    bool read(const QByteArray& content)
+    {
+        const bool isRead = Reader::load(content);
+        if (m_failure)
+            std::rethrow_exception(m_failure);
+        return isRead;
+    }
+
+    void goOn() override { m_place.goOn(); }
+    void readingFailed(const std::exception_ptr& reason) override { m_failure = reason; }
     void processCodeValuePair(unsigned int code, const std::string& value) override
     {
         m_place.noteGroup(value.size());
@@ -42,14 +66,15 @@ public:
 
 private:
     ReadingPlace& m_place;
+    std::exception_ptr m_failure;
 };
 
 DrawingRead onlyPolylinesOf(const QByteArray& content, ReadingPlace& place)
 {
     DrawingRead result;
     result.document = QSharedPointer<DXFDocument>::create();
-    WatchedReader<DXFReader> reader(place, *result.document);
-    if (!reader.load(content))
+    WatchedReader<PolylineReader> reader(place, *result.document);
+    if (!reader.read(content))
         result.document.reset();
     return result;
 }
@@ -60,8 +85,10 @@ DrawingRead everythingOf(const QByteArray& content, const FlatteningOptions& opt
     DrawingRead result;
     result.document = QSharedPointer<DXFDocument>::create();
     WatchedReader<FlatteningReader> reader(place, *result.document, options);
-    if (!reader.load(content))
+    if (!reader.read(content))
         result.document.reset();
+    if (reader.isTooLarge())
+        result.reason = DrawingReadTexts::tr("It has more lines and curves than can be shown.");
     result.shown = reader.shown();
     result.skipped = reader.skipped();
     result.elsewhere = reader.elsewhere();
@@ -75,7 +102,7 @@ DrawingRead parsed(const QByteArray& content, const ReadingChoices& choices, Rea
     DrawingRead result = choices.onlyPolylines ? onlyPolylinesOf(content, place)
                                                : everythingOf(content, choices.flattening(), place);
     result.choices = choices;
-    if (!result.document)
+    if (!result.document && result.reason.isEmpty())
         result.reason = DrawingReadTexts::tr("It cannot be read.");
     return result;
 }
@@ -93,6 +120,8 @@ DrawingRead readDocument(const QString& fileName, const ReadingChoices& choices,
         return DrawingRead();
     } catch (const std::bad_alloc&) {
         result.reason = DrawingReadTexts::tr("There is not enough memory for the drawing.");
+    } catch (const std::exception&) {
+        result.reason = DrawingReadTexts::tr("It cannot be read.");
     }
     if (watch.isCancelled())
         result = DrawingRead();

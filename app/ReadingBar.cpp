@@ -42,16 +42,23 @@ ReadingBar::ReadingBar(BackgroundReader& reader, QWidget* parent)
 
 void ReadingBar::onReadingChanged()
 {
-    // Shown only at the first progress: a short read must not make a bar flash up.
-    if (!m_reader.isReading())
+    // Shown only at the first progress: a short read must not make a bar flash up. One that is
+    // shown already tells the new name at once.
+    if (m_reader.isReading())
+        setProgress(0.0);
+    else
         hide();
-    m_bar->setValue(0);
 }
 
 void ReadingBar::onProgressed(double share)
 {
+    setProgress(share);
+    show();
+}
+
+void ReadingBar::setProgress(double share)
+{
     const QString name = QFileInfo(m_reader.fileName()).fileName();
     m_label->setText(tr("Reading %1").arg(readableName(name)));
     m_bar->setValue(static_cast<int>(share * percent));
-    show();
 }

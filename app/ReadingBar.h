@@ -20,6 +20,7 @@ public:
 private:
     void onReadingChanged();
     void onProgressed(double share);
+    void setProgress(double share);
 
     BackgroundReader& m_reader;
     QLabel* m_label;

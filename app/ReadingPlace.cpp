@@ -37,6 +37,10 @@ void ReadingPlace::noteGroup(std::size_t valueLength)
     if (++m_groups % groupsBetweenLooks != 0)
         return;
     m_watch.setShare(share());
+}
+
+void ReadingPlace::goOn() const
+{
     if (m_watch.isCancelled())
         throw Cancelled();
 }

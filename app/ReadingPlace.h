@@ -20,9 +20,10 @@ public:
     /// Both must outlive it.
     ReadingPlace(const QByteArray& content, ReadingWatch& watch);
 
-    /// Tells the watch now and then. Throws Cancelled, which ends the read, if the watch is
-    /// cancelled.
+    /// Tells the watch now and then.
     void noteGroup(std::size_t valueLength);
+    /// Throws Cancelled, which ends the read, if the watch is cancelled.
+    void goOn() const;
 
     /// How much has been read, from 0 to 1.
     double share() const;

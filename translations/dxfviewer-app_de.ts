@@ -199,6 +199,10 @@
         <translation>Sie kann nicht gelesen werden.</translation>
     </message>
     <message>
+        <source>It has more lines and curves than can be shown.</source>
+        <translation>Sie hat mehr Linien und Kurven, als dargestellt werden können.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for the drawing.</source>
         <translation>Der Speicher reicht für die Zeichnung nicht aus.</translation>
     </message>

@@ -199,6 +199,10 @@
         <translation>No se puede leer.</translation>
     </message>
     <message>
+        <source>It has more lines and curves than can be shown.</source>
+        <translation>Tiene más líneas y curvas de las que se pueden mostrar.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for the drawing.</source>
         <translation>No hay memoria suficiente para el dibujo.</translation>
     </message>

@@ -199,6 +199,10 @@
         <translation>Impossible de le lire.</translation>
     </message>
     <message>
+        <source>It has more lines and curves than can be shown.</source>
+        <translation>Il contient plus de lignes et de courbes qu’il n’est possible d’en représenter.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for the drawing.</source>
         <translation>La mémoire ne suffit pas pour le dessin.</translation>
     </message>

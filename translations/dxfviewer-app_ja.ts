@@ -199,6 +199,10 @@
         <translation>読み込めません。</translation>
     </message>
     <message>
+        <source>It has more lines and curves than can be shown.</source>
+        <translation>線や曲線が多すぎるため表示できません。</translation>
+    </message>
+    <message>
         <source>There is not enough memory for the drawing.</source>
         <translation>メモリ不足のため図面を読み込めません。</translation>
     </message>

@@ -199,6 +199,10 @@
         <translation>Не удаётся прочитать чертёж.</translation>
     </message>
     <message>
+        <source>It has more lines and curves than can be shown.</source>
+        <translation>В нём больше линий и кривых, чем можно показать.</translation>
+    </message>
+    <message>
         <source>There is not enough memory for the drawing.</source>
         <translation>Недостаточно памяти для чертежа.</translation>
     </message>

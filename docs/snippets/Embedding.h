@@ -4,6 +4,9 @@
 
 #include <QStringList>
 
+#include <atomic>
+
+class DXFDocument;
 class DXFViewer;
 class QMenu;
 class QTranslator;
@@ -16,6 +19,8 @@ bool showEverything(DXFViewer& viewer, const QString& fileName, QStringList& ski
 bool save(DXFViewer& viewer, const QString& fileName);
 QUndoStack* editStack(const DXFViewer& viewer);
 void addEditActions(DXFViewer& viewer, QMenu& menu);
+bool readUnlessCancelled(DXFDocument& document, const QString& fileName,
+                         const std::atomic<bool>& isCancelled);
 void routeLog();
 QStringList& hostLog();
 bool translate(QTranslator& translator, const QString& folder);

@@ -2,6 +2,8 @@
 
 #include "dxfviewer/flatten/BinaryDrawing.h"
 
+#include "dxfviewer/io/WorkMeter.h"
+
 #include <QtGlobal>
 
 #include <algorithm>
@@ -74,11 +76,14 @@ public:
     {
     }
 
-    std::string text()
+    std::string text(IReadingSteps* steps)
     {
+        dxfviewer::WorkMeter meter(steps);
         std::size_t complete = 0;
-        while (!m_rest.empty() && appendGroup())
+        while (!m_rest.empty() && appendGroup()) {
             complete = m_text.size();
+            meter.add();
+        }
         m_text.resize(complete);
         return std::move(m_text);
     }
@@ -198,9 +203,9 @@ bool isBinaryDrawing(std::string_view bytes)
                   == sentinelEnd;
 }
 
-std::string textOfBinary(std::string_view bytes)
+std::string textOfBinary(std::string_view bytes, IReadingSteps* steps)
 {
-    return Converter(bytes).text();
+    return Converter(bytes).text(steps);
 }
 
 } // namespace dxfviewer

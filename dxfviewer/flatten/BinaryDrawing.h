@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+class IReadingSteps;
+
 namespace dxfviewer
 {
 
@@ -12,6 +14,8 @@ namespace dxfviewer
 bool isBinaryDrawing(std::string_view bytes);
 
 /// The same drawing as text. It ends before the first group that cannot be read.
-std::string textOfBinary(std::string_view bytes);
+///
+/// @param steps  asked now and then whether to go on; may be null
+std::string textOfBinary(std::string_view bytes, IReadingSteps* steps = nullptr);
 
 } // namespace dxfviewer

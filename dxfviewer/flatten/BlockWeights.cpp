@@ -3,26 +3,28 @@
 #include "dxfviewer/flatten/BlockWeights.h"
 
 #include "dxfviewer/flatten/Drawing.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <algorithm>
 
 namespace dxfviewer
 {
 
-BlockWeights::BlockWeights(Drawing& drawing, long long most)
+BlockWeights::BlockWeights(Drawing& drawing, long long most, WorkMeter& meter)
     : m_most(most)
     , m_states(drawing.blockCount(), State::New)
     , m_weights(drawing.blockCount())
 {
-    follow(drawing);
+    follow(drawing, meter);
 }
 
 /// Follows all inserts without recursion: blocks may be nested deeper than function calls can.
-void BlockWeights::follow(Drawing& drawing)
+void BlockWeights::follow(Drawing& drawing, WorkMeter& meter)
 {
     std::vector<Step> way{{Drawing::model, 0}};
     m_states[Drawing::model] = State::Open;
     while (!way.empty()) {
+        meter.add();
         Step& step = way.back();
         Block& block = drawing.block(step.block);
         if (step.insert == block.inserts.size()) {

@@ -9,13 +9,14 @@ namespace dxfviewer
 {
 
 class Drawing;
+class WorkMeter;
 
 /// How much each block of a drawing makes, computed before any block is inserted.
 class BlockWeights
 {
 public:
     /// Cuts the inserts by which a block would contain itself.
-    BlockWeights(Drawing& drawing, long long most);
+    BlockWeights(Drawing& drawing, long long most, WorkMeter& meter);
 
     /// The number of vertices and inserted blocks that one instance of a block makes, or the most
     /// if it makes more. 0 if it shows nothing, however often it is inserted.
@@ -31,7 +32,7 @@ private:
         std::size_t insert;
     };
 
-    void follow(Drawing& drawing);
+    void follow(Drawing& drawing, WorkMeter& meter);
     long long weightOf(const Drawing& drawing, std::size_t block) const;
 
     long long m_most;

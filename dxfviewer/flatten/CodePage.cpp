@@ -3,6 +3,7 @@
 #include "dxfviewer/flatten/CodePage.h"
 
 #include "dxfviewer/flatten/Record.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <algorithm>
 #include <array>
@@ -100,8 +101,9 @@ CodePage::~CodePage()
         iconv_close(m_converter);
 }
 
-std::string CodePage::toUtf8(std::string_view line) const
+std::string CodePage::toUtf8(std::string_view line, IReadingSteps* steps) const
 {
+    WorkMeter meter(steps);
     std::string result;
     if (!isInvalid(m_converter))
         iconv(m_converter, nullptr, nullptr, nullptr, nullptr);
@@ -109,6 +111,7 @@ std::string CodePage::toUtf8(std::string_view line) const
     char* from = const_cast<char*>(line.data());
     std::size_t left = line.size();
     while (left > 0) {
+        meter.add();
         std::array<char, 256> buffer;
         char* to = buffer.data();
         std::size_t room = buffer.size();
@@ -128,9 +131,11 @@ std::string CodePage::toUtf8(std::string_view line) const
     return result;
 }
 
-bool isUtf8(std::string_view text)
+bool isUtf8(std::string_view text, IReadingSteps* steps)
 {
+    WorkMeter meter(steps);
     while (!text.empty()) {
+        meter.add();
         const std::size_t length = soundSequence(text);
         if (length == 0)
             return false;

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+class IReadingSteps;
+
 namespace dxfviewer
 {
 
@@ -21,7 +23,9 @@ public:
 
     /// A line in UTF-8. Bytes that the code page does not define become characters of their own, so
     /// that different texts stay different.
-    std::string toUtf8(std::string_view line) const;
+    ///
+    /// @param steps  asked now and then whether to go on; may be null
+    std::string toUtf8(std::string_view line, IReadingSteps* steps = nullptr) const;
 
 private:
     Q_DISABLE_COPY(CodePage)
@@ -31,7 +35,9 @@ private:
 };
 
 /// Whether a text is sound UTF-8. Plain ASCII is.
-bool isUtf8(std::string_view text);
+///
+/// @param steps  asked now and then whether to go on; may be null
+bool isUtf8(std::string_view text, IReadingSteps* steps = nullptr);
 
 /// Appends a character.
 void appendUtf8(std::string& text, char32_t character);

@@ -49,15 +49,16 @@ bool isResolved(int color)
 namespace dxfviewer
 {
 
-DocumentFiller::DocumentFiller(DXFDocument& document, Drawing& drawing)
+DocumentFiller::DocumentFiller(DXFDocument& document, Drawing& drawing, IReadingSteps* steps)
     : m_document(document)
     , m_drawing(drawing)
+    , m_meter(steps)
 {
 }
 
 bool DocumentFiller::fill(long long most)
 {
-    const BlockWeights weights(m_drawing, most + 1);
+    const BlockWeights weights(m_drawing, most + 1, m_meter);
     if (weights.of(Drawing::model) > most)
         return false;
     count(weights);
@@ -82,6 +83,7 @@ void DocumentFiller::count(const BlockWeights& weights)
         for (const auto& [kind, number] : block.skipped)
             m_skipped[kindName(kind)] += number;
         for (const Block::Item& item : block.items) {
+            m_meter.add();
             if (item.insert < 0)
                 continue;
             const BlockInsert& insert = block.inserts[static_cast<std::size_t>(item.insert)];
@@ -98,7 +100,8 @@ void DocumentFiller::dropEmptyInserts(const BlockWeights& weights)
 {
     for (std::size_t id = 0; id < m_drawing.blockCount(); ++id) {
         Block& block = m_drawing.block(id);
-        const auto showsNothing = [&block, &weights](const Block::Item& item) {
+        const auto showsNothing = [this, &block, &weights](const Block::Item& item) {
+            m_meter.add();
             if (item.insert < 0)
                 return false;
             const BlockInsert& insert = block.inserts[static_cast<std::size_t>(item.insert)];
@@ -132,6 +135,7 @@ void DocumentFiller::add()
 /// Adds the next item of the innermost instance. False at its end.
 bool DocumentFiller::addNext(std::vector<Instance>& way)
 {
+    m_meter.add();
     Instance& instance = way.back();
     const Block& block = m_drawing.block(instance.block);
     if (instance.item == block.items.size())
@@ -174,6 +178,7 @@ void DocumentFiller::addChain(const Instance& instance, const Block::Item& item)
     const Chains& chains = m_drawing.block(instance.block).chains;
     const std::size_t begin = chains.begin(instance.chain);
     const std::size_t end = chains.end(instance.chain);
+    m_meter.add(end - begin);
     QVector<DXFVertex> vertices;
     vertices.reserve(static_cast<int>(end - begin));
     for (std::size_t i = begin; i < end; ++i) {

@@ -4,6 +4,7 @@
 
 #include "dxfviewer/flatten/Drawing.h"
 #include "dxfviewer/flatten/Placement.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <QHash>
 #include <QMap>
@@ -28,7 +29,8 @@ class BlockWeights;
 class DocumentFiller
 {
 public:
-    DocumentFiller(DXFDocument& document, Drawing& drawing);
+    /// @param steps  asked now and then whether to go on; may be null
+    DocumentFiller(DXFDocument& document, Drawing& drawing, IReadingSteps* steps = nullptr);
 
     /// False, and nothing is added, if that makes more vertices and inserted blocks than this.
     bool fill(long long most);
@@ -70,6 +72,7 @@ private:
 
     DXFDocument& m_document;
     Drawing& m_drawing;
+    WorkMeter m_meter;
     QMap<QString, int> m_shown;
     QMap<QString, int> m_skipped;
     int m_elsewhere = 0;

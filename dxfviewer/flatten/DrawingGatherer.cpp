@@ -68,8 +68,9 @@ double longestStepOf(const FlatteningOptions& options)
 namespace dxfviewer
 {
 
-DrawingGatherer::DrawingGatherer(const FlatteningOptions& options)
+DrawingGatherer::DrawingGatherer(const FlatteningOptions& options, IReadingSteps* steps)
     : m_options(options)
+    , m_meter(steps)
     , m_longestStep(longestStepOf(options))
 {
     if (m_options.showsTexts && TextOutlines::areAvailable())
@@ -216,7 +217,7 @@ void DrawingGatherer::addShapes(std::size_t kind, std::size_t look, Append appen
     const Chains::Mark before = chains.mark();
     const auto most = static_cast<std::size_t>(std::max<qint64>(m_options.maximalVertices, 0));
     const std::size_t room = most - std::min(most, m_pointCount);
-    const bool isDrawn = append(chains, Fineness{m_longestStep, before.points + room + 1});
+    const bool isDrawn = append(chains, Fineness{m_longestStep, before.points + room + 1, m_meter});
     if (!isDrawn || !chains.isFiniteSince(before)) {
         chains.goBackTo(before);
         skip(kind);

@@ -8,6 +8,7 @@
 #include "dxfviewer/flatten/PolylineShapes.h"
 #include "dxfviewer/flatten/Record.h"
 #include "dxfviewer/flatten/TextOutlines.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <cstddef>
 #include <optional>
@@ -25,7 +26,8 @@ namespace dxfviewer
 class DrawingGatherer
 {
 public:
-    explicit DrawingGatherer(const FlatteningOptions& options);
+    /// @param steps  asked now and then whether to go on; may be null
+    explicit DrawingGatherer(const FlatteningOptions& options, IReadingSteps* steps = nullptr);
 
     /// Whether the group was taken.
     bool takeGroup(int code, std::string_view value);
@@ -64,6 +66,7 @@ private:
     Block& block() { return m_drawing.block(m_block); }
 
     FlatteningOptions m_options;
+    WorkMeter m_meter;
     double m_longestStep;
     /// Nothing if texts are not shown.
     std::optional<TextOutlines> m_outlines;

@@ -6,6 +6,7 @@
 #include "dxfviewer/flatten/CodePage.h"
 #include "dxfviewer/flatten/Record.h"
 #include "dxfviewer/io/GroupScan.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <algorithm>
 
@@ -26,11 +27,13 @@ struct Header {
     std::string_view codePage;
 };
 
-Header headerOf(std::string_view text)
+Header headerOf(std::string_view text, IReadingSteps* steps)
 {
+    WorkMeter meter(steps);
     Header header;
     std::string_view variable;
-    scanGroups(text, [&header, &variable](std::string_view codeLine, std::string_view valueLine) {
+    scanGroups(text, [&](std::string_view codeLine, std::string_view valueLine) {
+        meter.add();
         constexpr int variableCode = 9;
         const int code = toInt(codeLine);
         const std::string_view value = trimmed(valueLine);
@@ -54,9 +57,10 @@ bool isPlain(std::string_view text)
 }
 
 /// A text in which some lines, or all, are written in the drawing's code page.
-std::string inUtf8(std::string_view text)
+std::string inUtf8(std::string_view text, IReadingSteps* steps)
 {
-    const Header header = headerOf(text);
+    const Header header = headerOf(text, steps);
+    WorkMeter meter(steps);
     const bool hasUtf8 = header.release >= firstUtf8Release;
     const CodePage codePage(header.codePage);
     std::string result;
@@ -64,13 +68,14 @@ std::string inUtf8(std::string_view text)
     const char* at = text.data();
     const char* const end = at + text.size();
     while (at != end) {
+        meter.add();
         // Line by line, so that an incomplete character does not take the line end with it.
         const char* const lineStop = lineEnd(at, end);
         const std::string_view line(at, static_cast<std::size_t>(lineStop - at));
-        if (isPlain(line) || (hasUtf8 && isUtf8(line)))
+        if (isPlain(line) || (hasUtf8 && isUtf8(line, steps)))
             result += line;
         else
-            result += codePage.toUtf8(line);
+            result += codePage.toUtf8(line, steps);
         at = lineStop;
         if (at != end) {
             result += '\n';
@@ -118,12 +123,14 @@ bool isControl(char32_t number)
     return number < 0x20 || (number >= 0x7f && number < 0xa0);
 }
 
-std::string withoutEscapes(std::string_view text)
+std::string withoutEscapes(std::string_view text, IReadingSteps* steps)
 {
+    WorkMeter meter(steps);
     constexpr std::size_t escapeLength = escape.size() + digitsOfEscape;
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
+        meter.add();
         const std::size_t at = std::min(text.find(escape), text.size());
         result += text.substr(0, at);
         text.remove_prefix(at);
@@ -151,15 +158,15 @@ std::string withoutEscapes(std::string_view text)
 namespace dxfviewer
 {
 
-std::optional<std::string> utf8TextOf(std::string_view bytes)
+std::optional<std::string> utf8TextOf(std::string_view bytes, IReadingSteps* steps)
 {
     std::optional<std::string> text;
     if (isBinaryDrawing(bytes))
-        text = textOfBinary(bytes);
-    if (!isUtf8(text ? *text : bytes))
-        text = inUtf8(text ? *text : bytes);
+        text = textOfBinary(bytes, steps);
+    if (!isUtf8(text ? *text : bytes, steps))
+        text = inUtf8(text ? *text : bytes, steps);
     if ((text ? std::string_view(*text) : bytes).find(escape) != std::string_view::npos)
-        text = withoutEscapes(text ? *text : bytes);
+        text = withoutEscapes(text ? *text : bytes, steps);
     return text;
 }
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+class IReadingSteps;
+
 namespace dxfviewer
 {
 
@@ -14,7 +16,9 @@ namespace dxfviewer
  * escaped characters in place of "\U+20AC".
  *
  * Nothing if the bytes are that text already.
+ *
+ * @param steps  asked now and then whether to go on; may be null
  */
-std::optional<std::string> utf8TextOf(std::string_view bytes);
+std::optional<std::string> utf8TextOf(std::string_view bytes, IReadingSteps* steps = nullptr);
 
 } // namespace dxfviewer

@@ -10,6 +10,7 @@
 #include "dxfviewer/flatten/PolylineShapes.h"
 #include "dxfviewer/flatten/Record.h"
 #include "dxfviewer/flatten/Splines.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <algorithm>
 #include <array>
@@ -108,7 +109,7 @@ void addCoordinate(Points& points, int coordinate, double value)
         points.back().z = value;
 }
 
-Spline splineOf(const Record& record)
+Spline splineOf(const Record& record, WorkMeter& meter)
 {
     constexpr int closedBit = 1;
     constexpr int periodicBit = 2;
@@ -119,6 +120,7 @@ Spline splineOf(const Record& record)
     spline.startTangent = record.point(12);
     spline.endTangent = record.point(13);
     for (const Record::Group group : record) {
+        meter.add();
         switch (group.code) {
         case 10:
         case 20:
@@ -145,8 +147,7 @@ Spline splineOf(const Record& record)
 
 bool appendSplineEntity(Chains& chains, const Record& record, const Fineness& fineness)
 {
-    const bool isDrawn =
-        appendSpline(chains.open(), splineOf(record), fineness.longestStep, fineness.mostPoints);
+    const bool isDrawn = appendSpline(chains.open(), splineOf(record, fineness.meter), fineness);
     chains.close();
     return isDrawn;
 }
@@ -157,11 +158,12 @@ bool appendLeader(Chains& chains, const Record& record, const Fineness& fineness
     constexpr int splinePath = 1;
     Spline spline;
     for (const Record::Group group : record) {
+        fineness.meter.add();
         if (group.code == 10 || group.code == 20 || group.code == 30)
             addCoordinate(spline.fitPoints, group.code / 10 - 1, group.number());
     }
     if (record.integer(72) == splinePath)
-        appendSpline(chains.open(), spline, fineness.longestStep, fineness.mostPoints);
+        appendSpline(chains.open(), spline, fineness);
     else
         chains.open().insert(chains.open().end(), spline.fitPoints.begin(), spline.fitPoints.end());
     chains.close();

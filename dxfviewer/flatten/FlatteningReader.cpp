@@ -16,7 +16,7 @@ FlatteningReader::FlatteningReader(DXFDocument& document, const FlatteningOption
     , m_filledDocument(document)
     , m_options(options)
 {
-    // One more than this must fit into the same type.
+    // All may belong to one polyline, and Qt 5 counts the vertices of a list with an int.
     constexpr qint64 mostVertices = std::numeric_limits<int>::max();
     m_options.maximalVertices = std::clamp(m_options.maximalVertices, qint64(0), mostVertices);
 }
@@ -25,8 +25,9 @@ FlatteningReader::~FlatteningReader() = default;
 
 std::optional<std::string> FlatteningReader::textOf(std::string_view bytes)
 {
-    m_gatherer = std::make_unique<dxfviewer::DrawingGatherer>(m_options);
-    return dxfviewer::utf8TextOf(bytes);
+    m_isTooLarge = false;
+    m_gatherer = std::make_unique<dxfviewer::DrawingGatherer>(m_options, this);
+    return dxfviewer::utf8TextOf(bytes, this);
 }
 
 bool FlatteningReader::takesGroup(int code, std::string_view value)
@@ -41,8 +42,9 @@ bool FlatteningReader::finishReading()
     if (!gatherer)
         return true;
     gatherer->finish();
-    dxfviewer::DocumentFiller filler(m_filledDocument, gatherer->drawing());
-    if (gatherer->isTooLarge() || !filler.fill(m_options.maximalVertices)) {
+    dxfviewer::DocumentFiller filler(m_filledDocument, gatherer->drawing(), this);
+    m_isTooLarge = gatherer->isTooLarge() || !filler.fill(m_options.maximalVertices);
+    if (m_isTooLarge) {
         qDebug("FlatteningReader: the drawing has more than %lld vertices",
                static_cast<long long>(m_options.maximalVertices));
         return false;

@@ -32,10 +32,12 @@ class DrawingGatherer;
  * Texts that are not UTF-8 are decoded by the drawing's code page, and binary DXF is read as well.
  *
  * load() is the one of DXFReader. It also returns false, after a message on the debug channel, if
- * the drawing makes more vertices than the options allow. Make a reader for each drawing.
+ * the drawing makes more vertices than the options allow; isTooLarge() tells. Make a reader for
+ * each drawing.
  *
- * A subclass may override processCodeValuePair(), which is called for every group, to show progress
- * or, by an exception, to stop.
+ * A subclass may override processCodeValuePair(), which is called for every group, to show
+ * progress, goOn() to stop at any time by an exception, and readingFailed() to learn what stopped
+ * the read.
  */
 class DXFVIEWER_EXPORT FlatteningReader : public DXFReader, public IReadingSteps
 {
@@ -58,6 +60,10 @@ public:
     /// attributes among them; those on layouts are not counted. Complete after load().
     int invisible() const { return m_invisible; }
 
+    /// Whether load() returned false because the drawing makes more vertices than the options
+    /// allow.
+    bool isTooLarge() const { return m_isTooLarge; }
+
     /// @name Steps of load()
     /// @{
     std::optional<std::string> textOf(std::string_view bytes) override;
@@ -69,6 +75,7 @@ private:
     DXFDocument& m_filledDocument;
     FlatteningOptions m_options;
     std::unique_ptr<dxfviewer::DrawingGatherer> m_gatherer;
+    bool m_isTooLarge = false;
     QMap<QString, int> m_shown;
     QMap<QString, int> m_skipped;
     int m_elsewhere = 0;

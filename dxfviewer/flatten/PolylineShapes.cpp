@@ -7,6 +7,7 @@
 #include "dxfviewer/flatten/Fineness.h"
 #include "dxfviewer/flatten/Placement.h"
 #include "dxfviewer/flatten/Record.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -43,9 +44,12 @@ void appendBulged(Chains& chains, const std::vector<BulgedVertex>& vertices, boo
     Points& points = chains.open();
     const std::size_t begin = points.size();
     points.push_back(vertices.front().point);
-    for (std::size_t i = 1; i < vertices.size() && points.size() < fineness.mostPoints; ++i)
+    for (std::size_t i = 1; i < vertices.size() && points.size() < fineness.mostPoints; ++i) {
+        const std::size_t before = points.size();
         appendBulge(points, vertices[i - 1].point, vertices[i].point, vertices[i - 1].bulge,
                     fineness.longestStep);
+        fineness.meter.add(points.size() - before);
+    }
     // A polyline that repeats its first vertex at its end is closed already.
     if (isClosed && vertices.back().point != vertices.front().point)
         appendBulge(points, vertices.back().point, vertices.front().point, vertices.back().bulge,
@@ -105,6 +109,7 @@ bool appendLightPolyline(Chains& chains, const Record& record, const Fineness& f
     Point3 extrusion = up;
     std::vector<BulgedVertex> vertices;
     for (const Record::Group group : record) {
+        fineness.meter.add();
         if (group.code == 10)
             vertices.push_back({{group.number(), 0.0, 0.0}, 0.0});
         else if (group.code == 20 && !vertices.empty())
@@ -151,7 +156,7 @@ void OldPolyline::addVertex(const Record& record)
 void OldPolyline::appendTo(Chains& chains, const Fineness& fineness) const
 {
     if (has(facesFlag))
-        appendFaces(chains);
+        appendFaces(chains, fineness);
     else if (has(gridFlag))
         appendGrid(chains, fineness);
     else if (has(spatialFlag))
@@ -213,14 +218,18 @@ void OldPolyline::appendGrid(Chains& chains, const Fineness& fineness) const
     if (rows == 0)
         return;
     const bool isWhole = rows == static_cast<std::size_t>(givenRows);
-    for (std::size_t row = 0; row < rows && chains.points().size() < fineness.mostPoints; ++row)
+    for (std::size_t row = 0; row < rows && chains.points().size() < fineness.mostPoints; ++row) {
+        fineness.meter.add(columns);
         appendEvery(chains, points, row * columns, 1, columns, has(closedAcrossFlag));
+    }
     for (std::size_t column = 0; column < columns && chains.points().size() < fineness.mostPoints;
-         ++column)
+         ++column) {
+        fineness.meter.add(rows);
         appendEvery(chains, points, column, columns, rows, has(closedFlag) && isWhole);
+    }
 }
 
-void OldPolyline::appendFaces(Chains& chains) const
+void OldPolyline::appendFaces(Chains& chains, const Fineness& fineness) const
 {
     Points points;
     for (const Vertex& vertex : m_vertices) {
@@ -230,6 +239,7 @@ void OldPolyline::appendFaces(Chains& chains) const
 
     DrawnEdges drawn;
     for (const Vertex& face : m_vertices) {
+        fineness.meter.add();
         if ((face.flags & faceVertexFlag) == 0 || (face.flags & meshVertexFlag) != 0)
             continue;
         const auto end = std::find(face.corners.begin(), face.corners.end(), 0);

@@ -45,7 +45,7 @@ private:
     void appendFlat(Chains& chains, const Fineness& fineness) const;
     void appendSpatial(Chains& chains) const;
     void appendGrid(Chains& chains, const Fineness& fineness) const;
-    void appendFaces(Chains& chains) const;
+    void appendFaces(Chains& chains, const Fineness& fineness) const;
 
     int m_flags;
     /// Nothing if only the vertices have one.

@@ -2,15 +2,20 @@
 
 #include "dxfviewer/flatten/Splines.h"
 
+#include "dxfviewer/flatten/Fineness.h"
+#include "dxfviewer/io/WorkMeter.h"
+
 #include <algorithm>
 #include <array>
 
 namespace
 {
 
+using dxfviewer::Fineness;
 using dxfviewer::Point3;
 using dxfviewer::Points;
 using dxfviewer::Spline;
+using dxfviewer::WorkMeter;
 
 // Nobody draws with a higher degree, and one point would take longer than a whole drawing.
 constexpr int highestDegree = 32;
@@ -25,23 +30,31 @@ double turnBetween(const Point3& a, const Point3& b)
     return std::isfinite(turn) ? turn : 0.0;
 }
 
+/// How far a curve that is flattened so finely may turn and still be one segment. A third of an
+/// arc's step turns by a third of its angle against its neighbour.
+double straightTurn(const Fineness& fineness)
+{
+    return fineness.longestStep / 3.0;
+}
+
 /// Puts points on a curve, closer where it turns.
 template <typename Curve>
 class Tracer
 {
 public:
-    Tracer(Points& points, const Curve& curve, double longestStep, std::size_t mostPoints)
+    Tracer(Points& points, const Curve& curve, const Fineness& fineness)
         : m_points(points)
         , m_curve(curve)
-        // A third of an arc's step turns by a third of its angle against its neighbour.
-        , m_longestTurn(longestStep / 3.0)
-        , m_mostPoints(mostPoints)
+        , m_longestTurn(straightTurn(fineness))
+        , m_mostPoints(fineness.mostPoints)
+        , m_meter(fineness.meter)
     {
     }
 
     /// Without the first point and with the last.
     void trace(double begin, double end)
     {
+        m_meter.add(m_curve.work());
         trace({begin, m_curve.at(begin)}, {end, m_curve.at(end)}, mostCuts);
     }
 
@@ -61,6 +74,7 @@ private:
     {
         if (m_points.size() >= m_mostPoints)
             return;
+        m_meter.add(m_curve.work());
         // Two points between: a single one would lie on the straight line when a piece bends both
         // ways.
         const Place a = between(begin, end, 1.0 / 3.0);
@@ -81,6 +95,7 @@ private:
     const Curve& m_curve;
     double m_longestTurn;
     std::size_t m_mostPoints;
+    WorkMeter& m_meter;
 };
 
 /// A rational B-spline between two knots.
@@ -92,6 +107,25 @@ public:
         , m_degree(static_cast<std::size_t>(spline.degree))
         , m_span(span)
     {
+    }
+
+    /// The work for a point or two.
+    std::size_t work() const { return m_degree * m_degree; }
+
+    /// Whether it turns by less than an angle altogether. It turns no more than the polygon of its
+    /// control points.
+    bool isStraight(double longestTurn) const
+    {
+        Point3 former;
+        double turn = 0.0;
+        for (std::size_t i = m_span - m_degree; i < m_span && turn <= longestTurn; ++i) {
+            const Point3 leg = m_spline.controlPoints[i + 1] - m_spline.controlPoints[i];
+            if (leg == Point3{})
+                continue;
+            turn += turnBetween(former, leg);
+            former = leg;
+        }
+        return turn <= longestTurn;
     }
 
     Point3 at(double parameter) const
@@ -137,6 +171,9 @@ struct Cubic {
     Point3 end;
     Point3 endTangent;
     double size = 1.0;
+
+    /// The work for a point or two.
+    static std::size_t work() { return 1; }
 
     Point3 at(double share) const
     {
@@ -201,8 +238,18 @@ Spline repaired(const Spline& given)
     return spline;
 }
 
-bool appendControlled(Points& points, const Spline& given, double longestStep,
-                      std::size_t mostPoints)
+/// Appends what lies between two knots, without the first point.
+void appendSpan(Points& points, const KnotSpan& curve, double begin, double end, std::size_t pieces,
+                const Fineness& fineness)
+{
+    Tracer<KnotSpan> tracer(points, curve, fineness);
+    const double width = (end - begin) / static_cast<double>(pieces);
+    for (std::size_t i = 0; i < pieces; ++i)
+        tracer.trace(begin + width * static_cast<double>(i),
+                     i + 1 == pieces ? end : begin + width * static_cast<double>(i + 1));
+}
+
+bool appendControlled(Points& points, const Spline& given, const Fineness& fineness)
 {
     Spline limited = given;
     limited.degree = static_cast<int>(
@@ -213,9 +260,14 @@ bool appendControlled(Points& points, const Spline& given, double longestStep,
     const auto degree = static_cast<std::size_t>(spline.degree);
     // A curve of a higher degree may bend more often: one look at three pieces is not enough.
     const std::size_t pieces = std::max<std::size_t>(1, degree - std::min<std::size_t>(degree, 2));
+    // A weight that is not positive pulls the curve away from its control points.
+    const bool staysAtPoints = std::all_of(spline.weights.begin(), spline.weights.end(),
+                                           [](double weight) { return weight > 0.0; });
 
     bool hasBegun = false;
-    for (std::size_t span = degree; span < spline.controlPoints.size(); ++span) {
+    for (std::size_t span = degree;
+         span < spline.controlPoints.size() && points.size() < fineness.mostPoints; ++span) {
+        fineness.meter.add(degree);
         const double begin = spline.knots[span];
         const double end = spline.knots[span + 1];
         if (!(begin < end))
@@ -224,11 +276,10 @@ bool appendControlled(Points& points, const Spline& given, double longestStep,
         if (!hasBegun)
             points.push_back(curve.at(begin));
         hasBegun = true;
-        Tracer<KnotSpan> tracer(points, curve, longestStep, mostPoints);
-        const double width = (end - begin) / static_cast<double>(pieces);
-        for (std::size_t i = 0; i < pieces; ++i)
-            tracer.trace(begin + width * static_cast<double>(i),
-                         i + 1 == pieces ? end : begin + width * static_cast<double>(i + 1));
+        if (staysAtPoints && curve.isStraight(straightTurn(fineness)))
+            points.push_back(curve.at(end));
+        else
+            appendSpan(points, curve, begin, end, pieces, fineness);
     }
     return hasBegun;
 }
@@ -346,7 +397,7 @@ Points closedTangents(const Points& fit)
     return tangents;
 }
 
-bool appendFitted(Points& points, const Spline& spline, double longestStep, std::size_t mostPoints)
+bool appendFitted(Points& points, const Spline& spline, const Fineness& fineness)
 {
     Points fit = spline.fitPoints;
     const bool goesRound = spline.isClosed || spline.isPeriodic;
@@ -360,9 +411,9 @@ bool appendFitted(Points& points, const Spline& spline, double longestStep, std:
     const Points tangents = isRing ? closedTangents(fit) : openTangents(spline, fit);
     const std::vector<double> distances = distancesAlong(fit);
     points.push_back(fit.front());
-    for (std::size_t i = 0; i + 1 < fit.size(); ++i) {
+    for (std::size_t i = 0; i + 1 < fit.size() && points.size() < fineness.mostPoints; ++i) {
         const Cubic cubic{fit[i], tangents[i], fit[i + 1], tangents[i + 1], distances[i]};
-        Tracer<Cubic>(points, cubic, longestStep, mostPoints).trace(0.0, 1.0);
+        Tracer<Cubic>(points, cubic, fineness).trace(0.0, 1.0);
         points.back() = fit[i + 1];
     }
     return true;
@@ -373,12 +424,12 @@ bool appendFitted(Points& points, const Spline& spline, double longestStep, std:
 namespace dxfviewer
 {
 
-bool appendSpline(Points& points, const Spline& spline, double longestStep, std::size_t mostPoints)
+bool appendSpline(Points& points, const Spline& spline, const Fineness& fineness)
 {
     if (spline.controlPoints.empty())
-        return appendFitted(points, spline, longestStep, mostPoints);
+        return appendFitted(points, spline, fineness);
     return spline.controlPoints.size() > 1 && spline.degree > 0
-           && appendControlled(points, spline, longestStep, mostPoints);
+           && appendControlled(points, spline, fineness);
 }
 
 } // namespace dxfviewer

@@ -9,6 +9,8 @@
 namespace dxfviewer
 {
 
+struct Fineness;
+
 /// A spline as a drawing gives it. Lists that do not fit each other are allowed.
 struct Spline {
     int degree = 3;
@@ -29,10 +31,10 @@ struct Spline {
 /**
  * Appends the points of a spline.
  *
- * @param longestStep  how far it may turn from point to point, in radians
- * @param mostPoints   the number of points at which it stops
+ * From point to point it turns by about the longest step of an arc at most.
+ *
  * @returns false if it cannot be drawn: too few points or too high a degree
  */
-bool appendSpline(Points& points, const Spline& spline, double longestStep, std::size_t mostPoints);
+bool appendSpline(Points& points, const Spline& spline, const Fineness& fineness);
 
 } // namespace dxfviewer

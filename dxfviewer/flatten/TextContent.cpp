@@ -3,6 +3,7 @@
 #include "dxfviewer/flatten/TextContent.h"
 
 #include "dxfviewer/flatten/Record.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 namespace
 {
@@ -30,10 +31,11 @@ QChar numberedCharacter(const QString& digits)
 }
 
 /// Replaces what is written as "%%d" and the like.
-QString withoutPercentCodes(const QString& text)
+QString withoutPercentCodes(const QString& text, dxfviewer::WorkMeter& meter)
 {
     QString result;
     for (int i = 0; i < text.size(); ++i) {
+        meter.add();
         const bool begins =
             text[i] == QLatin1Char('%') && i + 2 < text.size() && text[i + 1] == QLatin1Char('%');
         if (!begins) {
@@ -75,12 +77,14 @@ QString withoutPercentCodes(const QString& text)
 class ParagraphText
 {
 public:
-    explicit ParagraphText(const QString& text)
+    ParagraphText(const QString& text, dxfviewer::WorkMeter& meter)
         : m_text(text)
         , m_lines(QString())
     {
-        while (m_at < m_text.size())
+        while (m_at < m_text.size()) {
+            meter.add();
             take();
+        }
     }
 
     const QStringList& lines() const { return m_lines; }
@@ -181,17 +185,19 @@ namespace dxfviewer
 
 QString lineOfText(const Record& record)
 {
-    return withoutPercentCodes(shownText(record.text(textCode)));
+    // A single line is short.
+    WorkMeter meter;
+    return withoutPercentCodes(shownText(record.text(textCode)), meter);
 }
 
-QStringList linesOfParagraphs(const Record& record)
+QStringList linesOfParagraphs(const Record& record, WorkMeter& meter)
 {
     QString text;
     for (const Record::Group group : record) {
         if (group.code == earlierTextCode || group.code == textCode)
             text += shownText(group.value);
     }
-    return ParagraphText(withoutPercentCodes(text)).lines();
+    return ParagraphText(withoutPercentCodes(text, meter), meter).lines();
 }
 
 } // namespace dxfviewer

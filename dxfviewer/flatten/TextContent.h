@@ -9,11 +9,12 @@ namespace dxfviewer
 {
 
 class Record;
+class WorkMeter;
 
 /// The words of a text on a drawing, line by line, without the codes that format it.
 /// @{
 QString lineOfText(const Record& record);
-QStringList linesOfParagraphs(const Record& record);
+QStringList linesOfParagraphs(const Record& record, WorkMeter& meter);
 /// @}
 
 } // namespace dxfviewer

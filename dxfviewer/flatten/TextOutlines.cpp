@@ -4,6 +4,7 @@
 
 #include "dxfviewer/flatten/Chains.h"
 #include "dxfviewer/flatten/Fineness.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -23,6 +24,9 @@ constexpr double usualCapitals = 0.7 * pixelSize;
 
 // The time to lay out a text grows faster than its length.
 constexpr int longestPiece = 256;
+
+// An outline has some dozen points.
+constexpr std::size_t workOfLetter = 32;
 
 QFont fontOf(const QString& family)
 {
@@ -74,6 +78,7 @@ void TextOutlines::append(Chains& chains, const QString& text, const Placement& 
     for (int i = 0; i < text.size() && chains.points().size() < fineness.mostPoints;
          i += longestPiece) {
         const QString piece = text.mid(i, longestPiece);
+        fineness.meter.add(workOfLetter * static_cast<std::size_t>(piece.size()));
         QPainterPath path;
         path.addText(QPointF(), m_font, piece);
         const auto outlines = path.toSubpathPolygons();

@@ -8,6 +8,7 @@
 #include "dxfviewer/flatten/Record.h"
 #include "dxfviewer/flatten/TextContent.h"
 #include "dxfviewer/flatten/TextOutlines.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <algorithm>
 #include <string_view>
@@ -113,7 +114,8 @@ bool appendLineOfText(Chains& chains, const Record& record, const Fineness& fine
 }
 
 /// The lines of paragraphs, broken at blanks where they are longer than a width. 0 means no limit.
-QStringList brokenLines(const QStringList& paragraphs, double width, const TextOutlines& outlines)
+QStringList brokenLines(const QStringList& paragraphs, double width, const TextOutlines& outlines,
+                        WorkMeter& meter)
 {
     if (!(width > 0.0))
         return paragraphs;
@@ -124,6 +126,7 @@ QStringList brokenLines(const QStringList& paragraphs, double width, const TextO
         double used = 0.0;
         const auto words = paragraph.split(QLatin1Char(' '));
         for (const QString& word : words) {
+            meter.add(1 + static_cast<std::size_t>(word.size()));
             const double size = outlines.widthOf(word);
             if (!line.isEmpty() && used + blank + size > width) {
                 lines.append(line);
@@ -143,23 +146,28 @@ QStringList brokenLines(const QStringList& paragraphs, double width, const TextO
 }
 
 /// The direction may be given by a vector or an angle. The later of the two counts.
-double angleOf(const Record& record)
+bool endsWithVector(const Record& record)
 {
-    double angle = 0.0;
-    Point3 direction;
+    bool isVector = false;
     for (const Record::Group group : record) {
-        if (group.code == 50)
-            angle = radians(group.number());
-        else if (group.code == 11)
-            direction.x = group.number();
-        else if (group.code == 21)
-            direction.y = group.number();
-        else
-            continue;
-        if (group.code != 50)
-            angle = std::atan2(direction.y, direction.x);
+        if (group.code == 11 || group.code == 21 || group.code == 50)
+            isVector = group.code != 50;
     }
-    return angle;
+    return isVector;
+}
+
+/// The axes of paragraphs. An angle turns them in the entity's own plane; a vector is given in the
+/// drawing's coordinates already.
+Placement axesOf(const Record& record)
+{
+    const Point3 extrusion = record.point(210, up);
+    const Point3 x = normalized(record.point(11), {});
+    if (!endsWithVector(record))
+        return extruded(extrusion) * turned(radians(record.number(50)));
+    if (x == Point3{})
+        return extruded(extrusion);
+    const Point3 z = normalized(extrusion, up);
+    return {x, cross(z, x), z, {}};
 }
 
 bool appendParagraphs(Chains& chains, const Record& record, const Fineness& fineness,
@@ -168,8 +176,8 @@ bool appendParagraphs(Chains& chains, const Record& record, const Fineness& fine
     const double height = record.number(40);
     if (!(height > 0.0) || !std::isfinite(height))
         return false;
-    const QStringList lines =
-        brokenLines(linesOfParagraphs(record), record.number(41) / height, outlines);
+    const QStringList lines = brokenLines(linesOfParagraphs(record, fineness.meter),
+                                          record.number(41) / height, outlines, fineness.meter);
 
     // Nine places of the anchor, row by row from the top left.
     constexpr int places = 9;
@@ -181,8 +189,8 @@ bool appendParagraphs(Chains& chains, const Record& record, const Fineness& fine
     const double below = static_cast<double>(lines.size() - 1) * spacing;
     double y = -1.0 + row * (below + 1.0) / 2.0;
 
-    const Placement placement = moved(record.point(10)) * extruded(record.point(210, up))
-                                * turned(angleOf(record)) * scaled({height, height, 1.0});
+    const Placement placement =
+        moved(record.point(10)) * axesOf(record) * scaled({height, height, 1.0});
     for (const QString& line : lines) {
         const double x = -outlines.widthOf(line) * column / 2.0;
         outlines.append(chains, line, placement * moved({x, y, 0.0}), fineness);

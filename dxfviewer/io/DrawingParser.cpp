@@ -8,6 +8,7 @@
 #include "dxfviewer/io/IReadingSteps.h"
 #include "dxfviewer/io/TextCheck.h"
 #include "dxfviewer/io/TextRepair.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <QtGlobal>
 
@@ -15,6 +16,7 @@
 #include <dl_dxf.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <cstdio>
 #include <exception>
@@ -31,9 +33,13 @@ namespace
 
 using dxfviewer::ClassicNumbers;
 using dxfviewer::File;
+using dxfviewer::WorkMeter;
 
 // For files that do not tell their size.
 constexpr std::size_t leastRoom = 1 << 17;
+
+// Between two pieces of a file the receiver may end the read.
+constexpr std::size_t longestPiece = 1 << 20;
 
 /// One parser per text: dxflib carries state over.
 class Parser
@@ -52,9 +58,10 @@ public:
             return;
         }
         // A failed allocation leaves the parser with an array that it has freed and would free
-        // again. So the parser is kept and never destroyed.
-        m_kept->next = s_abandoned;
-        s_abandoned = m_kept;
+        // again. So the parser is kept and never destroyed. Other threads may do the same now.
+        m_kept->next = s_abandoned.load();
+        while (!s_abandoned.compare_exchange_weak(m_kept->next, m_kept)) {
+        }
     }
 
     DL_Dxf* operator->() const { return &m_kept->parser; }
@@ -67,13 +74,13 @@ private:
         Kept* next = nullptr;
     };
 
-    static Kept* s_abandoned;
+    static std::atomic<Kept*> s_abandoned;
 
     Kept* m_kept;
     int m_exceptions;
 };
 
-Parser::Kept* Parser::s_abandoned = nullptr;
+std::atomic<Parser::Kept*> Parser::s_abandoned{nullptr};
 
 /// Null unless it is a regular file: other files may block or never end.
 File openRegularFile(const std::string& name)
@@ -104,6 +111,12 @@ public:
     }
 };
 
+/// Null if the receiver has no such steps.
+IReadingSteps* stepsOf(DL_CreationInterface& receiver)
+{
+    return dynamic_cast<IReadingSteps*>(&receiver);
+}
+
 /// Hands dxflib the groups of a text one by one: the receiver can stop between any two, and keep
 /// groups for itself.
 class GroupFeed
@@ -111,7 +124,8 @@ class GroupFeed
 public:
     explicit GroupFeed(DL_CreationInterface& receiver)
         : m_receiver(receiver)
-        , m_steps(dynamic_cast<IReadingSteps*>(&receiver))
+        , m_steps(stepsOf(receiver))
+        , m_meter(m_steps)
         , m_stream(&m_buffer)
     {
         // A new parser is ready for the first group only after it has looked for one.
@@ -134,6 +148,7 @@ private:
 
     void addGroup(std::string_view codeLine, std::string_view valueLine, const char* end)
     {
+        m_meter.add();
         const int code = dxfviewer::toInt(codeLine);
         m_value = dxfviewer::strippedValue(valueLine);
         m_receiver.processCodeValuePair(static_cast<unsigned int>(code), m_value);
@@ -145,6 +160,7 @@ private:
 
     DL_CreationInterface& m_receiver;
     IReadingSteps* m_steps;
+    WorkMeter m_meter;
     Parser m_parser;
     TextBuffer m_buffer;
     std::istream m_stream;
@@ -153,28 +169,30 @@ private:
 
 void parse(std::string_view text, DL_CreationInterface& receiver)
 {
-    GroupFeed feed(receiver);
-    if (dxfviewer::isSound(text))
-        feed.add(text);
-    else
-        feed.add(dxfviewer::repaired(text));
+    IReadingSteps* steps = stepsOf(receiver);
+    std::string repairedText;
+    if (!dxfviewer::isSound(text, steps)) {
+        repairedText = dxfviewer::repaired(text, steps);
+        text = repairedText;
+    }
+    GroupFeed(receiver).add(text);
 }
 
 /// The text that the receiver wants to be read in place of these bytes, if there is one.
 std::optional<std::string> replacementOf(std::string_view bytes, DL_CreationInterface& receiver)
 {
-    auto* steps = dynamic_cast<IReadingSteps*>(&receiver);
+    auto* steps = stepsOf(receiver);
     return steps ? steps->textOf(bytes) : std::nullopt;
 }
 
 bool finish(DL_CreationInterface& receiver)
 {
-    auto* steps = dynamic_cast<IReadingSteps*>(&receiver);
+    auto* steps = stepsOf(receiver);
     return !steps || steps->finishReading();
 }
 
 /// What is left of a file, up to a read error.
-std::string contentOf(std::FILE* file, std::uintmax_t expectedSize)
+std::string contentOf(std::FILE* file, std::uintmax_t expectedSize, IReadingSteps* steps)
 {
     std::string content;
     std::size_t filled = 0;
@@ -186,8 +204,11 @@ std::string contentOf(std::FILE* file, std::uintmax_t expectedSize)
             content.resize(std::max(room, leastRoom));
             room = 2 * content.size();
         }
-        added = std::fread(content.data() + filled, 1, content.size() - filled, file);
+        const std::size_t wanted = std::min(content.size() - filled, longestPiece);
+        added = std::fread(content.data() + filled, 1, wanted, file);
         filled += added;
+        if (steps)
+            steps->goOn();
     } while (added != 0);
     content.resize(filled);
     return content;
@@ -196,22 +217,34 @@ std::string contentOf(std::FILE* file, std::uintmax_t expectedSize)
 /// False if the file cannot be read to its end.
 bool parseContent(std::FILE* file, std::uintmax_t expectedSize, DL_CreationInterface& receiver)
 {
-    std::string content = contentOf(file, expectedSize);
+    std::string content = contentOf(file, expectedSize, stepsOf(receiver));
     if (auto replacement = replacementOf(content, receiver))
         content = std::move(*replacement);
     parse(content, receiver);
     return std::ferror(file) == 0;
 }
 
+/// Tells the receiver which exception is being handled.
+void tellFailure(DL_CreationInterface& receiver)
+{
+    try {
+        if (auto* steps = stepsOf(receiver))
+            steps->readingFailed(std::current_exception());
+    } catch (...) {
+        // The read has failed already.
+    }
+}
+
 /// Runs a parse without the host's locale. False if it throws.
 template <typename Parse>
-bool guarded(Parse parse)
+bool guarded(DL_CreationInterface& receiver, Parse parse)
 {
     try {
         const ClassicNumbers numbers;
         return parse();
     } catch (...) {
         // Memory has run out, or the receiver gives up.
+        tellFailure(receiver);
         return false;
     }
 }
@@ -223,7 +256,7 @@ namespace dxfviewer
 
 bool parseFile(const std::string& name, DL_CreationInterface& receiver)
 {
-    return guarded([&name, &receiver] {
+    return guarded(receiver, [&name, &receiver] {
         const File file = openRegularFile(name);
         return file && parseContent(file.get(), sizeOf(name), receiver) && finish(receiver);
     });
@@ -231,13 +264,14 @@ bool parseFile(const std::string& name, DL_CreationInterface& receiver)
 
 bool parseFile(std::FILE* file, DL_CreationInterface& receiver)
 {
-    return guarded(
-        [file, &receiver] { return parseContent(file, 0, receiver) && finish(receiver); });
+    return guarded(receiver, [file, &receiver] {
+        return parseContent(file, 0, receiver) && finish(receiver);
+    });
 }
 
 bool parseText(std::string_view bytes, DL_CreationInterface& receiver)
 {
-    return guarded([bytes, &receiver] {
+    return guarded(receiver, [bytes, &receiver] {
         if (const auto replacement = replacementOf(bytes, receiver))
             parse(replacement->substr(0, replacement->find('\0')), receiver);
         else

@@ -4,3 +4,7 @@
 
 IReadingSteps::IReadingSteps() = default;
 IReadingSteps::~IReadingSteps() = default;
+
+void IReadingSteps::goOn() {}
+
+void IReadingSteps::readingFailed(const std::exception_ptr&) {}

@@ -4,6 +4,7 @@
 
 #include "dxfviewer/io/GroupScan.h"
 #include "dxfviewer/io/RecordCounts.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 namespace
 {
@@ -38,15 +39,17 @@ inline bool addGroup(RecordCounts& counts, std::string_view codeLine, std::strin
 namespace dxfviewer
 {
 
-bool isSound(std::string_view text)
+bool isSound(std::string_view text, IReadingSteps* steps)
 {
     if (text.find('\0') != std::string_view::npos)
         return false;
 
     RecordCounts counts;
+    WorkMeter meter(steps);
     bool sound = true;
     const std::string_view rest =
         scanGroups(text, [&](std::string_view codeLine, std::string_view valueLine) {
+            meter.add();
             sound = addGroup(counts, codeLine, valueLine);
             return sound;
         });

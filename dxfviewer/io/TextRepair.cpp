@@ -5,6 +5,7 @@
 #include "dxfviewer/io/GroupScan.h"
 #include "dxfviewer/io/RecordCounts.h"
 #include "dxfviewer/io/Utf8.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <array>
 #include <utility>
@@ -33,7 +34,7 @@ std::string_view readablePart(std::string_view line)
 class Repair
 {
 public:
-    explicit Repair(std::string_view text);
+    Repair(std::string_view text, IReadingSteps* steps);
 
     std::string takeText() { return std::move(m_text); }
 
@@ -59,13 +60,16 @@ private:
     std::size_t m_recordStart = 0;
 };
 
-Repair::Repair(std::string_view text)
+Repair::Repair(std::string_view text, IReadingSteps* steps)
 {
+    dxfviewer::WorkMeter meter(steps);
     m_text.reserve(text.size() + text.size() / spareShare);
-    dxfviewer::scanGroups(text, [this](std::string_view codeLine, std::string_view valueLine) {
-        addGroup(codeLine, valueLine);
-        return true;
-    });
+    dxfviewer::scanGroups(text,
+                          [this, &meter](std::string_view codeLine, std::string_view valueLine) {
+                              meter.add();
+                              addGroup(codeLine, valueLine);
+                              return true;
+                          });
     endRecord(false);
 }
 
@@ -152,9 +156,9 @@ void Repair::replace(const Place& place, const std::string& text)
 namespace dxfviewer
 {
 
-std::string repaired(std::string_view text)
+std::string repaired(std::string_view text, IReadingSteps* steps)
 {
-    return Repair(text).takeText();
+    return Repair(text, steps).takeText();
 }
 
 } // namespace dxfviewer

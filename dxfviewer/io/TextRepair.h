@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+class IReadingSteps;
+
 namespace dxfviewer
 {
 
@@ -22,7 +24,9 @@ namespace dxfviewer
  * as long. A text that was sound changes only at its end: a value without line feed gets one, a
  * code without value gets an empty one, and a code without line feed, which dxflib does not read,
  * is removed.
+ *
+ * @param steps  asked now and then whether to go on; may be null
  */
-std::string repaired(std::string_view text);
+std::string repaired(std::string_view text, IReadingSteps* steps = nullptr);
 
 } // namespace dxfviewer

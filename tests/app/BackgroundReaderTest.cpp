@@ -149,6 +149,20 @@ TEST_F(BackgroundReaderTest, ASecondReadReplacesTheFirst)
     EXPECT_EQ(m_result.document->entities().size(), 2);
 }
 
+TEST_F(BackgroundReaderTest, AReadThatWaitsForACancelledOneTellsSoAtOnce)
+{
+    ASSERT_TRUE(readToTheMiddle());
+    m_reader.cancel();
+    m_shares.clear();
+
+    // Without events the former thread is never seen to end.
+    m_reader.read(smallFile());
+
+    EXPECT_TRUE(m_reader.isReading());
+    EXPECT_EQ(m_shares, QVector<double>{0.0});
+    ASSERT_TRUE(waitForEnd());
+}
+
 TEST_F(BackgroundReaderTest, CancelWithoutAReadDoesNothing)
 {
     m_reader.cancel();

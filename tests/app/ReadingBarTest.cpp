@@ -49,6 +49,16 @@ protected:
         });
     }
 
+    void expectBegin(const char* text)
+    {
+        EXPECT_TRUE(m_bar->isVisible());
+        EXPECT_EQ(value(), 0);
+        EXPECT_EQ(m_bar->findChild<QLabel*>()->text(), QString::fromLatin1(text));
+        QTest::mouseClick(m_bar->findChild<QAbstractButton*>(), Qt::LeftButton);
+        EXPECT_FALSE(m_reader.isReading());
+        EXPECT_FALSE(m_bar->isVisible());
+    }
+
     const QTemporaryDir m_folder;
     const QString m_fileName = m_folder.filePath(QStringLiteral("large.dxf"));
     BackgroundReader m_reader;
@@ -65,6 +75,26 @@ TEST_F(ReadingBarTest, ShowsWhatIsReadAndHowFarItIs)
     EXPECT_EQ(m_bar->findChild<QLabel*>()->text(), QStringLiteral("Reading large.dxf"));
     EXPECT_TRUE(dxftest::eventually([this] { return !m_bar->isVisible(); }));
     EXPECT_FALSE(m_reader.isReading());
+}
+
+TEST_F(ReadingBarTest, ShowsAtOnceAReadThatWaitsForACancelledOne)
+{
+    ASSERT_TRUE(readToTheMiddle());
+    m_reader.cancel();
+    EXPECT_FALSE(m_bar->isVisible());
+
+    m_reader.read(m_folder.filePath(QStringLiteral("next.dxf")));
+
+    expectBegin("Reading next.dxf");
+}
+
+TEST_F(ReadingBarTest, ShowsAtOnceAReadThatReplacesAnother)
+{
+    ASSERT_TRUE(readToTheMiddle());
+
+    m_reader.read(m_folder.filePath(QStringLiteral("next.dxf")));
+
+    expectBegin("Reading next.dxf");
 }
 
 TEST_F(ReadingBarTest, TheButtonCancelsTheRead)

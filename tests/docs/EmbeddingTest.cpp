@@ -2,6 +2,7 @@
 
 #include "docs/snippets/Embedding.h"
 
+#include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/viewer/DXFViewer.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
@@ -63,6 +64,20 @@ TEST_F(EmbeddingTest, ShowsEntitiesThatTheWindowLeavesOut)
 
     EXPECT_TRUE(m_viewer.getData().contains("POLYLINE"));
     EXPECT_THAT(skipped, ElementsAre(QStringLiteral("RAY")));
+}
+
+TEST_F(EmbeddingTest, ReadsUnlessItIsCancelled)
+{
+    const QTemporaryDir folder;
+    const QString name = dxftest::fileWith(drawing, folder.filePath(QStringLiteral("drawing.dxf")));
+    DXFDocument document;
+    DXFDocument cancelled;
+
+    EXPECT_TRUE(readUnlessCancelled(document, name, false));
+    EXPECT_FALSE(readUnlessCancelled(cancelled, name, true));
+
+    EXPECT_EQ(document.entities().size(), 1);
+    EXPECT_TRUE(cancelled.entities().isEmpty());
 }
 
 TEST_F(EmbeddingTest, SavesWhatTheWindowHolds)

@@ -2,8 +2,10 @@
 
 #include "dxfviewer/flatten/DrawingText.h"
 
+#include "dxfviewer/flatten/BinaryDrawing.h"
 #include "dxfviewer/flatten/CodePage.h"
 #include "dxfviewer/flatten/FlatteningReader.h"
+#include "dxfviewer/io/IReadingSteps.h"
 #include "dxfviewer/model/DXFAttributes.h"
 #include "dxfviewer/model/DXFLayer.h"
 #include "tests/flatten/Records.h"
@@ -135,6 +137,42 @@ TEST(DrawingTextTest, HostLocaleDoesNotMatter)
     EXPECT_EQ(lineIn("AC1009", "ANSI_1252", "Fl\xFCgel"), "Fl\xC3\xBCgel");
 
     std::setlocale(LC_ALL, before.c_str());
+}
+
+/// Says no as soon as it is asked.
+class NoFurther : public IReadingSteps
+{
+public:
+    struct Stop {
+    };
+
+    std::optional<std::string> textOf(std::string_view) override { return std::nullopt; }
+    bool takesGroup(int, std::string_view) override { return false; }
+    bool finishReading() override { return true; }
+    void goOn() override { throw Stop(); }
+};
+
+TEST(DrawingTextTest, ReaderCanStopEveryPartOfTheWork)
+{
+    NoFurther steps;
+    constexpr int many = 5000;
+    std::string lines;
+    std::string escapes;
+    std::string groups("Written Binary DXF\r\n\x1a\0", 22);
+    for (int i = 0; i < many; ++i) {
+        lines += "8\nFl\xFCgel\n";
+        escapes += "\\U+00E4";
+        groups += std::string("\0\0x\0", 4);
+    }
+
+    EXPECT_THROW(utf8TextOf(lines, &steps), NoFurther::Stop);
+    EXPECT_THROW(utf8TextOf(escapes.substr(0, many), &steps), NoFurther::Stop);
+    EXPECT_THROW(utf8TextOf(groups, &steps), NoFurther::Stop);
+    EXPECT_THROW(dxfviewer::textOfBinary(groups, &steps), NoFurther::Stop);
+    EXPECT_THROW(isUtf8(std::string(many, 'x'), &steps), NoFurther::Stop);
+    EXPECT_THROW(CodePage("ANSI_1252").toUtf8(std::string(2000000, '\xFC'), &steps),
+                 NoFurther::Stop);
+    EXPECT_NO_THROW(utf8TextOf("8\nFl\xFCgel\n", &steps));
 }
 
 TEST(Utf8Test, SoundTextsAreRecognised)

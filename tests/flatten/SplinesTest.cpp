@@ -3,6 +3,8 @@
 #include "dxfviewer/flatten/Splines.h"
 
 #include "dxfviewer/flatten/Curves.h"
+#include "dxfviewer/flatten/Fineness.h"
+#include "dxfviewer/io/WorkMeter.h"
 
 #include <gtest/gtest.h>
 
@@ -26,17 +28,23 @@ double lengthOf(const Points& points)
     return sum;
 }
 
+bool appendTo(Points& points, const Spline& spline, double step, std::size_t mostPoints)
+{
+    WorkMeter meter;
+    return appendSpline(points, spline, Fineness{step, mostPoints, meter});
+}
+
 Points traced(const Spline& spline, double step = usualStep)
 {
     Points points;
-    EXPECT_TRUE(appendSpline(points, spline, step, plenty));
+    EXPECT_TRUE(appendTo(points, spline, step, plenty));
     return points;
 }
 
 bool isDrawn(const Spline& spline)
 {
     Points points;
-    return appendSpline(points, spline, usualStep, plenty);
+    return appendTo(points, spline, usualStep, plenty);
 }
 
 Spline cubic(const Points& controlPoints)
@@ -194,6 +202,63 @@ TEST(SplinesTest, LengthIsNearThatOfFinerSteps)
     }
 }
 
+/// A path whose curve of a degree bends at a few of its many spans only.
+Spline path(int degree, int legs)
+{
+    constexpr int pointsOfLeg = 40;
+    Spline spline;
+    spline.degree = degree;
+    for (int leg = 0; leg < legs; ++leg) {
+        for (int i = 0; i < pointsOfLeg; ++i)
+            spline.controlPoints.push_back({1.0 * (leg * pointsOfLeg + i), leg % 2 * 1.0 * i, 0});
+    }
+    return spline;
+}
+
+TEST(SplinesTest, StraightSpansOfAnyDegreeAreOneSegmentEach)
+{
+    for (const int degree : {3, 5, 32}) {
+        const Spline spline = path(degree, 1);
+
+        const Points points = traced(spline);
+
+        EXPECT_EQ(points.size(), spline.controlPoints.size() - spline.degree + 1);
+        EXPECT_EQ(points.front(), spline.controlPoints.front());
+        EXPECT_NEAR(lengthOf(points), 39.0, 1e-9);
+    }
+}
+
+TEST(SplinesTest, BendsOfAHighDegreeAreNearThoseOfFinerSteps)
+{
+    for (const int degree : {5, 9, 20, 32}) {
+        const Spline spline = path(degree, 4);
+        const double exact = lengthOf(traced(spline, usualStep / 30.0));
+
+        EXPECT_NEAR(lengthOf(traced(spline)), exact, closeness * exact) << degree;
+    }
+}
+
+TEST(SplinesTest, PointsThatGoBackAreNotStraight)
+{
+    Spline spline = cubic({{0, 0, 0}, {9, 0, 0}, {9, 0, 0}, {9, 0, 0}, {0, 0, 0}, {1, 0, 0}});
+    spline.degree = 5;
+    const double exact = lengthOf(traced(spline, usualStep / 30.0));
+
+    EXPECT_GT(exact, 11.0);
+    EXPECT_NEAR(lengthOf(traced(spline)), exact, closeness * exact);
+}
+
+TEST(SplinesTest, WeightsBelowZeroAreNotStraight)
+{
+    Spline spline = cubic({{0, 0, 0}, {1, 0, 0}, {2, 0, 0}});
+    spline.degree = 2;
+    spline.weights = {1, -0.5, 1};
+    const double exact = lengthOf(traced(spline, usualStep / 30.0));
+
+    EXPECT_GT(exact, 2.1);
+    EXPECT_NEAR(lengthOf(traced(spline)), exact, closeness * exact);
+}
+
 TEST(SplinesTest, StopsAtTheLimitOfPoints)
 {
     Spline spline = cubic(Points(1000));
@@ -201,7 +266,7 @@ TEST(SplinesTest, StopsAtTheLimitOfPoints)
         spline.controlPoints[i] = {static_cast<double>(i), static_cast<double>(i % 2), 0};
     Points points;
 
-    appendSpline(points, spline, usualStep, 50);
+    appendTo(points, spline, usualStep, 50);
 
     EXPECT_GE(points.size(), 50U);
     EXPECT_LT(points.size(), 60U);

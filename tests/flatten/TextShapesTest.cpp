@@ -4,6 +4,7 @@
 
 #include "dxfviewer/flatten/Record.h"
 #include "dxfviewer/flatten/TextContent.h"
+#include "dxfviewer/io/WorkMeter.h"
 #include "tests/flatten/Records.h"
 #include "tests/support/LoggedTest.h"
 
@@ -195,6 +196,22 @@ TEST_F(TextShapesTest, DirectionOfParagraphsIsAnAngleOrAVector)
     EXPECT_TRUE(areNear(texts("MTEXT 40 2 11 1 21 3 50 90 1 Hg").chains(), mapped(plain, quarter)));
 }
 
+/// Unlike an angle, the vector is given in the drawing's coordinates.
+TEST_F(TextShapesTest, DirectionVectorIsNotMirroredByAnExtrusion)
+{
+    const auto plain = texts("MTEXT 40 2 1 Hg");
+    const auto down = [&](const char* entity) {
+        return texts((std::string(entity) + " 230 -1 1 Hg").c_str()).chains();
+    };
+
+    EXPECT_TRUE(areNear(down("MTEXT 40 2 11 5"), mapped(plain, QTransform(1, 0, 0, -1, 0, 0))));
+    EXPECT_TRUE(areNear(down("MTEXT 40 2 11 0 21 5"), mapped(plain, QTransform(0, 1, 1, 0, 0, 0))));
+    EXPECT_TRUE(areNear(down("MTEXT 40 2"), mapped(plain, QTransform(-1, 0, 0, 1, 0, 0))));
+    EXPECT_TRUE(
+        areNear(down("MTEXT 40 2 11 5 50 90"), mapped(plain, QTransform(0, 1, 1, 0, 0, 0))));
+    EXPECT_TRUE(areNear(down("MTEXT 40 2 11 0"), mapped(plain, QTransform(-1, 0, 0, 1, 0, 0))));
+}
+
 TEST_F(TextShapesTest, TextsInBlocksAreInsertedWithThem)
 {
     FlatteningOptions options;
@@ -238,7 +255,8 @@ QStringList paragraphsOf(const char* value, const char* earlier = nullptr)
     if (earlier)
         record.addGroup(3, earlier);
     record.addGroup(1, value);
-    return dxfviewer::linesOfParagraphs(record);
+    dxfviewer::WorkMeter meter;
+    return dxfviewer::linesOfParagraphs(record, meter);
 }
 
 TEST(TextContentTest, PercentCodesAreSigns)

@@ -23,6 +23,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <functional>
+#include <limits>
 #include <new>
 #include <stdexcept>
 #include <sys/socket.h>
@@ -116,6 +117,23 @@ public:
         return succeeds;
     }
 
+    void goOn() override
+    {
+        ++questions;
+        if (questions > mostQuestions)
+            throw std::runtime_error("cancelled");
+    }
+
+    void readingFailed(const std::exception_ptr& reason) override
+    {
+        try {
+            std::rethrow_exception(reason);
+        } catch (const std::exception& exception) {
+            failures.push_back(exception.what());
+        }
+        throw 42;
+    }
+
     std::string bytes;
     std::optional<std::string> replacement;
     int takenCode = -1;
@@ -123,6 +141,9 @@ public:
     std::vector<Group> announced;
     int finished = 0;
     bool succeeds = true;
+    int questions = 0;
+    int mostQuestions = std::numeric_limits<int>::max();
+    std::vector<std::string> failures;
 };
 
 /// An open file whose text cannot be read beyond a place.
@@ -433,6 +454,85 @@ TEST_F(DrawingParserTest, ReaderWithStepsDecidesWhetherTheReadSucceeds)
 
     EXPECT_EQ(takeDebugMessages().size(), 2);
     EXPECT_EQ(document.entities().size(), 4);
+}
+
+std::string manyGroups()
+{
+    std::string text;
+    for (int i = 0; i < 10000; ++i)
+        text += "8\nWall\n";
+    return text;
+}
+
+TEST_F(DrawingParserTest, ReaderWithStepsCanStopTheCheckOfAText)
+{
+    const std::string text = manyGroups();
+    for (const bool isFile : {true, false}) {
+        DXFDocument document;
+        SteppingReader reader(document);
+        reader.mostQuestions = isFile ? 2 : 0;
+
+        EXPECT_FALSE(isFile ? reader.load(fileWith(text))
+                            : reader.load(QByteArray::fromStdString(text)));
+
+        EXPECT_EQ(reader.questions, reader.mostQuestions + 1);
+        EXPECT_TRUE(reader.announced.empty());
+        EXPECT_EQ(reader.finished, 0);
+        EXPECT_EQ(reader.failures, std::vector<std::string>{"cancelled"});
+        takeDebugMessages();
+    }
+}
+
+TEST_F(DrawingParserTest, ReaderWithStepsCanStopTheRepairOfAText)
+{
+    DXFDocument document;
+    SteppingReader reader(document);
+    reader.mostQuestions = 0;
+
+    // The check ends at the first value.
+    EXPECT_FALSE(reader.load(QByteArray::fromStdString("10\n \n" + manyGroups())));
+
+    EXPECT_EQ(reader.questions, 1);
+    EXPECT_TRUE(reader.announced.empty());
+    takeDebugMessages();
+}
+
+TEST_F(DrawingParserTest, ReaderWithStepsIsAskedWhileItGetsGroups)
+{
+    const std::string text = manyGroups();
+    DXFDocument whole;
+    SteppingReader reader(whole);
+    ASSERT_TRUE(reader.load(QByteArray::fromStdString(text)));
+    EXPECT_TRUE(reader.failures.empty());
+    EXPECT_EQ(reader.questions, 4);
+
+    DXFDocument part;
+    SteppingReader cancelled(part);
+    cancelled.mostQuestions = 3;
+    EXPECT_FALSE(cancelled.load(QByteArray::fromStdString(text)));
+
+    EXPECT_EQ(cancelled.questions, 4);
+    EXPECT_GT(cancelled.announced.size(), 0U);
+    EXPECT_LT(cancelled.announced.size(), reader.announced.size());
+    EXPECT_EQ(cancelled.finished, 0);
+    takeDebugMessages();
+}
+
+TEST_F(DrawingParserTest, ReaderWithStepsLearnsWhatEndedTheRead)
+{
+    class Failing : public SteppingReader
+    {
+    public:
+        using SteppingReader::SteppingReader;
+        void addVertex(const DL_VertexData&) override { throw std::bad_alloc(); }
+    };
+    DXFDocument document;
+    Failing reader(document);
+
+    EXPECT_FALSE(reader.load(bytesOf(twoPolylines())));
+
+    EXPECT_EQ(reader.failures, std::vector<std::string>{std::bad_alloc().what()});
+    takeDebugMessages();
 }
 
 TEST_F(DrawingParserTest, GroupsAreAnnouncedAlikeInBothForms)

@@ -21,9 +21,12 @@ namespace
 constexpr int usualSeeds = 12;
 constexpr int usualSteps = 3000;
 // A sequence takes a few seconds. One that takes this long hangs, even on a slow machine.
-constexpr int processTimeoutMs = 300000;
+constexpr int processTimeoutMs = 180000;
 // After this time no shorter sequence is tried.
 constexpr int shrinkingMs = 150000;
+// The first sequence and the last one may take the whole time: together it is within the time limit
+// of the test.
+static_assert(processTimeoutMs + shrinkingMs + processTimeoutMs < DXFVIEWER_TEST_TIMEOUT_MS);
 constexpr int longestReport = 4000;
 
 int fromEnvironment(const char* name, int usual)

@@ -152,6 +152,36 @@ TEST_F(ReadingThreadTest, FilesMayBeReadInAThread)
     }
 }
 
+/// A reader that leaves the read by an exception.
+class LeavingReader : public DXFReader
+{
+public:
+    using DXFReader::DXFReader;
+
+    void addVertex(const DL_VertexData&) override { throw 1; }
+};
+
+TEST_F(ReadingThreadTest, ReadersMayLeaveByAnExceptionAtTheSameTime)
+{
+    constexpr int rounds = 50;
+    const QByteArray text = drawing(0);
+    const auto leave = [&text] {
+        int left = 0;
+        for (int i = 0; i < rounds; ++i) {
+            DXFDocument document;
+            left += LeavingReader(document).load(text) ? 0 : 1;
+        }
+        return left;
+    };
+
+    auto first = inThread(leave);
+    auto second = inThread(leave);
+
+    EXPECT_EQ(first.get(), rounds);
+    EXPECT_EQ(second.get(), rounds);
+    EXPECT_NE(read(text), nullptr);
+}
+
 QVector<QLineF> flattened()
 {
     DXFDocument document;
