@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include <QTemporaryDir>
+#include <QtGlobal>
 
 #include <locale>
 #include <string>
@@ -11,8 +11,8 @@ namespace dxftest
 {
 
 /**
- * Locales that write numbers in another way. They are made for the test, and found while this
- * lives.
+ * Makes locales available while it lives: de_DE.UTF-8, ps_AF.UTF-8 and en_IN.UTF-8, which write
+ * numbers in another way, and tr_TR.ISO-8859-9, in which the capital of i is another letter.
  *
  * Afterwards the locales of C and C++ are what they were.
  */
@@ -22,14 +22,12 @@ public:
     TestLocales();
     ~TestLocales();
 
-    /// Whether there is a localedef to make them. If it fails, the test fails.
-    bool areAvailable() const { return m_available; }
+    /// Whether there was a localedef to make them when the tests were built.
+    bool areAvailable() const;
 
 private:
     Q_DISABLE_COPY(TestLocales)
 
-    QTemporaryDir m_folder;
-    bool m_available = true;
     std::string m_cLocale;
     std::locale m_locale;
 };
