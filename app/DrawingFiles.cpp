@@ -43,26 +43,14 @@ void DrawingFiles::addActionsTo(QMenu& menu)
 {
     // The drawing window has actions of its own for Ctrl+O and Ctrl+S. They are hidden, so the keys
     // reach the actions here.
-    QAction* open = addAction(menu, tr("&Open…"), "Ctrl+O", QKeySequence::Open);
-    connect(open, &QAction::triggered, this, &DrawingFiles::chooseDrawing);
+    QAction* chooses = menu.addAction(tr("&Open…"), this, &DrawingFiles::chooseDrawing);
+    chooses->setShortcuts(keysOf({QStringLiteral("Ctrl+O")}, {QKeySequence::Open}));
     m_recent.serve(*menu.addMenu(tr("Open &Recent")));
-    QAction* reload = addAction(menu, tr("Re&load"), "F5", QKeySequence::Refresh);
-    connect(reload, &QAction::triggered, this, [this] { this->open(fileName()); });
+    m_reload = menu.addAction(tr("Re&load"), this, [this] { open(fileName()); });
+    m_reload->setShortcuts(keysOf({QStringLiteral("F5")}, {QKeySequence::Refresh}));
     menu.addSeparator();
-    QAction* save = addAction(menu, tr("&Save"), "Ctrl+S", QKeySequence::Save);
-    connect(save, &QAction::triggered, &m_saver, &DrawingSaver::save);
-    QAction* saveAs = addAction(menu, tr("Save &As…"), "Ctrl+Shift+S", QKeySequence::SaveAs);
-    connect(saveAs, &QAction::triggered, &m_saver, &DrawingSaver::saveAs);
-    m_drawingActions = {reload, save, saveAs};
+    m_saver.addActionsTo(menu);
     onFileNameChanged();
-}
-
-QAction* DrawingFiles::addAction(QMenu& menu, const QString& text, const char* key,
-                                 QKeySequence::StandardKey standard)
-{
-    QAction* action = menu.addAction(text);
-    action->setShortcuts(keysOf({QLatin1String(key)}, {standard}));
-    return action;
 }
 
 void DrawingFiles::open(const QString& fileName)
@@ -165,24 +153,9 @@ void DrawingFiles::chooseDrawing()
     open(fileName);
 }
 
-bool DrawingFiles::mayDiscardEdits()
-{
-    if (!m_history.hasUnsavedEdits())
-        return true;
-    switch (askAboutEdits(m_window, fileName())) {
-    case EditsAnswer::Save:
-        return m_saver.save();
-    case EditsAnswer::Discard:
-        return true;
-    case EditsAnswer::Cancel:
-        break;
-    }
-    return false;
-}
-
 void DrawingFiles::onFileNameChanged()
 {
-    for (QAction* action : qAsConst(m_drawingActions))
-        action->setEnabled(!fileName().isEmpty());
+    if (m_reload)
+        m_reload->setEnabled(!fileName().isEmpty());
     Q_EMIT fileNameChanged();
 }

@@ -10,7 +10,6 @@
 #include "RecentFiles.h"
 #include "Settings.h"
 
-#include <QKeySequence>
 #include <QObject>
 #include <QString>
 
@@ -43,7 +42,7 @@ public:
     /// read, a box says why, and the drawing on screen stays.
     void open(const QString& fileName);
     /// Asks before unsaved edits are thrown away, and offers to save them.
-    bool mayDiscardEdits();
+    bool mayDiscardEdits() { return m_saver.mayDiscardEdits(); }
 
     /// How drawings are read from now on. The one that is shown is read again, if the user agrees
     /// to throw unsaved edits away; otherwise nothing changes, and false is returned. If it cannot
@@ -73,8 +72,6 @@ private Q_SLOTS:
     void keepShownChoices();
 
 private:
-    QAction* addAction(QMenu& menu, const QString& text, const char* key,
-                       QKeySequence::StandardKey standard);
     void read(const QString& fileName);
     void show(const QString& fileName, const DrawingRead& drawing);
     void changeChoices(const ReadingChoices& choices);
@@ -88,7 +85,7 @@ private:
     Settings m_settings;
     RecentFiles m_recent;
     LastFolder m_folder;
-    QVector<QAction*> m_drawingActions;
+    QAction* m_reload = nullptr;
 
     ReadingChoices m_choices;
     // About the drawing that is being read: its file as it was before that, and the edits that the

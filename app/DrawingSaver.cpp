@@ -5,26 +5,54 @@
 #include "DrawingFile.h"
 #include "EditHistory.h"
 #include "FileNames.h"
+#include "Keys.h"
 #include "KindWords.h"
 #include "Questions.h"
 
 #include <dxfviewer/viewer/DXFViewer.h>
 
+#include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMenu>
 
 DrawingSaver::DrawingSaver(DXFViewer& viewer, EditHistory& history, QWidget& window)
     : m_viewer(viewer)
     , m_history(history)
     , m_window(window)
+    , m_save(makeAction(tr("&Save"), keysOf({QStringLiteral("Ctrl+S")}, {QKeySequence::Save})))
+    , m_saveAs(makeAction(tr("Save &As…"),
+                          keysOf({QStringLiteral("Ctrl+Shift+S")}, {QKeySequence::SaveAs})))
 {
+    connect(m_save, &QAction::triggered, this, &DrawingSaver::save);
+    connect(m_saveAs, &QAction::triggered, this, &DrawingSaver::saveAs);
 }
 
 DrawingSaver::~DrawingSaver() = default;
 
-void DrawingSaver::follow(const QString& fileName, const FileMark& mark, const DrawingRead& drawing)
+QAction* DrawingSaver::makeAction(const QString& text, const QList<QKeySequence>& keys)
+{
+    auto* action = new QAction(text, &m_window);
+    action->setShortcuts(keys);
+    action->setEnabled(false);
+    return action;
+}
+
+void DrawingSaver::addActionsTo(QMenu& menu)
+{
+    menu.addActions({m_save, m_saveAs});
+}
+
+void DrawingSaver::setFileName(const QString& fileName)
 {
     m_fileName = fileName;
+    for (QAction* action : {m_save, m_saveAs})
+        action->setEnabled(!fileName.isEmpty());
+}
+
+void DrawingSaver::follow(const QString& fileName, const FileMark& mark, const DrawingRead& drawing)
+{
+    setFileName(fileName);
     m_drawing = drawing;
     m_drawing.document.reset();
     // If it was written after it was read, the window shows an older state, which must not replace
@@ -84,8 +112,23 @@ bool DrawingSaver::write(const QString& fileName)
     if (isSameFile(fileName, m_richerFile))
         m_richerFile.clear();
     m_saved = FileMark(fileName);
-    m_fileName = fileName;
+    setFileName(fileName);
     m_history.noteSaved();
     Q_EMIT saved();
     return true;
+}
+
+bool DrawingSaver::mayDiscardEdits()
+{
+    if (!m_history.hasUnsavedEdits())
+        return true;
+    switch (askAboutEdits(m_window, m_fileName)) {
+    case EditsAnswer::Save:
+        return save();
+    case EditsAnswer::Discard:
+        return true;
+    case EditsAnswer::Cancel:
+        break;
+    }
+    return false;
 }

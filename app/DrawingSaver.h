@@ -5,11 +5,15 @@
 #include "DrawingRead.h"
 #include "FileMark.h"
 
+#include <QKeySequence>
+#include <QList>
 #include <QObject>
 #include <QString>
 
 class DXFViewer;
 class EditHistory;
+class QAction;
+class QMenu;
 class QWidget;
 
 /**
@@ -23,7 +27,7 @@ class DrawingSaver : public QObject
     Q_OBJECT
 
 public:
-    /// Boxes and dialogs belong to the program's window.
+    /// Boxes, dialogs and actions belong to the program's window.
     DrawingSaver(DXFViewer& viewer, EditHistory& history, QWidget& window);
     ~DrawingSaver() override;
 
@@ -36,20 +40,29 @@ public:
     /// What is known about the drawing on screen, without its document.
     const DrawingRead& drawing() const { return m_drawing; }
 
+    /// Adds Save and Save As.
+    void addActionsTo(QMenu& menu);
+
     /// Saves to the file of the last save, or asks for a name the first time.
     bool save();
     bool saveAs();
+    /// Asks before unsaved edits are thrown away, and offers to save them.
+    bool mayDiscardEdits();
 
 Q_SIGNALS:
     void saved();
 
 private:
+    QAction* makeAction(const QString& text, const QList<QKeySequence>& keys);
+    void setFileName(const QString& fileName);
     bool mayReplace(const QString& fileName);
     bool write(const QString& fileName);
 
     DXFViewer& m_viewer;
     EditHistory& m_history;
     QWidget& m_window;
+    QAction* m_save;
+    QAction* m_saveAs;
     QString m_fileName;
     DrawingRead m_drawing;
     // The file that was opened: it holds more than the window can save. Empty once it is replaced.

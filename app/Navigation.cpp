@@ -4,13 +4,10 @@
 
 #include "Extent.h"
 #include "Keys.h"
-#include "QtVersions.h"
 
 #include <QAction>
 #include <QGraphicsView>
 #include <QMenu>
-#include <QMouseEvent>
-#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -32,18 +29,12 @@ constexpr double doublingsPerNotch = 0.2;
 constexpr double mostPixels = 2e8;
 constexpr double leastZoom = 0.05;
 
-void scroll(QScrollBar& bar, double distance)
-{
-    const double value = std::round(bar.value() + distance);
-    bar.setValue(static_cast<int>(
-        std::clamp(value, double(bar.minimum()), double(std::max(bar.minimum(), bar.maximum())))));
-}
-
 } // namespace
 
 Navigation::Navigation(QGraphicsView& view, QObject* parent)
     : QObject(parent)
-    , m_view(&view)
+    , m_placer(view)
+    , m_pan(view)
     , m_asStored(new QAction(tr("As &Stored (y Downwards)"), this))
     , m_bounds(withExtent(QRectF()))
 {
@@ -75,29 +66,28 @@ void Navigation::addActionsTo(QMenu& menu)
 
 void Navigation::showDrawing(const QRectF& bounds)
 {
-    if (!m_view)
+    if (!m_placer.view())
         return;
     m_bounds = withExtent(bounds);
-    m_isPanning = false;
-    m_view->setSceneRect(grown(m_bounds, scrollMargin));
+    m_placer.view()->setSceneRect(grown(m_bounds, scrollMargin));
     fit();
 }
 
 double Navigation::zoom() const
 {
-    return m_view ? m_view->transform().m11() / scaleThatFits() : 1.0;
+    return m_placer.view() ? m_placer.scale() / scaleThatFits() : 1.0;
 }
 
 void Navigation::setAsStored(bool isAsStored)
 {
-    if (m_isAsStored == isAsStored || !m_view)
+    if (m_isAsStored == isAsStored || !m_placer.view())
         return;
     m_isAsStored = isAsStored;
     m_asStored->setChecked(isAsStored);
-    const QPointF center = QRectF(m_view->viewport()->rect()).center();
-    const QPointF scenePoint = sceneAt(center);
-    setScale(m_view->transform().m11());
-    bring(scenePoint, center);
+    const QPointF center = m_placer.middle();
+    const QPointF scenePoint = m_placer.sceneAt(center);
+    setScale(m_placer.scale());
+    m_placer.bring(scenePoint, center);
     Q_EMIT asStoredChanged(isAsStored);
 }
 
@@ -113,34 +103,23 @@ void Navigation::zoomOut()
 
 void Navigation::fit()
 {
-    if (!m_view)
+    if (!m_placer.view())
         return;
     setScale(scaleThatFits());
-    bring(m_bounds.center(), QRectF(m_view->viewport()->rect()).center());
+    m_placer.bring(m_bounds.center(), m_placer.middle());
     m_isFitted = true;
     Q_EMIT zoomChanged();
 }
 
 bool Navigation::eventFilter(QObject* watched, QEvent* event)
 {
-    switch (event->type()) {
-    case QEvent::Resize:
-        // The view does not have the new size yet.
-        if (m_isFitted)
-            QMetaObject::invokeMethod(this, &Navigation::fit, Qt::QueuedConnection);
-        else
-            Q_EMIT zoomChanged();
-        break;
-    case QEvent::Wheel:
+    if (event->type() == QEvent::Wheel)
         return takeWheel(static_cast<const QWheelEvent&>(*event));
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-        return takeMouse(static_cast<const QMouseEvent&>(*event));
-    default:
-        break;
-    }
+    // The view does not have the new size yet.
+    if (event->type() == QEvent::Resize && m_isFitted)
+        QMetaObject::invokeMethod(this, &Navigation::fit, Qt::QueuedConnection);
+    else if (event->type() == QEvent::Resize)
+        Q_EMIT zoomChanged();
     return QObject::eventFilter(watched, event);
 }
 
@@ -154,94 +133,43 @@ bool Navigation::takeWheel(const QWheelEvent& event)
     return true;
 }
 
-/// Pans with the middle button, and leaves all other buttons to the view.
-bool Navigation::takeMouse(const QMouseEvent& event)
-{
-    const QPoint place = placeOf(event);
-    if (event.type() == QEvent::MouseMove) {
-        if (!event.buttons().testFlag(Qt::MiddleButton))
-            m_isPanning = false;
-        if (!m_isPanning)
-            return false;
-        scrollBy(m_panPlace - place);
-        m_isFitted = false;
-        m_panPlace = place;
-        return true;
-    }
-    if (event.button() != Qt::MiddleButton)
-        return false;
-    // If a second button is pressed during a stroke of the eraser, neither this class nor the
-    // eraser takes it.
-    m_isPanning = event.type() != QEvent::MouseButtonRelease && event.buttons() == Qt::MiddleButton;
-    m_panPlace = place;
-    return true;
-}
-
 /// Any other scrolling comes from the user, who wants to see that part.
 void Navigation::noteScroll()
 {
-    if (!m_isMoving)
+    if (!m_placer.isMoving())
         m_isFitted = false;
 }
 
 void Navigation::zoomAtCenter(double factor)
 {
-    if (m_view)
-        zoomAt(QRectF(m_view->viewport()->rect()).center(), factor);
+    if (m_placer.view())
+        zoomAt(m_placer.middle(), factor);
 }
 
 /// Zooms, and keeps the point at this place of the window where it is.
 void Navigation::zoomAt(const QPointF& place, double factor)
 {
-    if (!m_view)
+    if (!m_placer.view())
         return;
-    const QPointF scenePoint = sceneAt(place);
+    const QPointF scenePoint = m_placer.sceneAt(place);
     const double fitting = scaleThatFits();
     const double most = mostPixels / std::max(m_bounds.width(), m_bounds.height());
-    const double wanted = m_view->transform().m11() * factor;
+    const double wanted = m_placer.scale() * factor;
     setScale(std::clamp(wanted, leastZoom * fitting, std::max(most, fitting)));
-    bring(scenePoint, place);
+    m_placer.bring(scenePoint, place);
     m_isFitted = false;
     Q_EMIT zoomChanged();
 }
 
 void Navigation::setScale(double wanted)
 {
-    const double scale = std::max(wanted, leastScale);
-    // The drawing's middle becomes the origin: the coordinates of a survey times the scale would
-    // not fit into the numbers of the scroll bars.
-    const QPointF center = m_bounds.center();
-    const QTransform transform = QTransform::fromTranslate(-center.x(), -center.y())
-                                 * QTransform::fromScale(scale, m_isAsStored ? scale : -scale);
-    const auto anchor = m_view->transformationAnchor();
-    const QScopedValueRollback<bool> guard(m_isMoving, true);
-    m_view->setTransformationAnchor(QGraphicsView::NoAnchor);
-    m_view->setTransform(transform);
-    m_view->setTransformationAnchor(anchor);
+    m_placer.setScale(wanted, !m_isAsStored, m_bounds.center());
 }
 
 double Navigation::scaleThatFits() const
 {
     const QRectF wanted = grown(m_bounds, fitMargin);
-    const QSize size = m_view->viewport()->size();
+    const QSize size = m_placer.view()->viewport()->size();
     return std::max({std::min(size.width() / wanted.width(), size.height() / wanted.height()),
                      1.0 / std::max(wanted.width(), wanted.height())});
-}
-
-/// More exact than the view's own mapping, which uses whole pixels only.
-QPointF Navigation::sceneAt(const QPointF& place) const
-{
-    return m_view->viewportTransform().inverted().map(place);
-}
-
-void Navigation::bring(const QPointF& scenePoint, const QPointF& place)
-{
-    scrollBy(m_view->viewportTransform().map(scenePoint) - place);
-}
-
-void Navigation::scrollBy(const QPointF& distance)
-{
-    const QScopedValueRollback<bool> guard(m_isMoving, true);
-    scroll(*m_view->horizontalScrollBar(), distance.x());
-    scroll(*m_view->verticalScrollBar(), distance.y());
 }

@@ -2,14 +2,15 @@
 
 #pragma once
 
+#include "MiddleButtonPan.h"
+#include "ViewPlacer.h"
+
 #include <QObject>
-#include <QPointer>
 #include <QRectF>
 
 class QAction;
 class QGraphicsView;
 class QMenu;
-class QMouseEvent;
 class QWheelEvent;
 
 /**
@@ -58,23 +59,15 @@ private Q_SLOTS:
 
 private:
     bool takeWheel(const QWheelEvent& event);
-    bool takeMouse(const QMouseEvent& event);
     void zoomAt(const QPointF& place, double factor);
     void zoomAtCenter(double factor);
     void setScale(double wanted);
     double scaleThatFits() const;
-    QPointF sceneAt(const QPointF& place) const;
-    void bring(const QPointF& scenePoint, const QPointF& place);
-    void scrollBy(const QPointF& distance);
 
-    // The window destroys the view with its form.
-    QPointer<QGraphicsView> m_view;
+    ViewPlacer m_placer;
+    MiddleButtonPan m_pan;
     QAction* m_asStored;
     QRectF m_bounds;
     bool m_isAsStored = false;
     bool m_isFitted = true;
-    bool m_isPanning = false;
-    // True while this class scrolls and zooms, not the user.
-    bool m_isMoving = false;
-    QPoint m_panPlace;
 };

@@ -4,10 +4,9 @@
 
 #include "Keys.h"
 #include "Machine.h"
-#include "Polylines.h"
+#include "StrokeMemory.h"
 
 #include <dxfviewer/edit/DXFEditor.h>
-#include <dxfviewer/model/DXFDocument.h>
 
 #include <QAction>
 #include <QEvent>
@@ -19,30 +18,7 @@
 namespace
 {
 
-// The library keeps these anyway.
-constexpr int fewestSteps = 10;
-// The stack keeps a list of its steps, and nobody goes back further.
-constexpr int mostSteps = 100000;
-
-// The memory of steps: the first step makes a record of each entity, which later steps share. Each
-// step keeps an entry for each entity, and the segments of the polylines that it cuts.
-constexpr qint64 recordBytes = 160;
-constexpr qint64 bytesPerStep = 1024;
-constexpr qint64 bytesPerEntity = 24;
-constexpr qint64 bytesPerSegment = 90;
-
 constexpr int memoryShare = 8;
-
-qint64 segmentsOfLargest(const DXFDocument& document)
-{
-    qint64 largest = 0;
-    const auto entities = document.entities();
-    for (const auto& entity : entities) {
-        if (const DXFPolyline* polyline = asPolyline(entity))
-            largest = std::max<qint64>(largest, polyline->segments().size());
-    }
-    return largest;
-}
 
 } // namespace
 
@@ -64,14 +40,6 @@ StrokeHistory::StrokeHistory(QGraphicsView& view, qint64 memoryBytes, QObject* p
     connect(m_redo, &QAction::triggered, this, &StrokeHistory::redo);
     view.viewport()->installEventFilter(this);
     updateActions();
-}
-
-int StrokeHistory::stepsThatFit(qint64 memoryBytes, const DXFDocument& document)
-{
-    const qint64 perStep = bytesPerStep + bytesPerEntity * document.entities().size()
-                           + bytesPerSegment * segmentsOfLargest(document);
-    const qint64 forSteps = memoryBytes - recordBytes * document.entities().size();
-    return static_cast<int>(std::clamp<qint64>(forSteps / perStep, fewestSteps, mostSteps));
 }
 
 void StrokeHistory::follow(DXFEditor& editor, const DXFDocument& document)

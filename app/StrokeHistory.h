@@ -41,10 +41,6 @@ public:
     QAction* undoAction() const { return m_undo; }
     QAction* redoAction() const { return m_redo; }
 
-    /// The number of steps that fit into an amount of memory, at least the ten of the library. An
-    /// estimate: it depends on what the strokes will hit.
-    static int stepsThatFit(qint64 memoryBytes, const DXFDocument& document);
-
 public Q_SLOTS:
     void undo();
     void redo();

@@ -156,17 +156,17 @@
         <source>Re&amp;load</source>
         <translation>Neu &amp;laden</translation>
     </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
     <message>
         <source>Save &amp;As…</source>
         <translation>Speichern &amp;unter …</translation>
     </message>
-</context>
-<context>
-    <name>DrawingSaver</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
         <translation>DXF-Zeichnungen (*.dxf *.DXF)</translation>

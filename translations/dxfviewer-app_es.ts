@@ -156,17 +156,17 @@
         <source>Re&amp;load</source>
         <translation>R&amp;ecargar</translation>
     </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Guardar</translation>
-    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
     <message>
         <source>Save &amp;As…</source>
         <translation>Guardar &amp;como…</translation>
     </message>
-</context>
-<context>
-    <name>DrawingSaver</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
         <translation>Dibujos DXF (*.dxf *.DXF)</translation>

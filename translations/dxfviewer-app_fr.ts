@@ -156,17 +156,17 @@
         <source>Re&amp;load</source>
         <translation>Re&amp;charger</translation>
     </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Enregistrer</translation>
-    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
     <message>
         <source>Save &amp;As…</source>
         <translation>Enregistrer &amp;sous…</translation>
     </message>
-</context>
-<context>
-    <name>DrawingSaver</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
         <translation>Dessins DXF (*.dxf *.DXF)</translation>

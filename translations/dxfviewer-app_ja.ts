@@ -156,17 +156,17 @@
         <source>Re&amp;load</source>
         <translation>再読み込み(&amp;L)</translation>
     </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>保存(&amp;S)</translation>
-    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
     <message>
         <source>Save &amp;As…</source>
         <translation>名前を付けて保存(&amp;A)…</translation>
     </message>
-</context>
-<context>
-    <name>DrawingSaver</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
         <translation>DXF 図面 (*.dxf *.DXF)</translation>

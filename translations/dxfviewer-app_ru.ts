@@ -156,17 +156,17 @@
         <source>Re&amp;load</source>
         <translation>Пере&amp;загрузить</translation>
     </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Сохранить</translation>
-    </message>
+</context>
+<context>
+    <name>DrawingSaver</name>
     <message>
         <source>Save &amp;As…</source>
         <translation>Сохранить &amp;как…</translation>
     </message>
-</context>
-<context>
-    <name>DrawingSaver</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Сохранить</translation>
+    </message>
     <message>
         <source>DXF drawings (*.dxf *.DXF)</source>
         <translation>Чертежи DXF (*.dxf *.DXF)</translation>

@@ -135,6 +135,8 @@ TEST_F(AppearanceTest, TheDrawingOnScreenGetsTheColorsOfTheGround)
 TEST_F(AppearanceTest, WhatUndoBringsBackHasTheColorsOfTheNewGround)
 {
     showLine();
+    m_appearance.color(*shownDocument(m_viewer));
+    ASSERT_EQ(shownLine().color(), QColor(Qt::white));
     editAction(m_viewer).setChecked(true);
     dxftest::SceneMouse(drawingView(m_viewer)).drag({{25, 25}, {26, 26}});
     ASSERT_TRUE(shownDocument(m_viewer)->entities().isEmpty());

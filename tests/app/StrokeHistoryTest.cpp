@@ -393,34 +393,4 @@ TEST_F(ShortStrokeHistoryTest, OldStrokesAreDroppedAndLaterOnesStayWhole)
     }
 }
 
-TEST(StrokeMemoryTest, KeepsMoreStepsOfSmallDrawings)
-{
-    QList<QSharedPointer<DXFEntity>> many;
-    for (int index = 0; index < 10000; ++index)
-        many.append(dxftest::makePolyline({{0, 0}, {1, 1}}));
-    const auto few = dxftest::makeDocument(many.mid(0, 100));
-    const auto large = dxftest::makeDocument(many);
-    constexpr qint64 memory = 1LL << 28;
-
-    EXPECT_GT(StrokeHistory::stepsThatFit(memory, *large), 100);
-    EXPECT_GT(StrokeHistory::stepsThatFit(memory, *few),
-              20 * StrokeHistory::stepsThatFit(memory, *large));
-}
-
-TEST(StrokeMemoryTest, CountsTheSegmentsThatAStepCopies)
-{
-    const auto document =
-        dxftest::makeDocument({dxftest::makePolyline(QVector<QPointF>(100000, QPointF(1, 1)))});
-    document->setup();
-
-    EXPECT_LT(StrokeHistory::stepsThatFit(1LL << 28, *document), 100);
-}
-
-TEST(StrokeMemoryTest, KeepsAtLeastTenSteps)
-{
-    EXPECT_EQ(StrokeHistory::stepsThatFit(0, DXFDocument()), 10);
-    EXPECT_EQ(StrokeHistory::stepsThatFit(-1, DXFDocument()), 10);
-    EXPECT_LE(StrokeHistory::stepsThatFit(1LL << 62, DXFDocument()), 100000);
-}
-
 } // namespace
