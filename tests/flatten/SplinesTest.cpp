@@ -222,7 +222,8 @@ TEST(SplinesTest, StraightSpansOfAnyDegreeAreOneSegmentEach)
 
         const Points points = traced(spline);
 
-        EXPECT_EQ(points.size(), spline.controlPoints.size() - spline.degree + 1);
+        EXPECT_EQ(points.size(),
+                  spline.controlPoints.size() + 1 - static_cast<std::size_t>(degree));
         EXPECT_EQ(points.front(), spline.controlPoints.front());
         EXPECT_NEAR(lengthOf(points), 39.0, 1e-9);
     }
