@@ -3,6 +3,7 @@
 #include "MainWindow.h"
 
 #include "Appearance.h"
+#include "DrawingDrop.h"
 #include "DrawingFiles.h"
 #include "EditHistory.h"
 #include "EmptyPage.h"
@@ -28,14 +29,10 @@
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QGraphicsView>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QStatusBar>
-#include <QTimer>
-#include <QUrl>
 
 namespace
 {
@@ -44,18 +41,6 @@ namespace
 constexpr int messageMs = 8000;
 // A grey that can be read on every ground.
 constexpr int inkNumber = 8;
-
-/// The first drawing among what is dragged; empty if there is none.
-QString draggedDrawing(const QMimeData* data)
-{
-    const auto urls = data->urls();
-    for (const QUrl& url : urls) {
-        QString fileName = url.toLocalFile();
-        if (fileName.endsWith(QLatin1String(".dxf"), Qt::CaseInsensitive))
-            return fileName;
-    }
-    return QString();
-}
 
 void prepareView(QGraphicsView& view)
 {
@@ -84,9 +69,9 @@ MainWindow::MainWindow(QWidget* parent)
     makeHelpMenu();
     statusBar()->addPermanentWidget(new ReadingBar(m_files->reader()));
     prepareView(drawingView(*m_viewer));
-    setAcceptDrops(true);
     editAction(*m_viewer).setEnabled(false);
 
+    connect(new DrawingDrop(*this), &DrawingDrop::dropped, this, &MainWindow::openDrawing);
     connect(m_history, &EditHistory::changed, this,
             [this] { setWindowModified(m_history->hasUnsavedEdits()); });
     connect(m_history, &EditHistory::told, this,
@@ -230,21 +215,4 @@ void MainWindow::closeEvent(QCloseEvent* event)
     // A choice that is still being read is what the user wants to see.
     memory().remember();
     m_files->reader().cancel();
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!draggedDrawing(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent* event)
-{
-    const QString fileName = draggedDrawing(event->mimeData());
-    if (fileName.isEmpty())
-        return;
-    event->acceptProposedAction();
-    // The program that the drawing comes from waits for this event, and must not wait for an
-    // answer from the user.
-    QTimer::singleShot(0, this, [this, fileName] { openDrawing(fileName); });
 }

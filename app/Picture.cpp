@@ -4,18 +4,14 @@
 
 #include "DrawingFile.h"
 #include "FileNames.h"
+#include "PictureFormats.h"
 #include "Polylines.h"
 
 #include <dxfviewer/model/DXFDocument.h>
 #include <dxfviewer/render/DisplayColors.h>
 
-#include <QBuffer>
-#include <QCoreApplication>
 #include <QFileInfo>
-#include <QImage>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QSvgGenerator>
 
 #include <algorithm>
 #include <cmath>
@@ -28,12 +24,6 @@ constexpr double shortestEdgePx = 40.0;
 constexpr double marginPerSize = 0.02;
 // The square of the scale must still be a number.
 constexpr double mostSize = 1e150;
-constexpr int pixelsPerInch = 144;
-// At this many pixels a line on paper is a fifth of a millimetre wide. On a screen a picture is
-// often seen smaller than it is.
-constexpr int thinnestOnPaperPx = 1;
-constexpr int thinnestOnScreenPx = 2;
-constexpr double pointsPerInch = 72.0;
 
 /// Runs of connected segments.
 QVector<QPolygonF> runsOf(const DXFPolyline& polyline)
@@ -91,11 +81,6 @@ Picture::Picture(const QSharedPointer<DXFDocument>& document, const QColor& grou
     take(*document);
 }
 
-QStringList Picture::suffixes()
-{
-    return {QStringLiteral("png"), QStringLiteral("svg"), QStringLiteral("pdf")};
-}
-
 void Picture::take(const DXFDocument& document)
 {
     const DisplayColors colors(m_ground);
@@ -138,14 +123,8 @@ void Picture::paintInto(QPainter& painter, const QRectF& rect) const
     painter.scale(scale, scale);
     painter.translate(-all.width() / 2.0, -all.height() / 2.0);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintStrokes(painter, thinnestOnPaperPx);
+    paintStrokes(painter, onPaperPx);
     painter.restore();
-}
-
-void Picture::paint(QPainter& painter) const
-{
-    painter.fillRect(QRect(QPoint(0, 0), size()), m_ground);
-    paintStrokes(painter, thinnestOnPaperPx);
 }
 
 void Picture::paintStrokes(QPainter& painter, int thinnestPx) const
@@ -164,81 +143,27 @@ void Picture::paintStrokes(QPainter& painter, int thinnestPx) const
     }
 }
 
+QString Picture::fault() const
+{
+    if (m_strokes.isEmpty())
+        return tr("There is nothing in this drawing that can be shown.");
+    if (isTooLarge())
+        return tr("The drawing's coordinates are too large for a picture.");
+    return QString();
+}
+
 bool Picture::write(const QString& fileName, QString& reason) const
 {
     const QString suffix = QFileInfo(fileName).suffix().toLower();
-    if (!suffixes().contains(suffix)) {
-        reason = tr("The name of a picture must end in .png, .svg or .pdf.");
+    reason = pictureSuffixes().contains(suffix)
+                 ? fault()
+                 : tr("The name of a picture must end in .png, .svg or .pdf.");
+    if (!reason.isEmpty())
         return false;
-    }
-    if (m_strokes.isEmpty()) {
-        reason = tr("There is nothing in this drawing that can be shown.");
-        return false;
-    }
-    if (!m_bounds) {
-        reason = tr("The drawing's coordinates are too large for a picture.");
-        return false;
-    }
-    const QByteArray content = suffix == QLatin1String("png")   ? png()
-                               : suffix == QLatin1String("svg") ? svg()
-                                                                : pdf();
+    const QByteArray content = pictureFile(*this, suffix);
     if (content.isEmpty()) {
         reason = tr("There is not enough memory for the picture.");
         return false;
     }
     return writeFile(fileName, content, reason);
-}
-
-QByteArray Picture::png() const
-{
-    QImage image(size(), QImage::Format_RGB32);
-    if (image.isNull())
-        return QByteArray();
-    // Not smoothed. A smoothed line between two rows of pixels, or thinner than a pixel, would mix
-    // with the ground and be hard to see.
-    image.fill(m_ground);
-    QPainter painter(&image);
-    paintStrokes(painter, thinnestOnScreenPx);
-    painter.end();
-
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return buffer.data();
-}
-
-QByteArray Picture::svg() const
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    // The generator does not escape it.
-    generator.setTitle(m_title.toHtmlEscaped());
-    generator.setDescription(QString());
-    // Gives the size in millimetres, the same as that of the page.
-    generator.setResolution(pixelsPerInch);
-    generator.setSize(size());
-    generator.setViewBox(QRect(QPoint(0, 0), size()));
-    QPainter painter(&generator);
-    paint(painter);
-    painter.end();
-    return buffer.data();
-}
-
-QByteArray Picture::pdf() const
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setCreator(QCoreApplication::applicationName());
-    writer.setTitle(m_title);
-    writer.setResolution(pixelsPerInch);
-    writer.setPageSize(QPageSize(QSizeF(size()) * pointsPerInch / pixelsPerInch, QPageSize::Point,
-                                 QString(), QPageSize::ExactMatch));
-    writer.setPageMargins(QMarginsF());
-    QPainter painter(&writer);
-    paint(painter);
-    painter.end();
-    return buffer.data();
 }

@@ -8,13 +8,12 @@
 #include <QRectF>
 #include <QSharedPointer>
 #include <QSize>
-#include <QStringList>
+#include <QString>
 #include <QVector>
 
 #include <optional>
 
 class DXFDocument;
-class QByteArray;
 class QPainter;
 
 /**
@@ -32,8 +31,9 @@ public:
     Picture(const QSharedPointer<DXFDocument>& document, const QColor& ground,
             const QString& title = QString());
 
-    /// The file name suffixes that write() accepts: png, svg, pdf.
-    static QStringList suffixes();
+    /// Why there is nothing to paint, a sentence for the user; empty if there is something.
+    QString fault() const;
+    bool isTooLarge() const { return !m_strokes.isEmpty() && !m_bounds; }
 
     /// Writes a file in the format of its suffix. On failure false is returned, and the reason, a
     /// sentence for the user, is set.
@@ -44,6 +44,16 @@ public:
     /// Paints it into a rectangle, as large as it fits, without ground.
     void paintInto(QPainter& painter, const QRectF& rect) const;
 
+    /// The width of lines that have none, in pixels of size(): a fifth of a millimetre on paper.
+    /// On a screen a picture is often seen smaller than it is.
+    static constexpr int onPaperPx = 1;
+    static constexpr int onScreenPx = 2;
+    /// Paints the lines as large as size(), without ground. Nothing may be at fault.
+    void paintStrokes(QPainter& painter, int thinnestPx) const;
+    QSize size() const;
+    QColor ground() const { return m_ground; }
+    QString title() const { return m_title; }
+
 private:
     struct Stroke {
         QPolygonF points;
@@ -52,12 +62,6 @@ private:
     };
 
     void take(const DXFDocument& document);
-    QSize size() const;
-    void paint(QPainter& painter) const;
-    void paintStrokes(QPainter& painter, int thinnestPx) const;
-    QByteArray png() const;
-    QByteArray svg() const;
-    QByteArray pdf() const;
 
     QVector<Stroke> m_strokes;
     /// In drawing units, with a margin; nothing if that cannot be computed.

@@ -4,6 +4,7 @@
 
 #include "Ground.h"
 #include "Picture.h"
+#include "PictureFormats.h"
 #include "Questions.h"
 #include "ViewerParts.h"
 #include "WaitCursor.h"
@@ -23,20 +24,20 @@ struct PictureExportTexts {
 QString chosenPicture(const QString& drawingName, QWidget& window)
 {
     QStringList filters;
-    for (const QString& suffix : Picture::suffixes())
+    for (const QString& suffix : pictureSuffixes())
         filters += PictureExportTexts::tr("%1 pictures (*.%2)").arg(suffix.toUpper(), suffix);
     QFileDialog dialog(&window, PictureExportTexts::tr("Export Picture"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filters);
-    dialog.setDefaultSuffix(Picture::suffixes().constFirst());
+    dialog.setDefaultSuffix(pictureSuffixes().constFirst());
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                      [&dialog, &filters](const QString& filter) {
                          const auto index = filters.indexOf(filter);
-                         dialog.setDefaultSuffix(Picture::suffixes().value(index));
+                         dialog.setDefaultSuffix(pictureSuffixes().value(index));
                      });
     const QFileInfo info(drawingName);
     dialog.selectFile(info.dir().filePath(info.completeBaseName() + QLatin1Char('.')
-                                          + Picture::suffixes().constFirst()));
+                                          + pictureSuffixes().constFirst()));
     return chosenFile(dialog);
 }
 

@@ -64,6 +64,8 @@ void Printing::print() const
 {
     QPrinter printer(QPrinter::HighResolution);
     const Picture picture(m_document, Qt::white);
+    if (tellTooLarge(picture))
+        return;
     prepare(printer, picture, m_fileName);
     QPrintDialog dialog(&printer, &m_window);
     dialog.setWindowTitle(tr("Print"));
@@ -83,6 +85,8 @@ void Printing::preview() const
 {
     QPrinter printer(QPrinter::HighResolution);
     const Picture picture(m_document, Qt::white);
+    if (tellTooLarge(picture))
+        return;
     prepare(printer, picture, m_fileName);
     QPrintPreviewDialog dialog(&printer, &m_window);
     bool isTaken = false;
@@ -91,6 +95,14 @@ void Printing::preview() const
     // It is accepted when the user has printed from it.
     if (dialog.exec() == QDialog::Accepted)
         tellFailure(printer, isTaken);
+}
+
+/// Tells that a drawing is too large. The page of an empty one is empty, as it should be.
+bool Printing::tellTooLarge(const Picture& picture) const
+{
+    if (picture.isTooLarge())
+        showError(m_window, tr("The drawing cannot be printed."), m_fileName, picture.fault());
+    return picture.isTooLarge();
 }
 
 void Printing::tellFailure(const QPrinter& printer, bool isTaken) const

@@ -7,6 +7,7 @@
 #include <QString>
 
 class DXFDocument;
+class Picture;
 class QPrinter;
 class QWidget;
 
@@ -30,6 +31,7 @@ public:
 
 private:
     /// Says so if the printer has not taken the page, or has not written its file to the end.
+    bool tellTooLarge(const Picture& picture) const;
     void tellFailure(const QPrinter& printer, bool isTaken) const;
 
     QSharedPointer<DXFDocument> m_document;

@@ -172,6 +172,22 @@ TEST_F(PrintingTest, PrintsNothingWhenCancelled)
     EXPECT_FALSE(QFile::exists(file()));
 }
 
+TEST_F(PrintingTest, ATooLargeDrawingGivesABoxAndNoEmptyPage)
+{
+    const auto large = dxftest::makeDocument({dxftest::makePolyline({{0, 0}, {1e300, 1e300}})});
+    std::string errors[2];
+    for (std::string& error : errors)
+        m_robot.expectError(error);
+
+    printing(large).print();
+    printing(large).preview();
+
+    for (const std::string& error : errors) {
+        EXPECT_THAT(error, HasSubstr("The drawing cannot be printed."));
+        EXPECT_THAT(error, HasSubstr("too large"));
+    }
+}
+
 TEST_F(PrintingTest, AnEmptyDrawingPrintsOnePage)
 {
     expectDialog();

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+class Picture;
+
+// The formats of picture files, by the file name suffixes.
+
+/// png, svg, pdf.
+QStringList pictureSuffixes();
+
+/// A file with the picture, which must have something to paint. Empty if there is not enough
+/// memory.
+QByteArray pictureFile(const Picture& picture, const QString& suffix);
