@@ -31,7 +31,7 @@ DrawingFiles::DrawingFiles(DXFViewer& viewer, EditHistory& history, QWidget& win
     , m_folder(m_settings)
 {
     connect(&m_handOver, &HandOver::shown, this, &DrawingFiles::drawingShown);
-    connect(&m_saver, &DrawingSaver::saved, this, &DrawingFiles::onSaved);
+    connect(&m_saver, &DrawingSaver::saved, this, &DrawingFiles::noteFile);
     connect(&m_reader, &BackgroundReader::finished, this, &DrawingFiles::onRead);
     connect(&m_reader, &BackgroundReader::cancelled, this, &DrawingFiles::keepShownChoices);
     connect(&m_recent, &RecentFiles::chosen, this, &DrawingFiles::open);
@@ -50,7 +50,7 @@ void DrawingFiles::addActionsTo(QMenu& menu)
     m_reload->setShortcuts(keysOf({QStringLiteral("F5")}, {QKeySequence::Refresh}));
     menu.addSeparator();
     m_saver.addActionsTo(menu);
-    onFileNameChanged();
+    m_reload->setEnabled(!fileName().isEmpty());
 }
 
 void DrawingFiles::open(const QString& fileName)
@@ -96,11 +96,13 @@ void DrawingFiles::keepShownChoices()
         changeChoices(m_saver.drawing().choices);
 }
 
-void DrawingFiles::onSaved()
+void DrawingFiles::noteFile()
 {
     m_recent.add(fileName());
     m_folder.noteFile(fileName());
-    onFileNameChanged();
+    if (m_reload)
+        m_reload->setEnabled(true);
+    Q_EMIT fileNameChanged();
 }
 
 void DrawingFiles::onRead(const QString& fileName, const DrawingRead& result)
@@ -133,9 +135,7 @@ void DrawingFiles::show(const QString& fileName, const DrawingRead& drawing)
     // Edit mode would go on with the old drawing until the new one is on screen.
     m_history.giveUpDrawing();
     m_saver.follow(fileName, m_mark, drawing);
-    onFileNameChanged();
-    m_recent.add(fileName);
-    m_folder.noteFile(fileName);
+    noteFile();
     Q_EMIT drawingRead(*drawing.document);
     m_handOver.show(drawing.document);
 }
@@ -151,11 +151,4 @@ void DrawingFiles::chooseDrawing()
     // Noted even if the drawing cannot be read: then the user wants another from there.
     m_folder.noteFile(fileName);
     open(fileName);
-}
-
-void DrawingFiles::onFileNameChanged()
-{
-    if (m_reload)
-        m_reload->setEnabled(!fileName().isEmpty());
-    Q_EMIT fileNameChanged();
 }

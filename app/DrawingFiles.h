@@ -68,14 +68,13 @@ Q_SIGNALS:
 private Q_SLOTS:
     void chooseDrawing();
     void onRead(const QString& fileName, const DrawingRead& result);
-    void onSaved();
+    void noteFile();
     void keepShownChoices();
 
 private:
     void read(const QString& fileName);
     void show(const QString& fileName, const DrawingRead& drawing);
     void changeChoices(const ReadingChoices& choices);
-    void onFileNameChanged();
 
     EditHistory& m_history;
     QWidget& m_window;

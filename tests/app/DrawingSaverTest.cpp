@@ -9,6 +9,7 @@
 #include "tests/support/LoggedTest.h"
 #include "tests/support/WindowParts.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFileDialog>
 #include <QMenu>
