@@ -4,6 +4,7 @@
 
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/OtherUser.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,6 +38,20 @@ protected:
         const bool isRead = readDrawing(fileName, reason).has_value();
         EXPECT_EQ(isRead, reason.isEmpty());
         return reason.toStdString();
+    }
+
+    /// Everybody may read files in the folder, and nobody may write to it.
+    void protectFolder() const
+    {
+        ASSERT_TRUE(QFile::setPermissions(
+            m_folder.path(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup
+                                 | QFile::ReadOther | QFile::ExeOther));
+    }
+
+    void TearDown() override
+    {
+        QFile::setPermissions(m_folder.path(),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
 private:
@@ -202,6 +217,29 @@ TEST_F(DrawingFileTest, DoesNotReplaceADevice)
     EXPECT_FALSE(isWritten);
     EXPECT_THAT(reason.toStdString(), HasSubstr("not a regular file"));
     EXPECT_FALSE(QFileInfo(QStringLiteral("/dev/full")).isFile());
+}
+
+TEST_F(DrawingFileTest, RefusesAFileWithoutPermission)
+{
+    const QString fileName = fileWith(smallDrawing);
+    protectFolder();
+    ASSERT_TRUE(QFile::setPermissions(fileName, QFile::Permissions()));
+    const dxftest::OtherUser user;
+
+    EXPECT_EQ(refusal(fileName), "Permission denied");
+}
+
+TEST_F(DrawingFileTest, WritesNothingWithoutPermission)
+{
+    const QString fileName = fileWith(smallDrawing);
+    protectFolder();
+    const dxftest::OtherUser user;
+
+    QString reason;
+    EXPECT_FALSE(writeFile(fileName, "other", reason));
+
+    EXPECT_FALSE(reason.isEmpty());
+    EXPECT_EQ(contentOf(fileName), smallDrawing);
 }
 
 } // namespace

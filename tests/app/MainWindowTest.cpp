@@ -17,6 +17,7 @@
 #include "tests/support/FileSizeLimit.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
+#include "tests/support/OtherUser.h"
 #include "tests/support/Patience.h"
 #include "tests/support/SceneMouse.h"
 
@@ -660,7 +661,7 @@ TEST_F(MainWindowTest, EditsStayWhenEditModeEnds)
 
     EXPECT_TRUE(m_window->isWindowModified());
 
-    SceneMouse(view()).drag({{-50, 0}, {-50, 1}});
+    SceneMouse(view()).drag({{-50, 0}, {-50, 0.2}});
     press(Qt::Key_Z);
 
     EXPECT_EQ(polylineCount(), 1);
@@ -893,7 +894,7 @@ TEST_F(MainWindowTest, SavesACopyAgainWithoutAQuestion)
     erase();
     m_robot.expectFileName(path(QStringLiteral("kept.dxf")));
     press(Qt::Key_S);
-    SceneMouse(view()).drag({{-50, 0}, {-50, 1}});
+    SceneMouse(view()).drag({{-50, 0}, {-50, 0.2}});
     ASSERT_TRUE(m_window->isWindowModified());
 
     press(Qt::Key_S);
@@ -916,7 +917,7 @@ TEST_F(MainWindowTest, SavesAReloadedCopyWithoutAQuestion)
 
     waitForDrawing([this] { action("&Texts").trigger(); });
     edit().setChecked(true);
-    SceneMouse(view()).drag({{-50, 0}, {-50, 1}});
+    SceneMouse(view()).drag({{-50, 0}, {-50, 0.2}});
     ASSERT_TRUE(m_window->isWindowModified());
     press(Qt::Key_S);
     EXPECT_FALSE(m_window->isWindowModified());
@@ -1068,6 +1069,27 @@ TEST_F(MainWindowTest, ReloadOfAMissingFileKeepsTheEdits)
     EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
 
     EXPECT_THAT(error, HasSubstr("There is no such file."));
+    EXPECT_EQ(polylineCount(), 1);
+    EXPECT_TRUE(m_window->isWindowModified());
+    EXPECT_TRUE(edit().isChecked());
+}
+
+TEST_F(MainWindowTest, ReloadOfAFileWithoutPermissionKeepsTheEdits)
+{
+    openInEditMode();
+    erase();
+    ASSERT_TRUE(QFile::setPermissions(path(QStringLiteral("cross.dxf")), QFile::Permissions()));
+    m_robot.expectButton(QMessageBox::Discard);
+    std::string error;
+    m_robot.expectError(error);
+
+    {
+        const dxftest::OtherUser user;
+        press(Qt::Key_F5, Qt::NoModifier);
+        EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+    }
+
+    EXPECT_THAT(error, HasSubstr("cross.dxf"));
     EXPECT_EQ(polylineCount(), 1);
     EXPECT_TRUE(m_window->isWindowModified());
     EXPECT_TRUE(edit().isChecked());
