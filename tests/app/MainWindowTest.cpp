@@ -175,6 +175,25 @@ protected:
     /// Erases the cross's upright line.
     void erase() { SceneMouse(view()).drag({{50, 60}, {50, 61}, {50, 62}}); }
 
+    /// Reloads in vain after the edits were discarded, and returns what the box says.
+    std::string errorOfReload()
+    {
+        m_robot.expectButton(QMessageBox::Discard);
+        std::string error;
+        m_robot.expectError(error);
+        press(Qt::Key_F5, Qt::NoModifier);
+        EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+        return error;
+    }
+
+    /// One of the two lines was erased.
+    void expectEditsAreKept() const
+    {
+        EXPECT_EQ(polylineCount(), 1);
+        EXPECT_TRUE(m_window->isWindowModified());
+        EXPECT_TRUE(edit().isChecked());
+    }
+
     EmptyPage& emptyPage() const { return *m_window->findChild<EmptyPage*>(); }
 
     /// Whether a label in the status bar contains the text.
@@ -1061,17 +1080,10 @@ TEST_F(MainWindowTest, ReloadOfAMissingFileKeepsTheEdits)
     openInEditMode();
     erase();
     ASSERT_TRUE(QFile::remove(path(QStringLiteral("cross.dxf"))));
-    m_robot.expectButton(QMessageBox::Discard);
-    std::string error;
-    m_robot.expectError(error);
 
-    press(Qt::Key_F5, Qt::NoModifier);
-    EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+    EXPECT_THAT(errorOfReload(), HasSubstr("There is no such file."));
 
-    EXPECT_THAT(error, HasSubstr("There is no such file."));
-    EXPECT_EQ(polylineCount(), 1);
-    EXPECT_TRUE(m_window->isWindowModified());
-    EXPECT_TRUE(edit().isChecked());
+    expectEditsAreKept();
 }
 
 TEST_F(MainWindowTest, ReloadOfAFileWithoutPermissionKeepsTheEdits)
@@ -1079,20 +1091,13 @@ TEST_F(MainWindowTest, ReloadOfAFileWithoutPermissionKeepsTheEdits)
     openInEditMode();
     erase();
     ASSERT_TRUE(QFile::setPermissions(path(QStringLiteral("cross.dxf")), QFile::Permissions()));
-    m_robot.expectButton(QMessageBox::Discard);
-    std::string error;
-    m_robot.expectError(error);
 
     {
         const dxftest::OtherUser user;
-        press(Qt::Key_F5, Qt::NoModifier);
-        EXPECT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
+        EXPECT_THAT(errorOfReload(), HasSubstr("cross.dxf"));
     }
 
-    EXPECT_THAT(error, HasSubstr("cross.dxf"));
-    EXPECT_EQ(polylineCount(), 1);
-    EXPECT_TRUE(m_window->isWindowModified());
-    EXPECT_TRUE(edit().isChecked());
+    expectEditsAreKept();
 }
 
 TEST_F(MainWindowTest, AsksAboutEditsMadeWhileADrawingIsRead)
