@@ -46,9 +46,25 @@ constexpr int eraserPeriodMs = 60;
 constexpr std::array buttons{Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton,
                              Qt::MiddleButton};
 
+/// Like QObject::findChild(), which with some Qt 6 crashes while a widget destroys its children.
+template <typename Object>
+Object* childOf(const QObject* parent, const QString& name = QString())
+{
+    for (QObject* child : parent->children()) {
+        if (!child)
+            continue;
+        if (auto* object = qobject_cast<Object*>(child);
+            object && (name.isEmpty() || object->objectName() == name))
+            return object;
+        if (auto* object = childOf<Object>(child, name))
+            return object;
+    }
+    return nullptr;
+}
+
 View* viewOf(const DXFViewer* viewer)
 {
-    return viewer ? viewer->findChild<View*>() : nullptr;
+    return viewer ? childOf<View>(viewer) : nullptr;
 }
 
 QGraphicsScene* sceneOf(const DXFViewer* viewer)
@@ -79,7 +95,7 @@ QSharedPointer<DXFDocument> documentOf(const DXFViewer* viewer)
 
 QAction* editActionOf(const DXFViewer* viewer)
 {
-    return viewer->findChild<QAction*>(QStringLiteral("actionEdit_dxf"));
+    return childOf<QAction>(viewer, QStringLiteral("actionEdit_dxf"));
 }
 
 Qt::MouseButton buttonAt(int which)
