@@ -29,6 +29,7 @@ ROWS = (
     ("read_bytes", "Read bytes", "ratio", 1.10, DXFLIB),
     ("read_file", "Read a file", "ratio", 1.10, DXFLIB),
     ("read_many_layers", "Read, a layer for two polylines", "ratio", 1.15, DXFLIB),
+    ("flatten", "Read everything as polylines", "ratio", 1.5, "the reader that keeps polylines only"),
     ("setup", "Set up, with bounds", "ns_per_segment", 60, SUM),
     ("setup_many_layers", "Set up, a layer for two polylines", "ns_per_segment", 1000, SUM),
     ("paint", "Paint all", "ratio", 1.05, "drawing the lines one by one with one pen"),
