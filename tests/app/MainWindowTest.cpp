@@ -175,6 +175,18 @@ protected:
     /// Erases the cross's upright line.
     void erase() { SceneMouse(view()).drag({{50, 60}, {50, 61}, {50, 62}}); }
 
+    /// Saves, answers the question before a file is replaced with Cancel, and returns the question.
+    std::string questionOfSave()
+    {
+        std::string question;
+        m_robot.expect<QMessageBox>([&question](QMessageBox& box) {
+            question = box.informativeText().toStdString();
+            DialogRobot::click(box, QMessageBox::Cancel);
+        });
+        press(Qt::Key_S);
+        return question;
+    }
+
     /// Reloads in vain after the edits were discarded, and returns what the box says.
     std::string errorOfReload()
     {
@@ -833,18 +845,13 @@ TEST_F(MainWindowTest, SaysWhatIsLostBeforeItReplacesTheOpenedFile)
     open(fileName);
     edit().setChecked(true);
     erase();
-    std::string warning;
     m_robot.expectFileName(fileName);
-    m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
-        warning = box.informativeText().toStdString();
-        DialogRobot::click(box, QMessageBox::Cancel);
-    });
 
-    press(Qt::Key_S);
+    const std::string question = questionOfSave();
 
-    EXPECT_THAT(warning,
+    EXPECT_THAT(question,
                 HasSubstr("1 line, 1 arc and 1 block become polylines. 2 hatches are lost."));
-    EXPECT_THAT(warning, HasSubstr("Only layers, line types and polylines are saved"));
+    EXPECT_THAT(question, HasSubstr("Only layers, line types and polylines are saved"));
     EXPECT_EQ(contentOf(fileName), mixedDrawing);
     EXPECT_TRUE(m_window->isWindowModified());
 }
@@ -860,16 +867,9 @@ TEST_F(MainWindowTest, SaysWhatIsLostOfTheDrawingThatIsShown)
     action("Only &Polylines").trigger();
     ASSERT_TRUE(dxftest::eventually([&error] { return !error.empty(); }));
     fileWith(mixedDrawing, QStringLiteral("mixed.dxf"));
-    std::string warning;
     m_robot.expectFileName(fileName);
-    m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
-        warning = box.informativeText().toStdString();
-        DialogRobot::click(box, QMessageBox::Cancel);
-    });
 
-    press(Qt::Key_S);
-
-    EXPECT_THAT(warning, HasSubstr("1 line, 1 arc and 1 block become polylines."));
+    EXPECT_THAT(questionOfSave(), HasSubstr("1 line, 1 arc and 1 block become polylines."));
     EXPECT_FALSE(action("Only &Polylines").isChecked());
 }
 
@@ -881,16 +881,10 @@ TEST_F(MainWindowTest, SaysThatLayoutsAreLostBeforeItReplacesTheOpenedFile)
                      + "0\nENDSEC\n0\nEOF\n",
                  QStringLiteral("paper.dxf"));
     open(fileName);
-    std::string warning;
     m_robot.expectFileName(fileName);
-    m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
-        warning = box.informativeText().toStdString();
-        DialogRobot::click(box, QMessageBox::Cancel);
-    });
 
-    press(Qt::Key_S);
-
-    EXPECT_THAT(warning, HasSubstr("1 line becomes polylines. What lies on layouts is lost. Only"));
+    EXPECT_THAT(questionOfSave(),
+                HasSubstr("1 line becomes polylines. What lies on layouts is lost. Only"));
 }
 
 TEST_F(MainWindowTest, ReplacesTheOpenedFileWhenConfirmed)
@@ -1007,13 +1001,7 @@ TEST_F(MainWindowTest, AsksBeforeItReplacesAFileThatAnotherProgramChanged)
     press(Qt::Key_S);
     fileWith("of another program", QStringLiteral("kept.dxf"));
 
-    std::string warning;
-    m_robot.expect<QMessageBox>([&warning](QMessageBox& box) {
-        warning = box.informativeText().toStdString();
-        DialogRobot::click(box, QMessageBox::Cancel);
-    });
-    press(Qt::Key_S);
-    EXPECT_THAT(warning, HasSubstr("Another program has changed it"));
+    EXPECT_THAT(questionOfSave(), HasSubstr("Another program has changed it"));
     EXPECT_EQ(contentOf(kept), "of another program");
 
     m_robot.expect<QMessageBox>(&chooseReplace);
