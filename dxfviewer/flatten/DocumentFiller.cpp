@@ -3,6 +3,7 @@
 #include "dxfviewer/flatten/DocumentFiller.h"
 
 #include "dxfviewer/flatten/BlockWeights.h"
+#include "dxfviewer/flatten/Drawing.h"
 #include "dxfviewer/io/Utf8.h"
 #include "dxfviewer/model/DXFAttributes.h"
 #include "dxfviewer/model/DXFDocument.h"

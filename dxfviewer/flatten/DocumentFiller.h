@@ -2,7 +2,8 @@
 
 #pragma once
 
-#include "dxfviewer/flatten/Drawing.h"
+#include "dxfviewer/flatten/Block.h"
+#include "dxfviewer/flatten/Look.h"
 #include "dxfviewer/flatten/Placement.h"
 #include "dxfviewer/io/WorkMeter.h"
 
@@ -23,6 +24,7 @@ namespace dxfviewer
 {
 
 class BlockWeights;
+class Drawing;
 
 /// Adds a gathered drawing to a document: every chain becomes a polyline. The chains of a block do
 /// so at each of its inserts.

@@ -4,6 +4,7 @@
 
 #include "dxfviewer/flatten/Curves.h"
 #include "dxfviewer/flatten/EntityShapes.h"
+#include "dxfviewer/flatten/Fineness.h"
 #include "dxfviewer/flatten/InsertRecord.h"
 #include "dxfviewer/flatten/TextShapes.h"
 

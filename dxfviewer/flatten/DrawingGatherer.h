@@ -3,7 +3,6 @@
 #pragma once
 
 #include "dxfviewer/flatten/Drawing.h"
-#include "dxfviewer/flatten/Fineness.h"
 #include "dxfviewer/flatten/FlatteningOptions.h"
 #include "dxfviewer/flatten/PolylineShapes.h"
 #include "dxfviewer/flatten/Record.h"
@@ -16,6 +15,8 @@
 
 namespace dxfviewer
 {
+
+struct Fineness;
 
 /**
  * Makes a drawing from the groups of a DXF text.

@@ -15,6 +15,8 @@
 #include <string>
 #include <string_view>
 
+class DXFDocument;
+
 namespace dxfviewer
 {
 class DrawingGatherer;

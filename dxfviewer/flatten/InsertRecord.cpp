@@ -2,6 +2,7 @@
 
 #include "dxfviewer/flatten/InsertRecord.h"
 
+#include "dxfviewer/flatten/Block.h"
 #include "dxfviewer/flatten/Curves.h"
 #include "dxfviewer/flatten/Record.h"
 

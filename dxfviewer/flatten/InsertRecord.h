@@ -2,12 +2,11 @@
 
 #pragma once
 
-#include "dxfviewer/flatten/Block.h"
-
 namespace dxfviewer
 {
 
 class Record;
+struct BlockInsert;
 
 /// Whether an entity of this kind shows a block.
 bool insertsBlock(const Record& record);

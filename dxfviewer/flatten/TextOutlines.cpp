@@ -4,12 +4,14 @@
 
 #include "dxfviewer/flatten/Chains.h"
 #include "dxfviewer/flatten/Fineness.h"
+#include "dxfviewer/flatten/Placement.h"
 #include "dxfviewer/io/WorkMeter.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QPainterPath>
 #include <QPolygonF>
+#include <QString>
 
 #include <algorithm>
 

@@ -2,16 +2,16 @@
 
 #pragma once
 
-#include "dxfviewer/flatten/Placement.h"
-
 #include <QFont>
-#include <QString>
+
+class QString;
 
 namespace dxfviewer
 {
 
 class Chains;
 struct Fineness;
+struct Placement;
 
 /// The outlines of a font's letters. Capitals are 1 high, and the line stands on y = 0.
 class TextOutlines

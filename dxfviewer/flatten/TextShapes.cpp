@@ -5,6 +5,7 @@
 #include "dxfviewer/flatten/Chains.h"
 #include "dxfviewer/flatten/Curves.h"
 #include "dxfviewer/flatten/Fineness.h"
+#include "dxfviewer/flatten/Placement.h"
 #include "dxfviewer/flatten/Record.h"
 #include "dxfviewer/flatten/TextContent.h"
 #include "dxfviewer/flatten/TextOutlines.h"

@@ -12,7 +12,9 @@
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/Polylines.h"
 
+#include <QByteArray>
 #include <QDebug>
+#include <QString>
 
 #include <functional>
 #include <string_view>

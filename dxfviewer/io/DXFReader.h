@@ -4,9 +4,7 @@
 
 #include "dxfviewer/dxfviewer_export.h"
 
-#include <QByteArray>
 #include <QSharedPointer>
-#include <QString>
 
 #include <dl_creationadapter.h>
 
@@ -15,6 +13,8 @@
 class DXFAttributes;
 class DXFDocument;
 class DXFEntity;
+class QByteArray;
+class QString;
 
 /**
  * Fills a document from DXF data: its layers, its line types and its polylines.

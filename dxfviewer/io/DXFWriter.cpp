@@ -11,7 +11,9 @@
 #include "dxfviewer/model/Polylines.h"
 #include "dxfviewer/model/SpecialValues.h"
 
+#include <QByteArray>
 #include <QDebug>
+#include <QString>
 #include <QTemporaryFile>
 
 #include <algorithm>

@@ -4,9 +4,7 @@
 
 #include "dxfviewer/dxfviewer_export.h"
 
-#include <QByteArray>
 #include <QSharedPointer>
-#include <QString>
 
 #include <memory>
 
@@ -14,6 +12,8 @@ class DL_Dxf;
 class DL_WriterA;
 class DXFDocument;
 class DXFPolyline;
+class QByteArray;
+class QString;
 
 /**
  * Writes a document as release-12 DXF: line types, layers and polylines.

@@ -2,6 +2,8 @@
 
 #include "dxfviewer/io/Utf8.h"
 
+#include <QString>
+
 namespace
 {
 

@@ -2,11 +2,11 @@
 
 #pragma once
 
-#include <QString>
-
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+class QString;
 
 namespace dxfviewer
 {

@@ -11,6 +11,7 @@
 
 #include "ui_Viewer.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QDebug>
 #include <QGraphicsScene>

@@ -4,7 +4,6 @@
 
 #include "dxfviewer/dxfviewer_export.h"
 
-#include <QByteArray>
 #include <QMainWindow>
 #include <QPointer>
 #include <QSharedPointer>
@@ -15,6 +14,7 @@ class DXFDocument;
 class DXFEditor;
 class DXFGraphicsItem;
 class QAction;
+class QByteArray;
 class QToolBar;
 class QUndoView;
 class Ui_Viewer;
