@@ -2,6 +2,7 @@
 
 #include "BackgroundReader.h"
 
+#include "DrawingRead.h"
 #include "ReadingWatch.h"
 
 #include <dxfviewer/model/DXFDocument.h>

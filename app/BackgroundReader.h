@@ -2,14 +2,18 @@
 
 #pragma once
 
-#include "DrawingRead.h"
+#include "ReadingChoices.h"
 
 #include <QObject>
+#include <QSharedPointer>
+#include <QString>
 #include <QTimer>
 
 #include <memory>
 
+class DXFDocument;
 class QThread;
+struct DrawingRead;
 
 /**
  * Reads drawings in a thread of its own, one at a time.

@@ -2,6 +2,8 @@
 
 #include "CommandLine.h"
 
+#include "Ground.h"
+
 #include <QCoreApplication>
 
 CommandLine::CommandLine()

@@ -2,11 +2,11 @@
 
 #pragma once
 
-#include "Ground.h"
-
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QStringList>
+
+enum class Ground;
 
 /// What the program is told to do.
 class CommandLine

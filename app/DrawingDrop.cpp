@@ -4,6 +4,7 @@
 
 #include <QDropEvent>
 #include <QMimeData>
+#include <QString>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>

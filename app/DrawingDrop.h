@@ -3,8 +3,8 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
 
+class QString;
 class QWidget;
 
 /// Lets users drop drawings on a window. Other files are refused.

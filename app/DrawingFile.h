@@ -3,10 +3,10 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 
 #include <optional>
 
+class QString;
 class ReadingWatch;
 
 /**

@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeySequence>
 #include <QMenu>
 
 DrawingSaver::DrawingSaver(DXFViewer& viewer, EditHistory& history, QWidget& window)

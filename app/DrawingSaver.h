@@ -5,7 +5,6 @@
 #include "DrawingRead.h"
 #include "FileMark.h"
 
-#include <QKeySequence>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -13,6 +12,7 @@
 class DXFViewer;
 class EditHistory;
 class QAction;
+class QKeySequence;
 class QMenu;
 class QWidget;
 

@@ -5,7 +5,6 @@
 #include "StrokeHistory.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QUndoGroup>
 
 class DXFEditor;

@@ -3,6 +3,7 @@
 #include "EmptyPage.h"
 
 #include <QAbstractScrollArea>
+#include <QColor>
 #include <QEvent>
 
 namespace

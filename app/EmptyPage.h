@@ -5,6 +5,7 @@
 #include <QLabel>
 
 class QAbstractScrollArea;
+class QColor;
 
 /// Words in the middle of a view that shows nothing, which say what to do.
 class EmptyPage : public QLabel

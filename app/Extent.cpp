@@ -2,6 +2,8 @@
 
 #include "Extent.h"
 
+#include <QRectF>
+
 #include <algorithm>
 #include <cmath>
 

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include <QRectF>
+class QRectF;
 
 // Rectangles in drawing units that a view can be fitted to.
 

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include <QString>
+class QString;
 
 /// A file name as one line of readable text: characters that cannot be shown are replaced, and the
 /// middle of a very long name is left out.

@@ -2,6 +2,9 @@
 
 #include "Ground.h"
 
+#include <QColor>
+#include <QString>
+
 #include <array>
 
 namespace

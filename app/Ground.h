@@ -2,10 +2,10 @@
 
 #pragma once
 
-#include <QColor>
-#include <QString>
-
 #include <optional>
+
+class QColor;
+class QString;
 
 /// The colour behind a drawing.
 enum class Ground { Dark, Light, White };

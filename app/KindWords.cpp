@@ -5,6 +5,7 @@
 #include "DrawingRead.h"
 
 #include <QCoreApplication>
+#include <QString>
 #include <QStringList>
 
 #include <algorithm>

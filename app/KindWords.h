@@ -3,9 +3,9 @@
 #pragma once
 
 #include <QMap>
-#include <QString>
 
 struct DrawingRead;
+class QString;
 
 // The counts of a reader, in words. Their keys are the names of entities in DXF.
 

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QGraphicsView>
 #include <QMenu>
+#include <QPointF>
 #include <QScrollBar>
 #include <QWheelEvent>
 

@@ -11,6 +11,7 @@
 class QAction;
 class QGraphicsView;
 class QMenu;
+class QPointF;
 class QWheelEvent;
 
 /**

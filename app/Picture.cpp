@@ -12,6 +12,7 @@
 
 #include <QFileInfo>
 #include <QPainter>
+#include <QSize>
 
 #include <algorithm>
 #include <cmath>

@@ -7,7 +7,6 @@
 #include <QPolygonF>
 #include <QRectF>
 #include <QSharedPointer>
-#include <QSize>
 #include <QString>
 #include <QVector>
 
@@ -15,6 +14,7 @@
 
 class DXFDocument;
 class QPainter;
+class QSize;
 
 /**
  * A picture of a whole drawing, not only of the part in the window: in its own colours, with y

@@ -2,9 +2,8 @@
 
 #pragma once
 
-#include <QString>
-
 class DXFViewer;
+class QString;
 class QWidget;
 
 /// Asks for the name of a picture file and writes the whole drawing to it, on white, as on paper.

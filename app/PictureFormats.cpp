@@ -5,6 +5,7 @@
 #include "Picture.h"
 
 #include <QBuffer>
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QImage>
 #include <QPainter>

@@ -2,10 +2,10 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QStringList>
 
 class Picture;
+class QByteArray;
 
 // The formats of picture files, by the file name suffixes.
 

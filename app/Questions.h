@@ -2,9 +2,8 @@
 
 #pragma once
 
-#include <QString>
-
 class QFileDialog;
+class QString;
 class QWidget;
 
 // What the program asks and tells in boxes.

@@ -5,6 +5,8 @@
 #include "Cancelled.h"
 #include "ReadingWatch.h"
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <cstring>
 

@@ -2,10 +2,9 @@
 
 #pragma once
 
-#include <QByteArray>
-
 #include <cstddef>
 
+class QByteArray;
 class ReadingWatch;
 
 /**

@@ -6,7 +6,9 @@
 
 #include <dxfviewer/model/DXFDocument.h>
 
+#include <QByteArray>
 #include <QFile>
+#include <QString>
 
 #include <algorithm>
 #include <cmath>

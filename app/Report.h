@@ -2,14 +2,14 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QMap>
 #include <QPointF>
-#include <QString>
 
 #include <optional>
 
 class DXFDocument;
+class QByteArray;
+class QString;
 
 /// The measures of a drawing's segments, seen from above, in drawing units.
 struct Measures {

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMouseEvent>
+#include <QPoint>
 #include <QStatusBar>
 #include <QUndoStack>
 

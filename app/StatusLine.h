@@ -9,6 +9,7 @@
 class DXFViewer;
 class QGraphicsView;
 class QLabel;
+class QPoint;
 class QStatusBar;
 
 /**

@@ -12,6 +12,7 @@
 #include <QEvent>
 #include <QGraphicsView>
 #include <QMouseEvent>
+#include <QUndoStack>
 
 #include <algorithm>
 

@@ -4,7 +4,6 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QUndoStack>
 
 #include <deque>
 
@@ -12,6 +11,8 @@ class DXFDocument;
 class DXFEditor;
 class QAction;
 class QGraphicsView;
+class QUndoCommand;
+class QUndoStack;
 
 /**
  * Undo and Redo that take back whole strokes of the eraser, from press to release.

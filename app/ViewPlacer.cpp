@@ -5,6 +5,7 @@
 #include "Extent.h"
 
 #include <QGraphicsView>
+#include <QPointF>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 

@@ -2,10 +2,10 @@
 
 #pragma once
 
-#include <QPointF>
 #include <QPointer>
 
 class QGraphicsView;
+class QPointF;
 
 /**
  * Scales, mirrors and scrolls a view, with fractions of pixels where the view's own functions know

@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "DrawingRead.h"
 #include "FileNames.h"
+#include "Ground.h"
 #include "MainWindow.h"
 #include "Picture.h"
 #include "ReadingWatch.h"

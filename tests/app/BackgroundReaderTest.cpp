@@ -2,6 +2,8 @@
 
 #include "BackgroundReader.h"
 
+#include "DrawingRead.h"
+
 #include "dxfviewer/model/DXFDocument.h"
 #include "tests/support/Files.h"
 #include "tests/support/LoggedTest.h"
