@@ -2,6 +2,7 @@
 
 #include "dxfviewer/edit/DXFEditor.h"
 
+#include "dxfviewer/edit/ISelectionTool.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/render/DXFGraphicsItem.h"
 

@@ -9,6 +9,7 @@
 #include "tests/support/ToolAccess.h"
 
 #include "dxfviewer/edit/DXFEditor.h"
+#include "dxfviewer/edit/ISelectionTool.h"
 #include "dxfviewer/model/DXFPolyline.h"
 #include "dxfviewer/render/DXFGraphicsItem.h"
 #include "dxfviewer/viewer/DXFViewer.h"

@@ -4,7 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QByteArray>
 #include <QFile>
+#include <QString>
 
 namespace dxftest
 {

@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include <QByteArray>
-#include <QString>
+class QByteArray;
+class QString;
 
 namespace dxftest
 {

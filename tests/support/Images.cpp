@@ -5,6 +5,7 @@
 #include "tests/support/Printers.h"
 
 #include <QColor>
+#include <QImage>
 
 #include <algorithm>
 #include <cstdlib>

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QImage>
+class QImage;
 
 namespace dxftest
 {

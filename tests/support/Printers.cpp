@@ -2,7 +2,16 @@
 
 #include "tests/support/Printers.h"
 
+#include <QByteArray>
+#include <QColor>
 #include <QDebug>
+#include <QLineF>
+#include <QPen>
+#include <QPoint>
+#include <QPointF>
+#include <QRect>
+#include <QRectF>
+#include <QString>
 
 #include <limits>
 #include <ostream>

@@ -2,13 +2,7 @@
 
 #pragma once
 
-#include <QByteArray>
-#include <QColor>
-#include <QLineF>
-#include <QPen>
-#include <QPointF>
-#include <QRectF>
-#include <QString>
+#include <QtGlobal>
 
 #include <iosfwd>
 
@@ -16,6 +10,16 @@
 // that two different ones look different.
 
 QT_BEGIN_NAMESPACE
+class QByteArray;
+class QColor;
+class QLineF;
+class QPen;
+class QPoint;
+class QPointF;
+class QRect;
+class QRectF;
+class QString;
+
 void PrintTo(const QString& text, std::ostream* out);
 void PrintTo(const QByteArray& bytes, std::ostream* out);
 void PrintTo(const QColor& color, std::ostream* out);

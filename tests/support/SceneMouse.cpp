@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QGraphicsView>
 #include <QMouseEvent>
+#include <QPoint>
+#include <QPointF>
 #include <QWheelEvent>
 
 namespace dxftest

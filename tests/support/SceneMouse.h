@@ -3,12 +3,11 @@
 #pragma once
 
 #include <QEvent>
-#include <QPoint>
-#include <QPointF>
 #include <QVector>
 #include <Qt>
 
 class QGraphicsView;
+class QPointF;
 
 namespace dxftest
 {

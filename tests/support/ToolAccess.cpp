@@ -2,6 +2,11 @@
 
 #include "tests/support/ToolAccess.h"
 
+#include "dxfviewer/edit/DXFEditor.h"
+#include "dxfviewer/edit/ISelectionTool.h"
+
+#include <QPointer>
+
 namespace dxftest
 {
 

@@ -2,9 +2,8 @@
 
 #pragma once
 
-#include "dxfviewer/edit/DXFEditor.h"
-
-#include <QPointer>
+class DXFEditor;
+class ISelectionTool;
 
 namespace dxftest
 {

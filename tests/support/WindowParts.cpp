@@ -10,7 +10,9 @@
 #include "dxfviewer/viewer/View.h"
 
 #include <QAction>
+#include <QByteArray>
 #include <QGraphicsScene>
+#include <QString>
 #include <QTest>
 #include <QToolBar>
 

@@ -2,10 +2,8 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QPointF>
 #include <QSharedPointer>
-#include <QString>
 #include <QVector>
 
 class DXFDocument;
@@ -13,7 +11,9 @@ class DXFEditor;
 class DXFGraphicsItem;
 class DXFViewer;
 class QAction;
+class QByteArray;
 class QGraphicsScene;
+class QString;
 class QToolBar;
 class View;
 

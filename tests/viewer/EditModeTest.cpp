@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include "dxfviewer/edit/DXFEditor.h"
+#include "dxfviewer/edit/ISelectionTool.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/render/DXFGraphicsItem.h"
 #include "dxfviewer/viewer/DXFViewer.h"
