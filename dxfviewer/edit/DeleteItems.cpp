@@ -4,7 +4,7 @@
 
 #include "dxfviewer/edit/Snapshot.h"
 #include "dxfviewer/model/DXFDocument.h"
-#include "dxfviewer/model/EntityWalk.h"
+#include "dxfviewer/model/DocumentAccess.h"
 #include "dxfviewer/model/IdSet.h"
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/PolylineState.h"
@@ -19,9 +19,11 @@
 #include <vector>
 
 using dxfviewer::asPolyline;
-using dxfviewer::forEachEntity;
+using dxfviewer::DocumentAccess;
+using dxfviewer::EntitySummaries;
 using dxfviewer::IdSet;
 using dxfviewer::PolylineAccess;
+using dxfviewer::PolylineSummary;
 using dxfviewer::Snapshot;
 
 namespace
@@ -67,15 +69,6 @@ void giveSegmentsAgain(DXFPolyline& polyline)
         state->noteSegmentsGivenAgain(polyline);
 }
 
-/// Whether a deletion certainly leaves an entity as it is.
-bool isUntouched(const QSharedPointer<DXFEntity>& entity, const IdSet& deleted)
-{
-    const DXFPolyline* polyline = asPolyline(entity);
-    return !polyline
-           || (PolylineAccess::isMadeOfItsSegments(*polyline)
-               && !PolylineAccess::mayHaveAny(*polyline, deleted));
-}
-
 } // namespace
 
 /// Consecutive segments that a deletion leaves.
@@ -97,9 +90,11 @@ void DeleteItems::redo()
 {
     if (!m_document)
         return;
-    const std::vector<int> touched = takeSnapshot(m_document->entities());
+    auto summaries = DocumentAccess::summaries(*m_document);
+    m_snapshot->take(m_document->entities(), *summaries);
 
     EntityList entities = m_document->entities();
+    const std::vector<int> touched = placesToCut(*summaries);
     std::vector<int> erased;
     const EntityList added = cutAll(entities, touched, erased);
     // Erased entities are destroyed when the list is complete: the destructor of a host's own
@@ -107,16 +102,23 @@ void DeleteItems::redo()
     EntityList gone;
     for (const int place : erased)
         gone.append(entities.at(place));
-    if (entities.isSharedWith(m_document->m_entities)) {
+    EntityList& remaining = DocumentAccess::entities(*m_document);
+    // Somebody who walks over the document now needs the summaries as they are.
+    const bool canTakeIn = !m_snapshot->hasHostsClones() && summaries.use_count() == 1;
+    if (canTakeIn)
+        summaries->takeInDeletion(entities, touched, erased, added);
+    if (entities.isSharedWith(remaining)) {
         // Released before the list is changed: otherwise the change would copy it.
         entities = EntityList();
-        remove(erased, m_document->m_entities);
+        remove(erased, remaining);
     } else {
         // A host's own polyline has changed the list when it was cloned.
         for (const auto& entity : qAsConst(gone))
             m_document->deleteEntity(entity);
     }
-    m_document->m_entities += added;
+    remaining += added;
+    if (canTakeIn)
+        DocumentAccess::setSummaries(*m_document, std::move(summaries));
 }
 
 void DeleteItems::undo()
@@ -124,7 +126,7 @@ void DeleteItems::undo()
     if (!m_document)
         return;
 
-    m_snapshot->restore(m_document->m_entities);
+    m_snapshot->restore(DocumentAccess::entities(*m_document));
 }
 
 void DeleteItems::splitPoly(QSharedPointer<DXFPolyline> const& polyline)
@@ -168,27 +170,27 @@ QVector<DeleteItems::Run> DeleteItems::survivingRuns(const QVector<Segment>& seg
     return runs;
 }
 
-/// Returns the places of the entities that the deletion may touch.
-std::vector<int> DeleteItems::takeSnapshot(const EntityList& entities)
+/// The places of the entities that the deletion may change.
+std::vector<int> DeleteItems::placesToCut(EntitySummaries& summaries) const
 {
-    const IdSet deleted(m_ids);
-    std::vector<int> touched;
-    int place = 0;
-    m_snapshot->begin(static_cast<int>(entities.size()));
-    const auto add = [&](const QSharedPointer<DXFEntity>& entity) {
-        m_snapshot->add(entity);
-        if (!isUntouched(entity, deleted))
-            touched.push_back(place);
-        ++place;
-    };
-    forEachEntity(entities, add, &Snapshot::announce);
-    m_snapshot->end();
-
+    std::vector<int> places;
     if (m_snapshot->hasHostsClones()) {
-        touched.resize(static_cast<std::size_t>(m_document->m_entities.size()));
-        std::iota(touched.begin(), touched.end(), 0);
+        places.resize(static_cast<std::size_t>(m_document->entities().size()));
+        std::iota(places.begin(), places.end(), 0);
+        return places;
     }
-    return touched;
+    const IdSet deleted(m_ids);
+    int place = 0;
+    for (const auto& block : summaries.blocks()) {
+        for (const PolylineSummary& polyline : block.polylines) {
+            if (!polyline.isMadeOfItsSegments || polyline.mayHaveAny(deleted))
+                places.push_back(place);
+            ++place;
+        }
+        // Without summaries these are null.
+        place += block.count - static_cast<int>(block.polylines.size());
+    }
+    return places;
 }
 
 /// Cuts the deleted segments out of the polylines at some places. Returns the pieces that are to be

@@ -20,6 +20,7 @@ class DXFPolyline;
 
 namespace dxfviewer
 {
+class EntitySummaries;
 class IdSet;
 class Snapshot;
 } // namespace dxfviewer
@@ -56,7 +57,7 @@ private:
 
     struct Run;
 
-    std::vector<int> takeSnapshot(const EntityList& entities);
+    std::vector<int> placesToCut(dxfviewer::EntitySummaries& summaries) const;
     EntityList cutAll(const EntityList& entities, const std::vector<int>& places,
                       std::vector<int>& erased);
     bool cut(DXFPolyline& polyline, const dxfviewer::IdSet& deleted, PiecesByOrigin& formerPieces,

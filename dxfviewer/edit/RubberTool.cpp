@@ -21,7 +21,9 @@
 #include <utility>
 
 using dxfviewer::asPolyline;
+using dxfviewer::EntityWalk;
 using dxfviewer::PolylineAccess;
+using dxfviewer::PolylineSummary;
 
 namespace
 {
@@ -122,7 +124,10 @@ QVector<int> RubberTool::itemsUnderMouse(QPointF pos) const
 
     const double radius = eraserRadiusPx / getViewScaleFactor();
     const Reach reach(pos, radius);
-    dxfviewer::forEachEntity(m_document->entities(), [&](const QSharedPointer<DXFEntity>& entity) {
+    const auto isConcerned = [&reach](const PolylineSummary& polyline) {
+        return !reach.isFarFrom(polyline.bounds);
+    };
+    EntityWalk(*m_document).look(isConcerned, [&](const QSharedPointer<DXFEntity>& entity) {
         const DXFPolyline* polyline = asPolyline(entity);
         if (!polyline || reach.isFarFrom(PolylineAccess::bounds(*polyline)))
             return;

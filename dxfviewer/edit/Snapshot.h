@@ -2,7 +2,8 @@
 
 #pragma once
 
-#include "dxfviewer/model/PolylineState.h"
+#include "dxfviewer/model/EntitySummaries.h"
+#include "dxfviewer/model/PolylineStates.h"
 
 #include <QList>
 #include <QSharedPointer>
@@ -16,8 +17,8 @@ namespace dxfviewer
  * Clones of all entities of a document, in the order of the ids of their originals.
  *
  * Each clone gets its id, the next of the counter, at the moment of the snapshot. But the clones of
- * plain polylines are made only when they are needed. Until then the snapshot holds a state, which
- * the snapshots of several commands share as long as the polyline does not change.
+ * plain polylines are made only when they are needed. Until then the snapshot holds their states,
+ * which the snapshots of several commands share as long as the polylines do not change.
  */
 class Snapshot
 {
@@ -27,13 +28,9 @@ public:
     Snapshot();
     ~Snapshot();
 
-    /// Forgets what was taken before and makes room for so many entities.
-    void begin(int count);
-    /// Takes the next entity, in the document's order.
-    void add(const QSharedPointer<DXFEntity>& entity);
-    /// Says that an entity is about to be added.
-    static void announce(const QSharedPointer<DXFEntity>& entity);
-    void end();
+    /// Takes all entities of a list, whose summaries are current, and forgets what was taken
+    /// before.
+    void take(const EntityList& entities, EntitySummaries& summaries);
 
     /// Whether hosts' own code has made some of the clones. It may have changed the document too.
     bool hasHostsClones() const { return m_hasHostsClones; }
@@ -44,21 +41,31 @@ public:
 private:
     Q_DISABLE_COPY(Snapshot)
 
-    /// A plain polyline has a state. The clone of any other entity stands among the other clones.
-    struct Entry {
-        PolylineState::Pointer state;
-        int key;
-        // The clone's id, negative if it gets its segments given again. Without a state, the
-        // place of the clone among the others.
-        int idOrPlace;
+    using Block = EntitySummaries::Block;
+
+    /// Either neighbouring plain polylines, or one other entity.
+    struct Part {
+        PolylineStates::Pointer states;
+        /// The id of the first clone.
+        int firstCloneId;
+        QSharedPointer<DXFEntity> otherClone;
+        int otherId;
     };
 
-    static Entry entryOf(DXFPolyline& polyline);
-    Entry entryOf(const QSharedPointer<DXFEntity>& entity);
-    QSharedPointer<DXFEntity> cloneOf(const Entry& entry) const;
+    /// A clone to be made, and the id of its original.
+    struct Place {
+        int id;
+        const Part* part;
+        std::size_t index;
+    };
 
-    std::vector<Entry> m_entries;
-    std::vector<QSharedPointer<DXFEntity>> m_otherClones;
+    void addPlain(const EntityList& entities, int first, Block& block, bool isCurrent);
+    void addOther(const QSharedPointer<DXFEntity>& entity);
+    std::vector<Place> placesInOrder() const;
+    static QSharedPointer<DXFEntity> cloneOf(const Place& place);
+
+    std::vector<Part> m_parts;
+    int m_nullEntities = 0;
     bool m_hasHostsClones = false;
 };
 

@@ -12,9 +12,10 @@
 #include "dxfviewer/render/DXFPaintHelper.h"
 
 using dxfviewer::asPolyline;
-using dxfviewer::forEachEntity;
+using dxfviewer::EntityWalk;
 using dxfviewer::IdSet;
 using dxfviewer::PolylineAccess;
+using dxfviewer::PolylineSummary;
 
 namespace
 {
@@ -59,19 +60,25 @@ bool DXFDocument::addLineType(QSharedPointer<DXFLineType> lineType)
 bool DXFDocument::addEntity(QSharedPointer<DXFEntity> entity)
 {
     m_entities.append(entity);
+    m_summaries.reset();
     return true;
 }
 
 bool DXFDocument::deleteEntity(QSharedPointer<DXFEntity> entity)
 {
     m_entities.removeAll(entity);
+    m_summaries.reset();
     return true;
 }
 
 void DXFDocument::setSelected(QVector<int> ids)
 {
     const IdSet set(ids);
-    forEachEntity(m_entities, [&set](const QSharedPointer<DXFEntity>& entity) {
+    const auto isConcerned = [&set](const PolylineSummary& polyline) {
+        return !polyline.hasAllIds() || polyline.isSelected || polyline.isAnySegmentSelected
+               || set.contains(polyline.id) || polyline.mayHaveAny(set);
+    };
+    EntityWalk(*this).change(isConcerned, [&set](const QSharedPointer<DXFEntity>& entity) {
         if (!entity)
             return;
         // Written only where it changes: a walk that only reads memory is cheaper.
@@ -86,7 +93,11 @@ void DXFDocument::setSelected(QVector<int> ids)
 void DXFDocument::setHovered(QVector<int> ids)
 {
     const IdSet set(ids);
-    forEachEntity(m_entities, [&set](const QSharedPointer<DXFEntity>& entity) {
+    const auto isConcerned = [&set](const PolylineSummary& polyline) {
+        return !polyline.hasAllIds() || polyline.isHovered || polyline.isAnySegmentHovered
+               || set.contains(polyline.id) || polyline.mayHaveAny(set);
+    };
+    EntityWalk(*this).change(isConcerned, [&set](const QSharedPointer<DXFEntity>& entity) {
         if (!entity)
             return;
         const bool isHovered = set.contains(entity->id());
@@ -100,7 +111,10 @@ void DXFDocument::setHovered(QVector<int> ids)
 QVector<int> DXFDocument::selectedIDs() const
 {
     QVector<int> ids;
-    forEachEntity(m_entities, [&ids](const QSharedPointer<DXFEntity>& entity) {
+    const auto isConcerned = [](const PolylineSummary& polyline) {
+        return polyline.isSelected || polyline.isAnySegmentSelected;
+    };
+    EntityWalk(*this).look(isConcerned, [&ids](const QSharedPointer<DXFEntity>& entity) {
         const DXFPolyline* polyline = asPolyline(entity);
         if (!polyline)
             return;

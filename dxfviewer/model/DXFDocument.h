@@ -11,10 +11,17 @@
 #include <QString>
 #include <QVector>
 
+#include <memory>
+
 class DXFEntity;
 class DXFLayer;
 class DXFLineType;
-class DeleteItems;
+
+namespace dxfviewer
+{
+class DocumentAccess;
+class EntitySummaries;
+} // namespace dxfviewer
 
 /**
  * A drawing in memory: its layers, its line types and its entities, each in the order of arrival.
@@ -78,13 +85,13 @@ public:
 private:
     Q_DISABLE_COPY(DXFDocument)
 
-    // A delete command changes the whole list of entities in one step. One entity at a time would
-    // take quadratic time.
-    friend class DeleteItems;
+    friend class dxfviewer::DocumentAccess;
 
     QList<QSharedPointer<DXFLayer>> m_layers;
     QList<QSharedPointer<DXFLineType>> m_lineTypes;
     QList<QSharedPointer<DXFEntity>> m_entities;
+    // Made by the first walk that needs it, and used as long as it is current.
+    mutable std::shared_ptr<dxfviewer::EntitySummaries> m_summaries;
     bool m_needsSetup = true;
     // The same objects by the name that each had when it was added.
     QHash<QString, QSharedPointer<DXFLayer>> m_layersByName;

@@ -38,11 +38,11 @@ public:
 
     /// Colour to paint with; invalid until DXFDocument::setup() has resolved it.
     QColor color() const { return m_color; }
-    void setColor(QColor color) { m_color = color; }
+    void setColor(QColor color);
 
     /// Pen width in device pixels, 0 or 1 when resolved by DXFDocument::setup().
     int lineWidth() const { return m_lineWidth; }
-    void setLineWidth(int lineWidth) { m_lineWidth = lineWidth; }
+    void setLineWidth(int lineWidth);
 
     /// What the file says about the entity. May be null; other entities may share it.
     QSharedPointer<DXFAttributes> attributes() const { return m_attributes; }

@@ -2,6 +2,7 @@
 
 #include "dxfviewer/model/DXFPolyline.h"
 
+#include "dxfviewer/model/Changes.h"
 #include "dxfviewer/model/IdSet.h"
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/PolylineState.h"
@@ -11,6 +12,7 @@
 #include <iterator>
 #include <limits>
 
+using dxfviewer::Changes;
 using dxfviewer::IdSet;
 using dxfviewer::PolylineAccess;
 
@@ -255,6 +257,7 @@ DXFPolyline& DXFPolyline::operator=(const DXFPolyline& other)
     m_ownLineWidth = other.m_ownLineWidth;
     if (m_areVerticesKnown)
         m_geometry.keepVertices();
+    Changes::note();
     return *this;
 }
 
@@ -297,6 +300,7 @@ void DXFPolyline::setup()
         vertices = QVector<DXFVertex>();
     else
         vertices.squeeze();
+    Changes::note();
 }
 
 QVector<Segment> DXFPolyline::newSegments(bool getsClosed) const
@@ -346,6 +350,9 @@ void DXFPolyline::appendPoint(const DXFVertex& vertex)
     if (m_geometry.vertices.isEmpty())
         m_geometry.vertices.reserve(firstVertices);
     m_geometry.vertices.append(vertex);
+    // Until there is a state to compare with, nobody has looked at the vertices.
+    if (m_state)
+        Changes::note();
 }
 
 /// Whether setSegments() was called with this very list before and nothing has changed since.
@@ -362,6 +369,7 @@ void DXFPolyline::setSegments(const QVector<Segment>& segments)
     if (isMadeOf(segments))
         return;
 
+    Changes::note();
     const bool isSameList = segments.isSharedWith(m_geometry.segments);
     m_geometry.mVertices = 0;
     m_geometry.nVertices = 0;
@@ -400,6 +408,7 @@ void DXFPolyline::takeSegmentIdsFrom(const QVector<Segment>& segments)
     }
     m_geometry.segments = renamed;
     m_geometry.summarize();
+    Changes::note();
 }
 
 void DXFPolyline::setSelectedSegments(QVector<int> ids)
@@ -419,6 +428,7 @@ void DXFPolyline::assignIds()
     for (const Segment& segment : m_geometry.segments)
         segment.id();
     m_geometry.summarize();
+    Changes::note();
 }
 
 void DXFPolyline::selectSegments(const IdSet& ids)

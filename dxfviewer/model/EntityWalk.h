@@ -2,59 +2,96 @@
 
 #pragma once
 
-#include <QList>
-#include <QSharedPointer>
+#include "dxfviewer/model/DocumentAccess.h"
+#include "dxfviewer/model/EntityVisits.h"
+#include "dxfviewer/model/Polylines.h"
 
-class DXFEntity;
+#include <algorithm>
+#include <array>
 
 namespace dxfviewer
 {
 
-/// Asks the processor to fetch memory that will be read soon.
-inline void prefetch(const void* address)
-{
-    // Entities may be null.
-    if (!address)
-        return;
-#ifdef __GNUC__
-    __builtin_prefetch(address);
-    __builtin_prefetch(static_cast<const char*>(address) + 64);
-#else
-    Q_UNUSED(address)
-#endif
-}
-
 /**
- * Visits all entries of a list of entities, null ones included, in order.
+ * One walk over all entities of a document, in order.
  *
- * Entities lie scattered in memory. In a large drawing a walk would wait for each of them, so it
- * asks for the next ones ahead of time. approach() is called with an entity eight visits before the
- * entity is visited. It is not called for the first eight.
+ * It visits those of which their summary says that they may be concerned, and all of which nothing
+ * is known. Code of a host that a visit calls may change whatever it likes. From then on every
+ * entity is visited.
  */
-template <typename Visit, typename Approach>
-void forEachEntity(const QList<QSharedPointer<DXFEntity>>& entities, Visit visit, Approach approach)
+class EntityWalk
 {
-    constexpr int approached = 8;
-    constexpr int asked = 16;
-    constexpr int located = 32;
-    const auto begin = entities.cbegin();
-    const auto count = entities.size();
-    using Index = decltype(entities.size());
-    for (Index i = 0; i < count; ++i) {
-        if (i + located < count)
-            prefetch(&*(begin + (i + located)));
-        if (i + asked < count)
-            prefetch((begin + (i + asked))->data());
-        if (i + approached < count)
-            approach(*(begin + (i + approached)));
-        visit(*(begin + i));
-    }
-}
+public:
+    using Entity = QSharedPointer<DXFEntity>;
 
-template <typename Visit>
-void forEachEntity(const QList<QSharedPointer<DXFEntity>>& entities, Visit visit)
-{
-    forEachEntity(entities, visit, [](const QSharedPointer<DXFEntity>&) {});
-}
+    explicit EntityWalk(const DXFDocument& document)
+        : m_entities(document.entities())
+        , m_summaries(DocumentAccess::summaries(document))
+    {
+    }
+
+    /// For visits that change nothing themselves.
+    template <typename IsConcerned, typename Visit>
+    void look(IsConcerned isConcerned, Visit visit)
+    {
+        walk(isConcerned, visit, [](Block&, int, const Entity&) {});
+    }
+
+    /// For visits that may change the entity that they visit.
+    template <typename IsConcerned, typename Visit>
+    void change(IsConcerned isConcerned, Visit visit)
+    {
+        walk(isConcerned, visit, [this](Block& block, int place, const Entity& entity) {
+            if (block.isPlain())
+                m_summaries->takeIn(block, place, *asPlainPolyline(entity.data()));
+        });
+    }
+
+private:
+    using Block = EntitySummaries::Block;
+
+    template <typename IsConcerned, typename Visit, typename Note>
+    void walk(IsConcerned isConcerned, Visit visit, Note note)
+    {
+        int first = 0;
+        for (Block& block : m_summaries->blocks()) {
+            const int next = visitBlock(block, first, isConcerned, visit, note);
+            if (!m_summaries->areCurrent()) {
+                std::for_each(m_entities.cbegin() + next, m_entities.cend(), visit);
+                return;
+            }
+            first = next;
+        }
+    }
+
+    /// Visits the entities of a block that are concerned, and returns where to go on: behind the
+    /// block or, if the summaries are out of date, behind the last visited entity.
+    template <typename IsConcerned, typename Visit, typename Note>
+    int visitBlock(Block& block, int first, IsConcerned isConcerned, Visit visit, Note note)
+    {
+        std::array<int, Block::mostEntities> concerned;
+        int count = 0;
+        for (int i = 0; i < block.count; ++i) {
+            if (!block.isPlain() || isConcerned(block.polylines[static_cast<std::size_t>(i)]))
+                concerned[static_cast<std::size_t>(count++)] = i;
+        }
+        const auto placeOf = [&](int n) {
+            return first + concerned[static_cast<std::size_t>(n)];
+        };
+        int visited = 0;
+        const auto visitOne = [&](const Entity& entity) {
+            visit(entity);
+            note(block, placeOf(visited) - first, entity);
+            ++visited;
+            return m_summaries->areCurrent();
+        };
+        visitEntities(m_entities, count, placeOf, visitOne, [](const Entity&) {});
+        return m_summaries->areCurrent() ? first + block.count : placeOf(visited - 1) + 1;
+    }
+
+    // Copies: a visit may change the document.
+    QList<Entity> m_entities;
+    DocumentAccess::Summaries m_summaries;
+};
 
 } // namespace dxfviewer

@@ -22,7 +22,7 @@ class DXFVIEWER_EXPORT IDeletable
 public:
     IDeletable() = default;
     IDeletable(const IDeletable&) = default;
-    IDeletable& operator=(const IDeletable&) = default;
+    IDeletable& operator=(const IDeletable& other);
     virtual ~IDeletable() = default;
 
     /// The object's id, at least 1. The first call assigns the counter's next value.
@@ -32,10 +32,10 @@ public:
     int regenerateID();
 
     bool isSelected() const { return m_selected; }
-    void setSelected(bool selected) { m_selected = selected; }
+    void setSelected(bool selected) { setFlag(m_selected, selected); }
 
     bool isHovered() const { return m_hovered; }
-    void setHovered(bool hovered) { m_hovered = hovered; }
+    void setHovered(bool hovered) { setFlag(m_hovered, hovered); }
 
 private:
     friend class dxfviewer::PolylineAccess;
@@ -43,6 +43,15 @@ private:
     static constexpr qint32 unassigned = -1;
 
     int assignId() const;
+    static void noteChange();
+
+    static void setFlag(bool& flag, bool value)
+    {
+        if (flag == value)
+            return;
+        flag = value;
+        noteChange();
+    }
 
     bool m_selected = false;
     bool m_hovered = false;

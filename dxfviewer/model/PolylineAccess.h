@@ -96,6 +96,7 @@ public:
 
     /// The id of an object. If it has none yet, the result is smaller than every id.
     static int assignedId(const IDeletable& object) { return object.m_id; }
+    static bool isAssigned(int id) { return id != IDeletable::unassigned; }
     static void setId(IDeletable& object, int id) { object.m_id = id; }
 
     /// What a clone shares with the polyline. It may lack vertices that follow from the segments.

@@ -66,7 +66,7 @@ void PolylineState::noteSegmentsGivenAgain(const DXFPolyline& polyline)
         m_flagsGivenAgain = polyline.flags();
 }
 
-QSharedPointer<DXFPolyline> PolylineState::clone(int id, bool areSegmentsGivenAgain)
+QSharedPointer<DXFPolyline> PolylineState::clone(int id, bool areSegmentsGivenAgain, bool isShared)
 {
     auto copy = QSharedPointer<DXFPolyline>::create(0U, 0U, 0U);
     PolylineAccess::setId(*copy, id);
@@ -86,7 +86,7 @@ QSharedPointer<DXFPolyline> PolylineState::clone(int id, bool areSegmentsGivenAg
         geometry.nVertices = 0;
         geometry.vertices = verticesGivenAgain();
     }
-    if (ref.loadRelaxed() > 1)
+    if (isShared)
         attachTo(*copy);
     return copy;
 }

@@ -42,7 +42,8 @@ public:
     void noteSegmentsGivenAgain(const DXFPolyline& polyline);
 
     /// A new polyline in this state and, if asked for, with its segments given again.
-    QSharedPointer<DXFPolyline> clone(int id, bool areSegmentsGivenAgain);
+    /// If another snapshot holds the state as well, the new polyline points at it.
+    QSharedPointer<DXFPolyline> clone(int id, bool areSegmentsGivenAgain, bool isShared);
 
     /// Called when the polyline is destroyed or another state takes its place.
     void forgetPolyline() { m_polyline = nullptr; }

@@ -6,6 +6,8 @@
 
 #include <QSharedPointer>
 
+#include <typeinfo>
+
 namespace dxfviewer
 {
 
@@ -18,6 +20,20 @@ constexpr int unknownType = -1;
 inline DXFPolyline* asPolyline(DXFEntity* entity)
 {
     return entity && entity->type() == polylineType ? static_cast<DXFPolyline*>(entity) : nullptr;
+}
+
+/// The entity if it is a polyline and not of a subclass; else null. What a subclass holds and does
+/// is its own.
+inline const DXFPolyline* asPlainPolyline(const DXFEntity* entity)
+{
+    return entity && typeid(*entity) == typeid(DXFPolyline)
+               ? static_cast<const DXFPolyline*>(entity)
+               : nullptr;
+}
+
+inline DXFPolyline* asPlainPolyline(DXFEntity* entity)
+{
+    return const_cast<DXFPolyline*>(asPlainPolyline(static_cast<const DXFEntity*>(entity)));
 }
 
 inline DXFPolyline* asPolyline(const QSharedPointer<DXFEntity>& entity)

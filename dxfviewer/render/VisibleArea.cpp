@@ -118,6 +118,7 @@ void VisibleArea::setNewCosmeticPen(int width)
 void VisibleArea::setReach(double reach, bool isThin)
 {
     const double margin = reach + softEdge;
+    m_isThin = isThin;
     const double far = isThin && m_drawsThinLinesExactly ? trustedForThinLines : trustedForOutlines;
     m_trusted = {-far, -far, far, far};
     m_visible = {m_area.left() - margin, m_area.top() - margin, m_area.right() + margin,

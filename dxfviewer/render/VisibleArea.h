@@ -41,6 +41,20 @@ public:
     /// single lines in the bounds: nothing may be known about their place.
     Part visiblePart(const PolylineAccess::Bounds& bounds) const;
 
+    /// Whether nothing in the bounds is visible, as visiblePart() says. Most polylines of a large
+    /// drawing are asked only this.
+    bool hides(const PolylineAccess::Bounds& bounds) const
+    {
+        if (!m_isKnown || !m_isUpright)
+            return visiblePart(bounds) == Part::None;
+        // Without branches: where the next polyline lies cannot be foreseen.
+        return areWithin(bounds, m_trustedInDrawing) && areBeside(bounds, m_visibleInDrawing);
+    }
+
+    /// Whether the painter draws lines with the current pen one by one, even if it is given several
+    /// at once. Others may unite them into one outline, which shows where lines cross.
+    bool drawsLinesOneByOne() const { return m_drawsThinLinesExactly && m_isThin; }
+
     /// Whether a line is not visible. Only for lines in bounds for which visiblePart() is Some.
     bool hides(const QLineF& line) const;
 
@@ -52,6 +66,19 @@ private:
         double right = 0.0;
         double bottom = 0.0;
     };
+
+    static bool areWithin(const PolylineAccess::Bounds& bounds, const Sides& sides)
+    {
+        return ((bounds.left > sides.left) & (bounds.right < sides.right) & (bounds.top > sides.top)
+                & (bounds.bottom < sides.bottom))
+               != 0;
+    }
+    static bool areBeside(const PolylineAccess::Bounds& bounds, const Sides& sides)
+    {
+        return ((bounds.right < sides.left) | (bounds.left > sides.right)
+                | (bounds.bottom < sides.top) | (bounds.top > sides.bottom))
+               != 0;
+    }
 
     void setTransform(const QTransform& toDevice);
     Sides toDrawing(const Sides& device) const;
@@ -76,6 +103,7 @@ private:
 
     // The width that setCosmeticPen() has set; -1 after setPen().
     int m_cosmeticWidth = -1;
+    bool m_isThin = false;
     // For the current pen: the area in which lines are judged, and the visible area with the pen's
     // reach around it.
     Sides m_trusted;
