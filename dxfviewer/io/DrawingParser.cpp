@@ -6,7 +6,6 @@
 #include "dxfviewer/io/File.h"
 #include "dxfviewer/io/GroupScan.h"
 #include "dxfviewer/io/IReadingSteps.h"
-#include "dxfviewer/io/TextCheck.h"
 #include "dxfviewer/io/TextRepair.h"
 #include "dxfviewer/io/WorkMeter.h"
 
@@ -169,13 +168,8 @@ private:
 
 void parse(std::string_view text, DL_CreationInterface& receiver)
 {
-    IReadingSteps* steps = stepsOf(receiver);
-    std::string repairedText;
-    if (!dxfviewer::isSound(text, steps)) {
-        repairedText = dxfviewer::repaired(text, steps);
-        text = repairedText;
-    }
-    GroupFeed(receiver).add(text);
+    const auto repaired = dxfviewer::repaired(text, stepsOf(receiver));
+    GroupFeed(receiver).add(repaired ? *repaired : text);
 }
 
 /// The text that the receiver wants to be read in place of these bytes, if there is one.

@@ -87,25 +87,6 @@ void RecordCounts::beginRecord(std::string_view kind)
     }
 }
 
-void RecordCounts::endRecord()
-{
-    for (AnnouncedCount& count : *this)
-        count.endRecord(count.count());
-}
-
-bool RecordCounts::isSound() const
-{
-    return (!m_currentLoops || m_currentLoops->isSound())
-           && std::all_of(begin(), end(),
-                          [](const AnnouncedCount& count) { return count.isSound(); });
-}
-
-bool RecordCounts::isSoundWithoutEnd() const
-{
-    return std::all_of(begin(), end(),
-                       [](const AnnouncedCount& count) { return count.isSoundWithoutEnd(); });
-}
-
 void RecordCounts::select(std::size_t first, std::size_t last)
 {
     m_begin = m_counts.data() + first;

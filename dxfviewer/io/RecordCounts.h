@@ -45,8 +45,6 @@ public:
     /// The announced count, lowered to the number of items; that number if nothing is announced.
     int soundCount() const;
     bool isSound() const;
-    /// The same for a record without an end: dxflib never delivers it.
-    bool isSoundWithoutEnd() const { return !m_announced || isSound(); }
 
     /// Takes note that dxflib has read the record with this count.
     void endRecord(int count) { m_carried = count; }
@@ -90,14 +88,6 @@ public:
     void beginRecord(std::string_view kind);
     /// Takes note of a group of the record. Returns the count that it announces; null if none.
     AnnouncedCount* addGroup(int code, std::string_view value);
-    /// dxflib has read the record as it is.
-    void endRecord();
-
-    /// Whether dxflib can be given the record.
-    bool isSound() const;
-    /// The same for a record that is not ended.
-    bool isSoundWithoutEnd() const;
-
     /// The counts of the record.
     AnnouncedCount* begin() const { return m_begin; }
     AnnouncedCount* end() const { return m_end; }
