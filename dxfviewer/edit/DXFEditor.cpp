@@ -3,6 +3,7 @@
 #include "dxfviewer/edit/DXFEditor.h"
 
 #include "dxfviewer/edit/DeleteItems.h"
+#include "dxfviewer/edit/ISelectionTool.h"
 #include "dxfviewer/edit/RubberTool.h"
 #include "dxfviewer/model/DXFDocument.h"
 #include "dxfviewer/render/DXFGraphicsItem.h"
@@ -11,6 +12,7 @@
 #include <QDebug>
 #include <QGraphicsScene>
 #include <QPainter>
+#include <QRectF>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 

@@ -3,16 +3,16 @@
 #pragma once
 
 #include "dxfviewer/dxfviewer_export.h"
-#include "dxfviewer/edit/ISelectionTool.h"
 
 #include <QGraphicsObject>
 #include <QPointer>
-#include <QRectF>
 #include <QUndoStack>
 
 #include <memory>
 
 class DXFGraphicsItem;
+class ISelectionTool;
+class QRectF;
 
 /**
  * Edit mode: an overlay that hands the events of a scene to the eraser and turns its requests into

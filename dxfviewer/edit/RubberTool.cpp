@@ -14,6 +14,8 @@
 #include <QGraphicsSceneHoverEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
+#include <QLineF>
+#include <QPointF>
 #include <QPointer>
 
 #include <algorithm>

@@ -13,6 +13,7 @@
 class DXFDocument;
 class QGraphicsEllipseItem;
 class QGraphicsSceneMouseEvent;
+class QPointF;
 
 /**
  * The eraser: a round tool that selects segments while it is moved over them with the left button

@@ -2,6 +2,9 @@
 
 #include "dxfviewer/edit/SegmentGeometry.h"
 
+#include <QLineF>
+#include <QPointF>
+
 #include <cmath>
 
 namespace

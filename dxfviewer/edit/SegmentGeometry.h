@@ -4,8 +4,8 @@
 
 #include "dxfviewer/dxfviewer_export.h"
 
-#include <QLineF>
-#include <QPointF>
+class QLineF;
+class QPointF;
 
 /**
  * The foot of the perpendicular from p onto the infinite line through a and b.

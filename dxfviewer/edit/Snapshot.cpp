@@ -101,7 +101,7 @@ void Snapshot::take(const EntityList& entities, EntitySummaries& summaries)
     int first = 0;
     for (Block& block : summaries.blocks()) {
         if (block.isPlain())
-            addPlain(entities, first, block, summaries.areCurrent());
+            addPlain(entities, first, block);
         else
             std::for_each(entities.cbegin() + first, entities.cbegin() + first + block.count,
                           [this](const Entity& entity) { addOther(entity); });
@@ -109,10 +109,11 @@ void Snapshot::take(const EntityList& entities, EntitySummaries& summaries)
     }
 }
 
-/// Adds the polylines of a block. If nothing has changed them, their states are known.
-void Snapshot::addPlain(const EntityList& entities, int first, Block& block, bool isCurrent)
+/// Adds the polylines of a block. If nothing has changed them, their states are known. A host's
+/// clone() may change them, but then the block is not used again.
+void Snapshot::addPlain(const EntityList& entities, int first, Block& block)
 {
-    if (isCurrent && block.states) {
+    if (block.states) {
         const int firstCloneId = takeId();
         for (int taken = 1; taken < block.count; ++taken)
             takeId();
@@ -121,7 +122,7 @@ void Snapshot::addPlain(const EntityList& entities, int first, Block& block, boo
     }
     const StatesTaker taker(entities, first, block.count);
     m_parts.push_back({taker.states(), taker.firstCloneId(), {}, 0});
-    if (isCurrent && taker.canBeShared())
+    if (taker.canBeShared())
         block.states = taker.states();
 }
 

@@ -59,7 +59,7 @@ private:
         std::size_t index;
     };
 
-    void addPlain(const EntityList& entities, int first, Block& block, bool isCurrent);
+    void addPlain(const EntityList& entities, int first, Block& block);
     void addOther(const QSharedPointer<DXFEntity>& entity);
     std::vector<Place> placesInOrder() const;
     static QSharedPointer<DXFEntity> cloneOf(const Place& place);

@@ -4,7 +4,6 @@
 
 #include "dxfviewer/dxfviewer_export.h"
 
-#include <QByteArray>
 #include <QHash>
 #include <QList>
 #include <QSharedPointer>
@@ -16,6 +15,7 @@
 class DXFEntity;
 class DXFLayer;
 class DXFLineType;
+class QByteArray;
 
 namespace dxfviewer
 {

@@ -7,9 +7,9 @@
 
 #include <QColor>
 #include <QSharedPointer>
-#include <QString>
 
 class DXFAttributes;
+class QString;
 
 /**
  * Base of everything that a drawing's ENTITIES section holds.

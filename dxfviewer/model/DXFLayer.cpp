@@ -4,6 +4,8 @@
 
 #include "dxfviewer/model/DXFAttributes.h"
 
+#include <QColor>
+
 #include <utility>
 
 DXFLayer::DXFLayer(const QString& name, QFlags<DXFLayer::Flag> flags)

@@ -4,12 +4,12 @@
 
 #include "dxfviewer/dxfviewer_export.h"
 
-#include <QColor>
 #include <QFlags>
 #include <QSharedPointer>
 #include <QString>
 
 class DXFAttributes;
+class QColor;
 
 /// A record of the LAYER table: a name, state flags, and the attributes of what lies on it.
 class DXFVIEWER_EXPORT DXFLayer

@@ -7,6 +7,8 @@
 #include "dxfviewer/model/PolylineAccess.h"
 #include "dxfviewer/model/PolylineState.h"
 
+#include <QString>
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -408,7 +410,6 @@ void DXFPolyline::takeSegmentIdsFrom(const QVector<Segment>& segments)
     }
     m_geometry.segments = renamed;
     m_geometry.summarize();
-    Changes::note();
 }
 
 void DXFPolyline::setSelectedSegments(QVector<int> ids)
@@ -428,7 +429,6 @@ void DXFPolyline::assignIds()
     for (const Segment& segment : m_geometry.segments)
         segment.id();
     m_geometry.summarize();
-    Changes::note();
 }
 
 void DXFPolyline::selectSegments(const IdSet& ids)

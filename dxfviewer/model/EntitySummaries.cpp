@@ -167,7 +167,6 @@ void EntitySummaries::remove(const std::vector<int>& places)
         if (one.block->isPlain())
             polylines.erase(polylines.begin() + one.place);
         --one.block->count;
-        one.block->states.reset();
     });
     const auto isEmpty = [](const Block& block) {
         return block.count == 0;

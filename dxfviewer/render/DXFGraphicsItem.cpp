@@ -9,6 +9,7 @@
 
 #include <QDebug>
 #include <QPainter>
+#include <QPen>
 
 #include <algorithm>
 #include <cmath>

@@ -5,13 +5,13 @@
 #include "dxfviewer/dxfviewer_export.h"
 
 #include <QAbstractGraphicsShapeItem>
-#include <QPen>
 #include <QRectF>
 #include <QSharedPointer>
 
 #include <memory>
 
 class DXFDocument;
+class QPen;
 
 /**
  * Paints a whole document as one item of a graphics scene.

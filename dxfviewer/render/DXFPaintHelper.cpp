@@ -8,6 +8,7 @@
 #include "dxfviewer/model/DXFLayer.h"
 #include "dxfviewer/model/SpecialValues.h"
 
+#include <QColor>
 #include <QDebug>
 
 namespace

@@ -4,12 +4,12 @@
 
 #include "dxfviewer/dxfviewer_export.h"
 
-#include <QColor>
 #include <QSharedPointer>
 
 class DXFDocument;
 class DXFEntity;
 class DXFLayer;
+class QColor;
 
 /**
  * The colour on the screen of a DXF colour number (group 62) and true colour (group 420).

@@ -2,10 +2,12 @@
 
 #include "dxfviewer/render/VisibleArea.h"
 
+#include <QLineF>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPen>
+#include <QTransform>
 
 #include <algorithm>
 #include <array>

@@ -4,12 +4,12 @@
 
 #include "dxfviewer/model/PolylineAccess.h"
 
-#include <QLineF>
 #include <QRectF>
-#include <QTransform>
 
+class QLineF;
 class QPainter;
 class QPen;
+class QTransform;
 
 namespace dxfviewer
 {
