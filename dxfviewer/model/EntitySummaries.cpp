@@ -6,7 +6,6 @@
 #include "dxfviewer/model/Polylines.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace dxfviewer
 {
@@ -39,65 +38,21 @@ private:
     int m_first = 0;
 };
 
-/// The entities that a list holds more than once.
-std::vector<const DXFEntity*> listedAgain(const EntitySummaries::EntityList& entities)
-{
-    std::vector<const DXFEntity*> sorted;
-    for (const auto& entity : entities)
-        sorted.push_back(entity.data());
-    std::sort(sorted.begin(), sorted.end(), std::less<>());
-    std::vector<const DXFEntity*> again;
-    for (auto next = sorted.cbegin();
-         (next = std::adjacent_find(next, sorted.cend())) != sorted.cend(); ++next)
-        again.push_back(*next);
-    return again;
-}
-
-bool isAmong(const std::vector<const DXFEntity*>& sorted, const DXFEntity* entity)
-{
-    return std::binary_search(sorted.cbegin(), sorted.cend(), entity, std::less<>());
-}
-
 } // namespace
 
 EntitySummaries::EntitySummaries(const EntityList& entities)
     : m_moment(Changes::now())
 {
-    if (appendAll(entities, {}))
-        return;
-    // What is taken in for one entry of an entity would be missing in its others. So nothing is
-    // known of such an entity.
-    const auto again = listedAgain(entities);
-    if (again.empty())
-        return;
-    m_blocks.clear();
-    appendAll(entities, again);
-}
-
-/// Returns whether the order of the entities shows that none is listed again.
-bool EntitySummaries::appendAll(const EntityList& entities,
-                                const std::vector<const DXFEntity*>& unknown)
-{
-    int lastId = 0;
-    const DXFEntity* last = nullptr;
-    bool areIdsInOrder = true;
-    bool areAddressesInOrder = true;
-    const auto add = [&](const QSharedPointer<DXFEntity>& entity) {
-        const DXFPolyline* polyline = asPlainPolyline(entity.data());
-        append(polyline && !isAmong(unknown, polyline) ? polyline : nullptr);
-        if (!polyline)
-            return true;
-        const int id = PolylineAccess::assignedId(*polyline);
-        areIdsInOrder = areIdsInOrder && id > lastId;
-        areAddressesInOrder = areAddressesInOrder && std::less<>()(last, polyline);
-        lastId = id;
-        last = polyline;
+    const auto placeOf = [](int n) {
+        return n;
+    };
+    const auto add = [this](const QSharedPointer<DXFEntity>& entity) {
+        append(asPlainPolyline(entity.data()));
         return true;
     };
-    visitEntities(
-        entities, static_cast<int>(entities.size()), [](int n) { return n; }, add,
-        [](const QSharedPointer<DXFEntity>&) {});
-    return areIdsInOrder || areAddressesInOrder;
+    const auto approach = [](const QSharedPointer<DXFEntity>&) {
+    };
+    visitEntities(entities, static_cast<int>(entities.size()), placeOf, add, approach);
 }
 
 void EntitySummaries::append(const DXFPolyline* polyline)
@@ -121,8 +76,7 @@ EntitySummaries::Block& EntitySummaries::blockFor(bool isPlain)
 void EntitySummaries::takeIn(Block& block, int place, const DXFPolyline& polyline)
 {
     block.polylines[static_cast<std::size_t>(place)] = PolylineSummary(polyline);
-    if (areCurrent())
-        return;
+    // Even if nothing has changed now: the polyline may be listed twice.
     block.states.reset();
     m_moment = Changes::now();
 }

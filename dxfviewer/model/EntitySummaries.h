@@ -58,7 +58,6 @@ public:
                         const std::vector<int>& removed, const EntityList& added);
 
 private:
-    bool appendAll(const EntityList& entities, const std::vector<const DXFEntity*>& unknown);
     void append(const DXFPolyline* polyline);
     Block& blockFor(bool isPlain);
     void refresh(const EntityList& entities, const std::vector<int>& places);

@@ -41,6 +41,17 @@ DXFPolyline otherPolyline()
     return polyline;
 }
 
+IDeletable makeFlaggedObject()
+{
+    IDeletable object;
+    object.setSelected(true);
+    object.setHovered(true);
+    object.id();
+    return object;
+}
+
+const IDeletable flaggedObject = makeFlaggedObject();
+
 const HostChange hostChanges[] = {
     {"color",
      [](DXFPolyline& polyline) {
@@ -97,11 +108,7 @@ const HostChange hostChanges[] = {
      }},
     {"another object's id and flags",
      [](DXFPolyline& polyline) {
-         IDeletable other;
-         other.setSelected(true);
-         other.setHovered(true);
-         other.id();
-         static_cast<IDeletable&>(polyline) = other;
+         static_cast<IDeletable&>(polyline) = flaggedObject;
      }},
 };
 
@@ -159,7 +166,7 @@ protected:
     /// Erases the first segment of the last polyline.
     std::unique_ptr<DeleteItems> eraseOne()
     {
-        const DXFPolyline* last = polylinesOf(*document).constLast();
+        const DXFPolyline* last = polylinesOf(*document).at(polylineCount - 1);
         const int id = last->segments().constFirst().id();
         auto command = std::make_unique<DeleteItems>(document, QVector<int>{id});
         command->redo();
@@ -228,6 +235,20 @@ using StepsTest = HostChangesTest;
 
 TEST_F(StepsTest, ASelectionByTheDocumentIsInTheNextStep)
 {
+    const auto first = eraseOne();
+    const auto second = eraseOne();
+    document->setSelected(segmentIdsOf(changed()));
+    const QStringList before = stateOf(changed());
+
+    const auto third = eraseOne();
+    third->undo();
+
+    EXPECT_EQ(stateOf(changed()), before);
+}
+
+TEST_F(StepsTest, ASelectionOfAPolylineThatIsListedTwiceIsInTheNextStep)
+{
+    document->addEntity(document->entities().at(1));
     const auto first = eraseOne();
     const auto second = eraseOne();
     document->setSelected(segmentIdsOf(changed()));

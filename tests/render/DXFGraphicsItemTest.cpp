@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include "dxfviewer/render/DXFGraphicsItem.h"
+#include "dxfviewer/edit/DeleteItems.h"
 
 #include "tests/render/PaintRecorder.h"
 #include "tests/support/Builders.h"
@@ -18,9 +19,11 @@
 #include <QSignalSpy>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <random>
+#include <utility>
 
 using namespace dxftest;
 using ::testing::Contains;
@@ -830,6 +833,60 @@ TEST_F(PictureTest, LinesAreOnePixelWideAtAnyZoom)
             painted += picture.pixelColor(80, y) == QColor(Qt::red) ? 1 : 0;
         EXPECT_EQ(painted, 1) << "at scale " << scale;
     }
+}
+
+// Hosts that change the document while it is painted
+
+class HostsDeviceTest : public LoggedTest
+{
+protected:
+    HostsDeviceTest()
+        : document(QSharedPointer<DXFDocument>::create())
+    {
+        for (int i = 0; i < polylineCount; ++i)
+            document->addEntity(makePolyline({{0.0, 1.0 * i}, {1.0, 1.0 * i}}));
+        item.setDocument(document);
+    }
+
+    /// Paints on a host's device that does something with the first line.
+    QVector<DrawnLines> paint(const std::function<void()>& act)
+    {
+        bool isFirst = true;
+        recorder.setBeforeLines([&] {
+            if (std::exchange(isFirst, false))
+                act();
+        });
+        QPainter painter(&recorder);
+        item.paint(&painter, nullptr, nullptr);
+        return recorder.calls();
+    }
+
+    // So many that the first ones and the last ones are no neighbours.
+    static constexpr int polylineCount = 2000;
+
+    QSharedPointer<DXFDocument> document;
+    DXFGraphicsItem item;
+    PaintRecorder recorder;
+};
+
+TEST_F(HostsDeviceTest, PaintingGoesOnWithTheOldListWhenTheHostErases)
+{
+    const auto erase = [this] {
+        DeleteItems(document, segmentIdsOf(document)).redo();
+    };
+    EXPECT_EQ(paint(erase).size(), polylineCount);
+    EXPECT_EQ(document->entities().size(), 0);
+}
+
+TEST_F(HostsDeviceTest, PaintingSeesWhatTheHostHasChanged)
+{
+    const auto select = [this] {
+        for (DXFPolyline* polyline : polylinesOf(*document))
+            polyline->setSelectedSegments(segmentIdsOf(*polyline));
+    };
+    const auto calls = paint(select);
+    ASSERT_EQ(calls.size(), polylineCount);
+    EXPECT_EQ(calls.constLast().pen.color(), QColor(Qt::red));
 }
 
 } // namespace

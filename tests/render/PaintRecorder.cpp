@@ -60,6 +60,8 @@ void PaintRecorder::Engine::updateState(const QPaintEngineState& /*state*/) {}
 
 void PaintRecorder::Engine::drawLines(const QLineF* lines, int count)
 {
+    if (beforeLines)
+        beforeLines();
     DrawnLines call{{}, painter()->pen()};
     for (int i = 0; i < count; ++i)
         call.lines.append(lines[i]);

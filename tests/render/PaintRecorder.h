@@ -8,6 +8,9 @@
 #include <QPen>
 #include <QVector>
 
+#include <functional>
+#include <utility>
+
 namespace dxftest
 {
 
@@ -27,6 +30,12 @@ public:
     QVector<DrawnLines> calls() const { return m_engine.calls; }
     /// The number of calls that drew something else than lines.
     int otherCalls() const { return m_engine.otherCalls; }
+
+    /// Calls this before each line is recorded, as a host's own device might do anything.
+    void setBeforeLines(std::function<void()> beforeLines)
+    {
+        m_engine.beforeLines = std::move(beforeLines);
+    }
 
     QPaintEngine* paintEngine() const override { return &m_engine; }
 
@@ -49,6 +58,7 @@ private:
         void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override;
         void drawPixmap(const QRectF& target, const QPixmap& pixmap, const QRectF& source) override;
 
+        std::function<void()> beforeLines;
         QVector<DrawnLines> calls;
         int otherCalls = 0;
 
