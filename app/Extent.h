@@ -10,7 +10,7 @@ class QRectF;
 bool fitsIntoView(const QRectF& bounds);
 /// The least scale of a view: Qt takes a smaller one for a scale that has no inverse, and the view
 /// would neither paint nor know the pointer's place.
-constexpr double leastScale = 2e-12;
+inline constexpr double leastScale = 2e-12;
 
 /// The rectangle with a margin on each side, in shares of its longer side.
 QRectF grown(const QRectF& rect, double share);

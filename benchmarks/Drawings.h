@@ -28,7 +28,7 @@ struct Plan {
 };
 
 /// The width and height of every drawing, in drawing units.
-constexpr double drawingSize = 10000.0;
+inline constexpr double drawingSize = 10000.0;
 
 /// The drawing as the text of a DXF file.
 QByteArray makeText(const Plan& plan);

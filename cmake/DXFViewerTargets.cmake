@@ -3,6 +3,11 @@
 include(CheckCXXCompilerFlag)
 
 set(DXFVIEWER_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+# In a unity build the names of one source are in sight of the next, where a local name may well hide
+# them. Builds of single sources look for shadows.
+if(CMAKE_UNITY_BUILD)
+    list(REMOVE_ITEM DXFVIEWER_WARNINGS -Wshadow)
+endif()
 # At -O3 g++ believes that there is no room behind the header of Qt 5's arrays, and warns.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     list(APPEND DXFVIEWER_WARNINGS -Wno-stringop-overflow)
@@ -41,4 +46,16 @@ function(dxfviewer_target_defaults target)
     endif()
     target_compile_definitions(${target} PRIVATE
         QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+endfunction()
+
+# dxfviewer_merge_by_folder(TARGET): a unity build merges the sources of each folder. Their unnamed
+# namespaces have no name twice, but may have names in common with those of other folders.
+function(dxfviewer_merge_by_folder target)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD_MODE GROUP)
+    get_target_property(sources ${target} SOURCES)
+    foreach(source IN LISTS sources)
+        cmake_path(GET source PARENT_PATH folder)
+        string(MAKE_C_IDENTIFIER "folder/${folder}" group)
+        set_source_files_properties("${source}" PROPERTIES UNITY_GROUP ${group})
+    endforeach()
 endfunction()

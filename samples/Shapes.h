@@ -10,7 +10,7 @@
 namespace samples
 {
 
-constexpr double pi = 3.14159265358979323846;
+inline constexpr double pi = 3.14159265358979323846;
 
 struct Point {
     double x = 0.0;

@@ -12,6 +12,7 @@ which passes over it. Names in unnamed namespaces must differ within a folder.
 
 import json
 import pathlib
+import re
 import shlex
 import sys
 
@@ -19,11 +20,18 @@ import sys
 MERGED_OPTIONS = ("-D", "-I")
 
 
+def sources_of(compiled):
+    """A unity build compiles files that include the sources."""
+    included = re.findall(r'^#include "(/.+\.cpp)"$', compiled.read_text(), re.MULTILINE)
+    return [compiled, *map(pathlib.Path, included)]
+
+
 def commands_by_source(build):
     entries = json.loads((build / "compile_commands.json").read_text())
     commands = {}
     for entry in entries:
-        commands.setdefault(pathlib.Path(entry["file"]), shlex.split(entry["command"]))
+        for source in sources_of(pathlib.Path(entry["file"])):
+            commands.setdefault(source, shlex.split(entry["command"]))
     return commands
 
 

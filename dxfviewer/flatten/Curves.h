@@ -10,8 +10,8 @@
 namespace dxfviewer
 {
 
-constexpr double pi = 3.14159265358979323846;
-constexpr double fullTurn = 2.0 * pi;
+inline constexpr double pi = 3.14159265358979323846;
+inline constexpr double fullTurn = 2.0 * pi;
 
 constexpr double radians(double degrees)
 {

@@ -18,7 +18,7 @@ struct Point3 {
 using Points = std::vector<Point3>;
 
 /// Towards who looks at the drawing.
-constexpr Point3 up{0.0, 0.0, 1.0};
+inline constexpr Point3 up{0.0, 0.0, 1.0};
 
 inline Point3 operator+(const Point3& a, const Point3& b)
 {

@@ -20,7 +20,7 @@ namespace dxfviewer
 
 /// The longest line that dxflib's parser survives. The line feed is not counted, a carriage return
 /// is.
-constexpr std::size_t longestLine = 1023;
+inline constexpr std::size_t longestLine = 1023;
 
 /// The first line feed, or the end.
 inline const char* lineEnd(const char* at, const char* end)

@@ -20,7 +20,7 @@ constexpr std::size_t longestReal = 1 + 309 + 1 + decimals;
 constexpr std::size_t longestInt = 11;
 
 // A reader with a buffer of 1,024 bytes gets the whole line, with its line end and the zero.
-constexpr std::size_t longestLine = 1022;
+constexpr std::size_t longestWrittenLine = 1022;
 
 constexpr std::size_t flushLength = 1 << 16;
 constexpr std::size_t longestGroup = 2048;
@@ -99,7 +99,7 @@ void GroupWriter::dxfString(int code, const char* value) const
 
 void GroupWriter::dxfString(int code, const std::string& value) const
 {
-    const auto line = std::string_view(value).substr(0, utf8Prefix(value, longestLine));
+    const auto line = std::string_view(value).substr(0, utf8Prefix(value, longestWrittenLine));
 
     appendCode(code);
     const std::size_t start = m_text.size();

@@ -12,9 +12,9 @@ namespace dxfviewer
 {
 
 /// What DXFEntity::type() returns for a polyline.
-constexpr int polylineType = 0;
+inline constexpr int polylineType = 0;
 /// What it returns for an entity of unknown kind.
-constexpr int unknownType = -1;
+inline constexpr int unknownType = -1;
 
 /// The entity as a polyline; null if it is null or another kind.
 inline DXFPolyline* asPolyline(DXFEntity* entity)

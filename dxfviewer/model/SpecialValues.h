@@ -8,10 +8,10 @@
 namespace dxfviewer
 {
 
-constexpr int byBlockColor = 0;
-constexpr int byLayerColor = 256;
-constexpr int noTrueColor = -1;
-constexpr int byLayerWidth = -1;
-constexpr int byBlockWidth = -2;
+inline constexpr int byBlockColor = 0;
+inline constexpr int byLayerColor = 256;
+inline constexpr int noTrueColor = -1;
+inline constexpr int byLayerWidth = -1;
+inline constexpr int byBlockWidth = -2;
 
 } // namespace dxfviewer

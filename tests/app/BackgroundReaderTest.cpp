@@ -21,7 +21,7 @@ namespace
 {
 
 // Reading takes so long that a test can act in the middle of it.
-constexpr int manyPolylines = 150000;
+constexpr int enoughPolylines = 150000;
 
 QByteArray drawingOf(int polylines)
 {
@@ -57,7 +57,7 @@ protected:
     QString smallFile() const { return fileWith(drawingOf(2), QStringLiteral("small.dxf")); }
     QString largeFile() const
     {
-        return fileWith(drawingOf(manyPolylines), QStringLiteral("large.dxf"));
+        return fileWith(drawingOf(enoughPolylines), QStringLiteral("large.dxf"));
     }
 
     bool waitForEnd()
@@ -109,7 +109,7 @@ TEST_F(BackgroundReaderTest, ReportsItsProgress)
 
     EXPECT_TRUE(std::is_sorted(m_shares.cbegin(), m_shares.cend()));
     EXPECT_LE(m_shares.constLast(), 1.0);
-    EXPECT_EQ(m_result.document->entities().size(), manyPolylines);
+    EXPECT_EQ(m_result.document->entities().size(), enoughPolylines);
 }
 
 TEST_F(BackgroundReaderTest, SaysWhyAFileCannotBeRead)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 
 #include "Navigation.h"
+#include "ViewerParts.h"
 
 #include "dxfviewer/edit/DXFEditor.h"
 #include "dxfviewer/model/DXFDocument.h"
@@ -24,7 +25,17 @@
 
 #include <cmath>
 
-using namespace dxftest;
+using dxftest::drawingText;
+using dxftest::editActionOf;
+using dxftest::editorsOf;
+using dxftest::eventually;
+using dxftest::itemsOf;
+using dxftest::linesOf;
+using dxftest::loadAndShow;
+using dxftest::LoggedTest;
+using dxftest::polylineAt;
+using dxftest::SceneMouse;
+using dxftest::viewOf;
 
 namespace
 {

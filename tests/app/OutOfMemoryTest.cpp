@@ -19,7 +19,11 @@
 #include <atomic>
 #include <new>
 
-using namespace dxftest;
+using dxftest::actionOf;
+using dxftest::DialogRobot;
+using dxftest::eventually;
+using dxftest::fileWith;
+using dxftest::LoggedTest;
 using ::testing::HasSubstr;
 
 namespace

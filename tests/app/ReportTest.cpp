@@ -8,7 +8,10 @@
 
 #include <cmath>
 
-using namespace dxftest;
+using dxftest::LoggedTest;
+using dxftest::makeDocument;
+using dxftest::makePolyline;
+using dxftest::OtherEntity;
 
 namespace
 {

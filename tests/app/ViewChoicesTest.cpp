@@ -26,11 +26,11 @@ namespace
 {
 
 /// A polyline, a line and a text.
-const QByteArray mixedDrawing = "0\nSECTION\n2\nENTITIES\n"
-                                "0\nLWPOLYLINE\n8\n0\n90\n2\n10\n0\n20\n0\n10\n9\n20\n9\n"
-                                "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n5\n21\n5\n"
-                                "0\nTEXT\n8\n0\n10\n0\n20\n0\n40\n3\n1\nA\n"
-                                "0\nENDSEC\n0\nEOF\n";
+const QByteArray drawingOfThree = "0\nSECTION\n2\nENTITIES\n"
+                                  "0\nLWPOLYLINE\n8\n0\n90\n2\n10\n0\n20\n0\n10\n9\n20\n9\n"
+                                  "0\nLINE\n8\n0\n10\n0\n20\n0\n11\n5\n21\n5\n"
+                                  "0\nTEXT\n8\n0\n10\n0\n20\n0\n40\n3\n1\nA\n"
+                                  "0\nENDSEC\n0\nEOF\n";
 
 class ViewChoicesTest : public dxftest::LoggedTest
 {
@@ -53,7 +53,7 @@ protected:
     void openDrawing()
     {
         m_files.open(
-            dxftest::fileWith(mixedDrawing, m_folder.filePath(QStringLiteral("mixed.dxf"))));
+            dxftest::fileWith(drawingOfThree, m_folder.filePath(QStringLiteral("mixed.dxf"))));
         EXPECT_TRUE(nextDrawing());
     }
     bool nextDrawing()

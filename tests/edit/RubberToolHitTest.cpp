@@ -7,6 +7,7 @@
 #include "tests/support/Builders.h"
 #include "tests/support/LoggedTest.h"
 #include "tests/support/OtherEntity.h"
+#include "tests/support/SpecialNumbers.h"
 
 #include <gmock/gmock.h>
 
@@ -26,9 +27,6 @@ using ::testing::IsEmpty;
 
 namespace
 {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 // The hit test
 
@@ -298,8 +296,9 @@ TEST_F(HitTestPropertyTest, SegmentsThatTouchTheRadiusFarFromTheOriginFollowTheR
 
 TEST_F(HitTestPropertyTest, HardNumbersFollowTheRule)
 {
-    const double hard[] = {0.0, -0.0,  1.0,   -5.0,  5e-324, 1e-310,   1e-200, -1e-160,  1e-154,
-                           3e6, -1e15, 1e153, 1e154, 1e300,  -1.7e308, nan,    infinity, -infinity};
+    const double hard[] = {0.0,    -0.0,    1.0,      -5.0,       5e-324,   1e-310,
+                           1e-200, -1e-160, 1e-154,   3e6,        -1e15,    1e153,
+                           1e154,  1e300,   -1.7e308, notANumber, infinity, -infinity};
     std::mt19937 random(22);
     std::uniform_int_distribution<std::size_t> any(0, std::size(hard) - 1);
     const auto number = [&] {
@@ -340,15 +339,15 @@ TEST_F(HitTestPropertyTest, TinyDistancesAtEnormousZoomFollowTheRule)
 TEST_F(HitTestPropertyTest, UndefinedAndInfiniteRadiusFollowTheRule)
 {
     addSegment({0, 0}, {10, 0});
-    addSegment({nan, 0}, {10, 0});
-    addSegment({0, 0}, {nan, 0});
+    addSegment({notANumber, 0}, {10, 0});
+    addSegment({0, 0}, {notANumber, 0});
     addSegment({infinity, 0}, {10, 0});
     addSegment({1e300, 1e300}, {-1e300, 1e300});
     start();
 
-    for (const double scale : {nan, 0.0, -0.0, infinity, -infinity}) {
+    for (const double scale : {notANumber, 0.0, -0.0, infinity, -infinity}) {
         view.setTransform(QTransform(scale, 0, 0, 1, 0, 0));
-        for (const QPointF& pos : {QPointF(0, 0), QPointF(nan, 0), QPointF(infinity, 1),
+        for (const QPointF& pos : {QPointF(0, 0), QPointF(notANumber, 0), QPointF(infinity, 1),
                                    QPointF(5e300, -5e300), QPointF(5, 1e9)})
             compareAt(pos);
     }

@@ -3,6 +3,7 @@
 #include "dxfviewer/edit/SegmentGeometry.h"
 
 #include "tests/support/LoggedTest.h"
+#include "tests/support/SpecialNumbers.h"
 
 #include <cmath>
 #include <limits>
@@ -13,9 +14,6 @@ using namespace dxftest;
 
 namespace
 {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 struct ProjectionRow {
     const char* name;
@@ -184,8 +182,9 @@ TEST_F(SegmentGeometryTest, SmallSegmentFarFromTheOriginIsProjectedOnto)
 
 TEST_F(SegmentGeometryTest, UndefinedCoordinatesAreNeverInside)
 {
-    for (const QLineF& line : {QLineF(nan, 0, 10, 0), QLineF(0, 0, nan, 0), QLineF(0, nan, 10, 0),
-                               QLineF(0, 0, 10, nan), QLineF(nan, nan, nan, nan)}) {
+    for (const QLineF& line :
+         {QLineF(notANumber, 0, 10, 0), QLineF(0, 0, notANumber, 0), QLineF(0, notANumber, 10, 0),
+          QLineF(0, 0, 10, notANumber), QLineF(notANumber, notANumber, notANumber, notANumber)}) {
         bool inside = true;
 
         const QPointF foot = projection({5, 5}, line.p1(), line.p2(), &inside);
@@ -199,21 +198,21 @@ TEST_F(SegmentGeometryTest, UndefinedPointIsNeverInside)
 {
     bool inside = true;
 
-    projection({nan, 5}, {0, 0}, {10, 0}, &inside);
+    projection({notANumber, 5}, {0, 0}, {10, 0}, &inside);
 
     EXPECT_FALSE(inside);
-    EXPECT_TRUE(std::isnan(distPointToSegment({nan, 5}, tenToTheRight)));
+    EXPECT_TRUE(std::isnan(distPointToSegment({notANumber, 5}, tenToTheRight)));
 }
 
 TEST_F(SegmentGeometryTest, UndefinedStartGivesTheDistanceToTheEnd)
 {
-    EXPECT_DOUBLE_EQ(distPointToSegment({13, 4}, QLineF(nan, 0, 10, 0)), 5.0);
+    EXPECT_DOUBLE_EQ(distPointToSegment({13, 4}, QLineF(notANumber, 0, 10, 0)), 5.0);
 }
 
 TEST_F(SegmentGeometryTest, UndefinedEndGivesAnUndefinedDistance)
 {
     // The distance to the start is taken only if it is less than that to the end.
-    EXPECT_TRUE(std::isnan(distPointToSegment({3, 4}, QLineF(0, 0, nan, 0))));
+    EXPECT_TRUE(std::isnan(distPointToSegment({3, 4}, QLineF(0, 0, notANumber, 0))));
 }
 
 TEST_F(SegmentGeometryTest, EndsAtInfinityLeaveTheOtherEnd)

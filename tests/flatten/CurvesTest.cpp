@@ -2,25 +2,18 @@
 
 #include "dxfviewer/flatten/Curves.h"
 
+#include "tests/flatten/TracedCurves.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
 
+using namespace dxftest;
 using namespace dxfviewer;
 
 namespace
 {
-
-const double usualStep = radians(5.625);
-
-double lengthOf(const Points& points)
-{
-    double sum = 0.0;
-    for (std::size_t i = 1; i < points.size(); ++i)
-        sum += length(points[i] - points[i - 1]);
-    return sum;
-}
 
 struct Box {
     double left = 1e300, right = -1e300, bottom = 1e300, top = -1e300;
@@ -46,7 +39,6 @@ double difference(const Box& a, const Box& b)
 
 /// So many more steps than the curves under test that the result counts as exact.
 const double fineStep = usualStep / 200.0;
-constexpr double closeness = 0.002;
 
 TEST(SweepTest, GoesCounterClockwiseFromStartToEnd)
 {

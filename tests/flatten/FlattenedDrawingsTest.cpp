@@ -93,7 +93,7 @@ const Expected drawings[] = {
 };
 // clang-format on
 
-QString listed(const QMap<QString, int>& counts)
+QString listed(const Counts& counts)
 {
     QStringList words;
     for (auto count = counts.begin(); count != counts.end(); ++count)

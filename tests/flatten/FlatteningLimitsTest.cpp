@@ -10,13 +10,6 @@ using namespace dxftest;
 namespace
 {
 
-using Counts = QMap<QString, int>;
-
-QString key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
-
 /// Drawings that would give far too many vertices without a limit.
 class FlatteningLimitsTest : public LoggedTest
 {

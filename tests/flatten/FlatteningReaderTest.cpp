@@ -20,14 +20,8 @@ namespace
 {
 
 using Chains = QVector<QVector<QPointF>>;
-using Counts = QMap<QString, int>;
 
 const double pi = std::acos(-1.0);
-
-QString key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
 
 /// The text of entities in a drawing without anything else.
 Flattened entities(const char* lines, const FlatteningOptions& options = {})

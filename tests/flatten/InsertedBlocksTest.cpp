@@ -16,12 +16,6 @@ namespace
 {
 
 using Chains = QVector<QVector<QPointF>>;
-using Counts = QMap<QString, int>;
-
-QString key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
 
 class InsertedBlocksTest : public LoggedTest
 {

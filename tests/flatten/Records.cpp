@@ -11,6 +11,11 @@
 namespace dxftest
 {
 
+QString key(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
 QByteArray records(const char* lines)
 {
     QByteArray text;

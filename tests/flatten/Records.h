@@ -39,12 +39,18 @@ struct Parts {
 /// The text of a whole drawing.
 QByteArray drawingOf(const Parts& parts);
 
+/// How many there are of each kind, or for each reason.
+using Counts = QMap<QString, int>;
+
+/// A key of such counts.
+QString key(const char* name);
+
 /// The result of reading a drawing.
 struct Flattened {
     QSharedPointer<DXFDocument> document;
     bool isRead = false;
-    QMap<QString, int> shown;
-    QMap<QString, int> skipped;
+    Counts shown;
+    Counts skipped;
     int elsewhere = 0;
     int invisible = 0;
 

@@ -5,28 +5,20 @@
 #include "dxfviewer/flatten/Curves.h"
 #include "dxfviewer/flatten/Fineness.h"
 #include "dxfviewer/io/WorkMeter.h"
+#include "tests/flatten/TracedCurves.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
 
+using namespace dxftest;
 using namespace dxfviewer;
 
 namespace
 {
 
-const double usualStep = radians(5.625);
 constexpr std::size_t plenty = 10'000'000;
-constexpr double closeness = 0.002;
-
-double lengthOf(const Points& points)
-{
-    double sum = 0.0;
-    for (std::size_t i = 1; i < points.size(); ++i)
-        sum += length(points[i] - points[i - 1]);
-    return sum;
-}
 
 bool appendTo(Points& points, const Spline& spline, double step, std::size_t mostPoints)
 {

@@ -16,13 +16,6 @@ using namespace dxftest;
 namespace
 {
 
-using Counts = QMap<QString, int>;
-
-QString key(const char* name)
-{
-    return QString::fromLatin1(name);
-}
-
 Flattened texts(const char* entities)
 {
     FlatteningOptions options;

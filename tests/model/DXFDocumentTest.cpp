@@ -22,14 +22,9 @@ using ::testing::Property;
 namespace
 {
 
-constexpr QPointF a(1, 2);
-constexpr QPointF b(3, 4);
-constexpr QPointF c(5, 0);
-
-int highestId()
-{
-    return IDeletable().id();
-}
+constexpr QPointF cornerA(1, 2);
+constexpr QPointF cornerB(3, 4);
+constexpr QPointF cornerC(5, 0);
 
 QSharedPointer<DXFLineType> makeLineType(const QString& name)
 {
@@ -57,8 +52,8 @@ private:
 class DXFDocumentTest : public LoggedTest
 {
 protected:
-    QSharedPointer<DXFPolyline> openPolyline = makePolyline({a, b, c});
-    QSharedPointer<DXFPolyline> closedPolyline = makePolyline({a, b, c}, true);
+    QSharedPointer<DXFPolyline> openPolyline = makePolyline({cornerA, cornerB, cornerC});
+    QSharedPointer<DXFPolyline> closedPolyline = makePolyline({cornerA, cornerB, cornerC}, true);
     QSharedPointer<OtherEntity> unknownEntity = QSharedPointer<OtherEntity>::create(-1);
     QSharedPointer<OtherEntity> otherEntity = QSharedPointer<OtherEntity>::create(5);
     QSharedPointer<DXFDocument> document = makeDocument(
@@ -215,7 +210,7 @@ TEST_F(DXFDocumentTest, OneDeleteRemovesAllEntriesOfTheObject)
 
 TEST_F(DXFDocumentTest, DeleteOfAnUnlistedEntityIsTrueAndRemovesNothing)
 {
-    EXPECT_TRUE(document->deleteEntity(makePolyline({a, b, c})));
+    EXPECT_TRUE(document->deleteEntity(makePolyline({cornerA, cornerB, cornerC})));
 
     EXPECT_EQ(document->entities().size(), 5);
 }
@@ -446,8 +441,9 @@ TEST_F(DXFDocumentTest, SetupMakesTheSegmentsInTheOrderOfEntities)
 
     EXPECT_THAT(segmentIdsOf(*openPolyline), ElementsAre(highest + 1, highest + 2));
     EXPECT_THAT(segmentIdsOf(*closedPolyline), ElementsAre(highest + 3, highest + 4, highest + 5));
-    EXPECT_THAT(linesOf(document),
-                ElementsAre(QLineF(a, b), QLineF(b, c), QLineF(a, b), QLineF(b, c), QLineF(a, c)));
+    EXPECT_THAT(linesOf(document), ElementsAre(QLineF(cornerA, cornerB), QLineF(cornerB, cornerC),
+                                               QLineF(cornerA, cornerB), QLineF(cornerB, cornerC),
+                                               QLineF(cornerA, cornerC)));
 }
 
 TEST_F(DXFDocumentTest, SetupResolvesColourAndWidthOfEveryKind)
@@ -536,7 +532,7 @@ TEST_F(DXFDocumentTest, SecondSetupDoesNothing)
 TEST_F(DXFDocumentTest, EntityAddedAfterSetupIsNotSetUp)
 {
     document->setup();
-    const auto late = makePolyline({a, b});
+    const auto late = makePolyline({cornerA, cornerB});
     late->setAttributes(makeAttributes(QStringLiteral("0"), 1, -1, 25));
 
     document->addEntity(late);
@@ -548,7 +544,7 @@ TEST_F(DXFDocumentTest, EntityAddedAfterSetupIsNotSetUp)
 
     late->setup();
 
-    EXPECT_THAT(linesOf(*late), ElementsAre(QLineF(a, b)));
+    EXPECT_THAT(linesOf(*late), ElementsAre(QLineF(cornerA, cornerB)));
 }
 
 TEST_F(DXFDocumentTest, DeletingDoesNotAskForAnotherSetup)

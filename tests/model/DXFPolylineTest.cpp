@@ -28,11 +28,6 @@ constexpr QPointF b(3, 4);
 constexpr QPointF c(5, 0);
 constexpr QPointF d(-7, 9);
 
-int highestId()
-{
-    return IDeletable().id();
-}
-
 QVector<Segment> chainOf(const QVector<QLineF>& lines)
 {
     QVector<Segment> segments;

@@ -2,6 +2,7 @@
 
 #include "tests/support/Builders.h"
 
+#include "dxfviewer/model/IDeletable.h"
 #include "dxfviewer/model/Polylines.h"
 
 namespace dxftest
@@ -107,6 +108,11 @@ QVector<int> segmentIdsOf(const QSharedPointer<DXFDocument>& document)
     for (const DXFPolyline* polyline : polylinesOf(*document))
         ids.append(segmentIdsOf(*polyline));
     return ids;
+}
+
+int highestId()
+{
+    return IDeletable().id();
 }
 
 } // namespace dxftest

@@ -48,4 +48,7 @@ QVector<QLineF> linesOf(const QSharedPointer<DXFDocument>& document);
 QVector<int> segmentIdsOf(const DXFPolyline& polyline);
 QVector<int> segmentIdsOf(const QSharedPointer<DXFDocument>& document);
 
+/// The id of a new object: all others that exist have lower ones.
+int highestId();
+
 } // namespace dxftest

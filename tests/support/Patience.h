@@ -11,7 +11,7 @@ namespace dxftest
 
 /// How long a test waits for something before it fails. Far longer than needed: a machine under
 /// load, or under a sanitizer, is slow, and no test measures how long something takes.
-constexpr int patienceMs = 60000;
+inline constexpr int patienceMs = 60000;
 
 /// Handles events until the condition holds. False if it never does.
 template <typename Condition>
