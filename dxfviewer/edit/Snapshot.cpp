@@ -50,7 +50,7 @@ class StatesTaker
 {
 public:
     StatesTaker(const QList<Entity>& entities, int first, int count)
-        : m_states(new PolylineStates)
+        : m_states(std::make_shared<PolylineStates>())
     {
         m_states->all.reserve(static_cast<std::size_t>(count));
         const auto placeOf = [first](int n) {
@@ -63,7 +63,7 @@ public:
         visitEntities(entities, count, placeOf, add, approachState);
     }
 
-    PolylineStates::Pointer states() const { return m_states; }
+    std::shared_ptr<const PolylineStates> states() const { return m_states; }
     int firstCloneId() const { return m_firstCloneId; }
 
     /// Whether the clones of a later snapshot will have the same offsets.
@@ -83,7 +83,7 @@ private:
         m_states->all.push_back(stateOf(polyline, cloneOffset));
     }
 
-    PolylineStates::Pointer m_states;
+    std::shared_ptr<PolylineStates> m_states;
     int m_firstCloneId = 0;
     quint16 m_idsTaken = 0;
 };
@@ -113,11 +113,11 @@ void Snapshot::take(const EntityList& entities, EntitySummaries& summaries)
 /// clone() may change them, but then the block is not used again.
 void Snapshot::addPlain(const EntityList& entities, int first, Block& block)
 {
-    if (block.states) {
+    if (auto states = block.states.lock()) {
         const int firstCloneId = takeId();
         for (int taken = 1; taken < block.count; ++taken)
             takeId();
-        m_parts.push_back({block.states, firstCloneId, {}, 0});
+        m_parts.push_back({std::move(states), firstCloneId, {}, 0});
         return;
     }
     const StatesTaker taker(entities, first, block.count);
@@ -164,7 +164,7 @@ QSharedPointer<DXFEntity> Snapshot::cloneOf(const Place& place)
     if (!part.states)
         return part.otherClone;
     const PolylineStates::One& one = part.states->all[place.index];
-    const bool isShared = part.states->ref.loadRelaxed() > 1 || one.state->ref.loadRelaxed() > 1;
+    const bool isShared = part.states.use_count() > 1 || one.state->ref.loadRelaxed() > 1;
     return one.state->clone(laterId(part.firstCloneId, one.cloneOffset), one.areSegmentsGivenAgain,
                             isShared);
 }

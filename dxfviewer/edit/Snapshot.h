@@ -8,6 +8,7 @@
 #include <QList>
 #include <QSharedPointer>
 
+#include <memory>
 #include <vector>
 
 namespace dxfviewer
@@ -45,7 +46,7 @@ private:
 
     /// Either neighbouring plain polylines, or one other entity.
     struct Part {
-        PolylineStates::Pointer states;
+        std::shared_ptr<const PolylineStates> states;
         /// The id of the first clone.
         int firstCloneId;
         QSharedPointer<DXFEntity> otherClone;

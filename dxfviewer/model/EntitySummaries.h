@@ -9,6 +9,7 @@
 #include <QList>
 #include <QSharedPointer>
 
+#include <memory>
 #include <vector>
 
 class DXFEntity;
@@ -37,8 +38,9 @@ public:
         int count = 0;
         /// One for each entity, or none if nothing is known of them.
         std::vector<PolylineSummary> polylines;
-        /// What the last snapshot has taken, if the polylines are still in these states.
-        PolylineStates::Pointer states;
+        /// What the last snapshot has taken, if the polylines are still in these states. Only
+        /// snapshots own states.
+        std::weak_ptr<const PolylineStates> states;
     };
 
     explicit EntitySummaries(const EntityList& entities);

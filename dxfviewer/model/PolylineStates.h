@@ -4,9 +4,6 @@
 
 #include "dxfviewer/model/PolylineState.h"
 
-#include <QExplicitlySharedDataPointer>
-#include <QSharedData>
-
 #include <vector>
 
 namespace dxfviewer
@@ -18,9 +15,7 @@ namespace dxfviewer
  * Most neighbours stay as they are from step to step. Then the snapshots of all these steps share
  * one list of their states.
  */
-struct PolylineStates : public QSharedData {
-    using Pointer = QExplicitlySharedDataPointer<PolylineStates>;
-
+struct PolylineStates {
     struct One {
         PolylineState::Pointer state;
         /// The id that the polyline had.

@@ -13,7 +13,10 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <functional>
+#include <memory>
+#include <utility>
 
 using namespace dxftest;
 
@@ -137,8 +140,8 @@ QStringList stateOf(DXFPolyline& polyline)
     return state;
 }
 
-// So many that the last one is none of the first one's neighbours.
-constexpr int polylineCount = 600;
+// So many that the first one, those in the middle and the last one are no neighbours.
+constexpr int polylineCount = 1600;
 
 QSharedPointer<DXFDocument> manyPolylines()
 {
@@ -248,7 +251,9 @@ TEST_F(StepsTest, ASelectionByTheDocumentIsInTheNextStep)
 
 TEST_F(StepsTest, ASelectionOfAPolylineThatIsListedTwiceIsInTheNextStep)
 {
-    document->addEntity(document->entities().at(1));
+    auto entities = document->entities();
+    entities.insert(polylineCount / 2, entities.at(1));
+    document = makeDocument(entities);
     const auto first = eraseOne();
     const auto second = eraseOne();
     document->setSelected(segmentIdsOf(changed()));
@@ -297,6 +302,23 @@ TEST_F(StepsTest, ClonesHaveTheIdsOfTheirStep)
     int expected = before;
     for (const DXFPolyline* polyline : polylinesOf(*document))
         EXPECT_EQ(polyline->id(), ++expected);
+}
+
+TEST_F(StepsTest, NothingIsKeptOfAPolylineWhenTheStepsAreGone)
+{
+    auto attributes = makeAttributes(QStringLiteral("A"), 1);
+    const QWeakPointer<DXFAttributes> kept(attributes);
+    changed().setAttributes(std::exchange(attributes, nullptr));
+    auto first = eraseOne();
+    auto second = eraseOne();
+    auto third = eraseOne();
+
+    changed().setAttributes(nullptr);
+    EXPECT_TRUE(kept);
+    first.reset();
+    second.reset();
+    third.reset();
+    EXPECT_FALSE(kept);
 }
 
 TEST_F(StepsTest, AHostMayLookAtTheDocumentWhileAPolylineIsAssigned)
