@@ -26,7 +26,7 @@ int takeId()
 /// The id that follows so many ids later. The greatest id is followed by 1.
 int laterId(int id, unsigned offset)
 {
-    const unsigned left = static_cast<unsigned>(std::numeric_limits<int>::max() - id);
+    const auto left = static_cast<unsigned>(std::numeric_limits<int>::max() - id);
     return static_cast<int>(offset <= left ? static_cast<unsigned>(id) + offset : offset - left);
 }
 
