@@ -86,7 +86,9 @@ private:
             return m_summaries->areCurrent();
         };
         visitEntities(m_entities, count, placeOf, visitOne, [](const Entity&) {});
-        return m_summaries->areCurrent() ? first + block.count : placeOf(visited - 1) + 1;
+        if (m_summaries->areCurrent())
+            return first + block.count;
+        return visited == 0 ? first : placeOf(visited - 1) + 1;
     }
 
     // Copies: a visit may change the document.
