@@ -27,6 +27,10 @@ constexpr double trustedForThinLines = 1e9;
 // Other lines become outlines in fixed-point numbers, whose limits are not far beyond this.
 constexpr double trustedForOutlines = 3e4;
 
+// OpenGL's painter counts in single precision and in drawing units. Far beyond this scale it shows
+// lines in wrong places.
+constexpr double greatestOpenGlScale = 1e4;
+
 // Within these the inverse of a scaling is exact to much less than a pixel.
 constexpr double leastScale = 1e-6;
 constexpr double greatestScale = 1e6;
@@ -65,9 +69,9 @@ VisibleArea::VisibleArea(const QPainter& painter)
     if (!device || !makesPixels(*engine) || !painter.deviceTransform().isAffine())
         return;
 
-    m_isKnown = true;
     setTransform(painter.deviceTransform());
     m_drawsThinLinesExactly = engine->type() == QPaintEngine::Raster;
+    m_isKnown = m_drawsThinLinesExactly || m_stretch < greatestOpenGlScale;
     // Some devices give their size in pixels, some do not. Too large an area does no harm.
     m_pixelRatio = std::max(1.0, static_cast<double>(device->devicePixelRatioF()));
     m_area = QRectF(0, 0, device->width() * m_pixelRatio, device->height() * m_pixelRatio);

@@ -95,6 +95,18 @@ TEST_F(VisibleAreaTest, PictureRecordsEveryLine)
     EXPECT_EQ(device.calls().size() + device.otherCalls(), 2);
 }
 
+TEST_F(VisibleAreaTest, OpenGlLeavesOutWhatIsOutsideUnlessTheScaleIsExtreme)
+{
+    const auto drawn = [this](double scale) {
+        show({{inside.p1() / scale, inside.p2() / scale},
+              {outside.p1() / scale, outside.p2() / scale}});
+        PaintRecorder device(QPaintEngine::OpenGL2);
+        return drawnOn(device, [scale](QPainter& painter) { painter.scale(scale, scale); }).size();
+    };
+    EXPECT_EQ(drawn(1e3), 1);
+    EXPECT_EQ(drawn(1e5), 2);
+}
+
 TEST_F(VisibleAreaTest, EachSegmentOfAPolylineIsTestedAlone)
 {
     document = makeDocument({makePolyline({{200, 10}, {300, 10}, {50, 50}, {60, 50}})});
