@@ -97,16 +97,19 @@ while they arrive, and the room that is left over is given back as soon as the p
 
 **Painting** skips what cannot be seen when the painter makes pixels. A polyline knows its bounds,
 so most polylines cost one comparison with the visible part of the drawing and none of their
-segments is looked at. Pens are kept and handed over only when the next segment needs another.
+segments is looked at. Pens are kept and handed over only when the next segment needs another. Thin
+lines go to the raster painter in groups.
 
 **Following the mouse** is painting and nothing else, so zoomed in it costs a walk over the
-polylines and the lines in view.
+polylines and the lines in view. The walk reads summaries of the polylines, which lie side by side in
+memory; the polylines themselves lie scattered. [Why and how](decisions/summaries.md).
 
-**Erasing** is a hit test, a selection, a step of undo and a painting for each move. The hit test
-asks the bounds first. The selection asks the range of a polyline's segment ids and whether any
-segment is flagged, and opens a polyline only if it is concerned. A step keeps a record of each
-polyline that the next steps share while it stays the same; clones are made from the records when
-undo needs them, with the ids that the step set aside for them.
+**Erasing** is a hit test, a selection, a step of undo and a painting for each move. All of them read
+the summaries. The hit test asks the bounds. The selection asks the range of a polyline's segment
+ids and whether any segment is flagged, and opens a polyline only if it is concerned. A step keeps a
+record of each polyline. The next steps share it while the polyline stays the same, and neighbours
+that all stay the same share one list of records. Clones are made from the records when undo needs
+them, with the ids that the step set aside for them.
 
 **Memory.** The points of vertices without bulge and z stand in the segments already, so that after
 the set-up such vertices are kept no longer, until somebody asks for them."""
