@@ -234,19 +234,26 @@ TEST_P(HostChangesTest, AreSeenWhenHoveringEnds)
                              [](const Segment& segment) { return segment.isHovered(); }));
 }
 
-using StepsTest = HostChangesTest;
+class StepsTest : public HostChangesTest
+{
+protected:
+    void expectSelectionIsInTheNextStep()
+    {
+        const auto first = eraseOne();
+        const auto second = eraseOne();
+        document->setSelected(segmentIdsOf(changed()));
+        const QStringList before = stateOf(changed());
+
+        const auto third = eraseOne();
+        third->undo();
+
+        EXPECT_EQ(stateOf(changed()), before);
+    }
+};
 
 TEST_F(StepsTest, ASelectionByTheDocumentIsInTheNextStep)
 {
-    const auto first = eraseOne();
-    const auto second = eraseOne();
-    document->setSelected(segmentIdsOf(changed()));
-    const QStringList before = stateOf(changed());
-
-    const auto third = eraseOne();
-    third->undo();
-
-    EXPECT_EQ(stateOf(changed()), before);
+    expectSelectionIsInTheNextStep();
 }
 
 TEST_F(StepsTest, ASelectionOfAPolylineThatIsListedTwiceIsInTheNextStep)
@@ -254,15 +261,7 @@ TEST_F(StepsTest, ASelectionOfAPolylineThatIsListedTwiceIsInTheNextStep)
     auto entities = document->entities();
     entities.insert(polylineCount / 2, entities.at(1));
     document = makeDocument(entities);
-    const auto first = eraseOne();
-    const auto second = eraseOne();
-    document->setSelected(segmentIdsOf(changed()));
-    const QStringList before = stateOf(changed());
-
-    const auto third = eraseOne();
-    third->undo();
-
-    EXPECT_EQ(stateOf(changed()), before);
+    expectSelectionIsInTheNextStep();
 }
 
 TEST_F(StepsTest, APieceThatIsCutOffIsInTheNextStep)

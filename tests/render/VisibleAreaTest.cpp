@@ -307,6 +307,8 @@ private:
 
     double extreme()
     {
+        if (upTo(5) == 0)
+            return std::numeric_limits<double>::quiet_NaN();
         const double power = std::pow(10.0, real(-300, 300));
         return upTo(1) == 0 ? power : -power;
     }
