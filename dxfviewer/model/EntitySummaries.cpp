@@ -50,9 +50,7 @@ EntitySummaries::EntitySummaries(const EntityList& entities)
         append(asPlainPolyline(entity.data()));
         return true;
     };
-    const auto approach = [](const QSharedPointer<DXFEntity>&) {
-    };
-    visitEntities(entities, static_cast<int>(entities.size()), placeOf, add, approach);
+    visitEntities(entities, static_cast<int>(entities.size()), placeOf, add);
 }
 
 void EntitySummaries::append(const DXFPolyline* polyline)

@@ -57,4 +57,11 @@ void visitEntities(const QList<QSharedPointer<DXFEntity>>& entities, int count, 
     }
 }
 
+template <typename PlaceOf, typename Visit>
+void visitEntities(const QList<QSharedPointer<DXFEntity>>& entities, int count, PlaceOf placeOf,
+                   Visit visit)
+{
+    visitEntities(entities, count, placeOf, visit, [](const QSharedPointer<DXFEntity>&) {});
+}
+
 } // namespace dxfviewer

@@ -85,7 +85,7 @@ private:
             ++visited;
             return m_summaries->areCurrent();
         };
-        visitEntities(m_entities, count, placeOf, visitOne, [](const Entity&) {});
+        visitEntities(m_entities, count, placeOf, visitOne);
         if (m_summaries->areCurrent())
             return first + block.count;
         return visited == 0 ? first : placeOf(visited - 1) + 1;
